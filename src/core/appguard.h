@@ -1,0 +1,70 @@
+/// Which data belongs to security-sensitive apps, which apps are running, and which files are open.
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+namespace appguard {
+
+/// Whether a component of @p path is the data of a password manager, an input method, a security agent or a VPN.
+/// Goes by the text alone, in any case of letters. Any thread.
+[[nodiscard]] bool isProtectedAppData(const QString& path);
+/// The same for one component.
+[[nodiscard]] bool isProtectedName(QStringView component);
+/// What isProtectedAppData guards, translated, for showing.
+[[nodiscard]] QString protectedSummary();
+
+/// The running applications at one moment.
+struct RunningApps {
+  QSet<QString> bundleIds;            ///< lower case; on Linux Flatpak ids and snap names
+  QHash<QString, QString> appNames;   ///< lower-case id to display name
+  QSet<QString> processes;            ///< lower-case names of executables
+  QList<QString> processDirs;         ///< folder of each executable, lower case, with a "/" at the end; may repeat
+};
+
+/// The user's open files at one moment. A folder that some process works in counts as open.
+struct OpenFiles {
+  QSet<QString> files;    ///< clean absolute paths
+  QSet<QString> parents;  ///< every folder above them, except "/"
+
+  /// Adds a clean absolute path and the folders above it.
+  void add(const QString& path);
+  /// Whether the file itself is open.
+  [[nodiscard]] bool contains(const QString& path) const;
+  /// Whether something below this folder is open.
+  [[nodiscard]] bool containsUnder(const QString& path) const;
+};
+
+/// Where the snapshots come from, for tests.
+struct Sources {
+  QString procRoot = QStringLiteral("/proc");
+  QString ps = QStringLiteral("/bin/ps");
+  QString lsof = QStringLiteral("/usr/sbin/lsof");
+  int toolLimitMs = 10000;       ///< for ps and for the question about one file
+  int openFilesLimitMs = 30000;  ///< for the list of open files
+};
+
+/// Takes a snapshot. Blocks for as long as the system's source takes; never fails, an unreadable source is empty.
+[[nodiscard]] RunningApps runningApps(const Sources& sources = {});
+[[nodiscard]] OpenFiles openFiles(const Sources& sources = {});
+/// Whether some process has exactly this file open now. False where that can't be told.
+[[nodiscard]] bool isFileInUse(const QString& path, const Sources& sources = {});
+
+/// Display name of the running app that @p path belongs to; empty if none. Reads the disk only for the cache roots.
+[[nodiscard]] QString runningOwner(const QString& path, const RunningApps& apps);
+
+/// The macOS route, whole on every system so that tests hold it: what the tools print, taken apart.
+namespace tools {
+/// @p psOutput is one executable path a line; reads the Info.plist of bundles on the way, each once a process.
+[[nodiscard]] RunningApps parseProcesses(const QString& psOutput);
+/// @p lsofOutput is in lsof's field form with names only.
+[[nodiscard]] OpenFiles parseOpenFiles(const QString& lsofOutput);
+[[nodiscard]] RunningApps runningApps(const Sources& sources);
+[[nodiscard]] OpenFiles openFiles(const Sources& sources);
+[[nodiscard]] bool isFileInUse(const QString& path, const Sources& sources);
+}  // namespace tools
+
+}  // namespace appguard

@@ -1,0 +1,51 @@
+/// What differs between desktop systems, in words and services.
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+namespace platform {
+
+enum class Host { Mac, Linux };
+
+/// Whose tables and words are in force: the system that the program was built for, unless the environment variable
+/// TARNWICK_HOST says "mac" or "linux". Read afresh each time, so that a test can change it.
+[[nodiscard]] Host host();
+/// The system that the program was built for; sources (processes, removal, Trash, names) follow this.
+[[nodiscard]] Host builtFor();
+/// Whether host() is another one than builtFor(): the protected lists of both then hold together.
+[[nodiscard]] bool isPreview();
+
+/// The volume with the user's home on it. Sizes in bytes.
+struct Volume {
+  QString name;             ///< display name
+  QString fileSystem;       ///< type in capitals, such as "APFS" or "EXT4"
+  QString rootPath;         ///< mount point
+  qint64 totalBytes = 0;
+  qint64 availableBytes = 0;  ///< what the user can count on, purgeable space included
+  qint64 purgeableBytes = 0;  ///< the part of it that the system frees when it must; 0 when unknown
+};
+
+/// Reads the figures now; zeros where the system doesn't tell.
+[[nodiscard]] Volume systemVolume();
+/// Folds the system's figure for important usage into @p volume: the larger figure counts, the difference is purgeable.
+void applyImportantCapacity(Volume* volume, qint64 importantBytes);
+
+/// "Trash", and the file manager's name, translated.
+[[nodiscard]] QString trashName();
+[[nodiscard]] QString fileManagerName();
+
+/// For systems with a recycle bin that is emptied as a whole, or with elevation; on both hosts false and without effect.
+[[nodiscard]] bool queryRecycleBin(qint64* bytes, qint64* items);
+[[nodiscard]] bool emptyRecycleBin();
+[[nodiscard]] bool isElevated();
+[[nodiscard]] bool relaunchElevated();
+
+/// Shows the file in the file manager. Returns at once; a failure isn't reported.
+void revealInFileManager(const QString& path);
+/// Opens a folder in the file manager. Returns at once; a failure isn't reported.
+void openFolder(const QString& path);
+/// Opens the system's pane for Full Disk Access; nothing on Linux.
+void openFullDiskAccessSettings();
+
+}  // namespace platform

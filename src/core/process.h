@@ -1,0 +1,15 @@
+/// Runs an outside tool and waits for it.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace process {
+
+/// Runs @p program without a shell and returns its standard output, read as UTF-8. Blocks the calling thread for
+/// @p limitMs at most, plus 1000 ms to end it.
+/// @param exitCode  receives the exit code, or -1 after a crash, a time-out or a failed start; may be null
+/// @return empty after a time-out or a failed start
+QString run(const QString& program, const QStringList& arguments, int limitMs, int* exitCode = nullptr);
+
+}  // namespace process

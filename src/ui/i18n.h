@@ -1,0 +1,30 @@
+/// Which of the ten interface languages is in force, and its catalogue.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+class QCoreApplication;
+
+namespace i18n {
+
+struct Language {
+  QString code;
+  QString name;  ///< in the language itself
+};
+
+/// The ten languages in the order of all lists.
+[[nodiscard]] const QList<Language>& languages();
+/// Name of the language with exactly this code, or "English".
+[[nodiscard]] QString nativeName(const QString& code);
+/// The best code for the system's language preferences.
+[[nodiscard]] QString systemLanguage();
+/// The same for any list of preferences, the preferred one first.
+[[nodiscard]] QString languageFor(const QStringList& uiLanguages);
+/// The code to use now: the environment variable TARNWICK_LANG, else the setting, else the system's.
+[[nodiscard]] QString effectiveLanguage();
+/// Loads the catalogue and sets the default locale. Once, before any text is shown.
+void install(QCoreApplication* app);
+
+}  // namespace i18n
