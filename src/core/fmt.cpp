@@ -1,0 +1,88 @@
+#include "core/fmt.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLocale>
+
+namespace fmt {
+
+namespace {
+enum class Figure { Fixed, Rounded };
+
+/// One line of the table of sizes: the first whose @c from is reached is used.
+struct Step {
+  qint64 from;
+  double divisor;
+  Figure figure;
+  int decimals;
+  const char* unit;
+};
+constexpr Step kSteps[] = {
+    {1'000'000'000'000, 1e12, Figure::Fixed, 1, QT_TRANSLATE_NOOP("fmt", "TB")},
+    {100'000'000'000, 1e9, Figure::Fixed, 0, QT_TRANSLATE_NOOP("fmt", "GB")},
+    {1'000'000'000, 1e9, Figure::Fixed, 1, QT_TRANSLATE_NOOP("fmt", "GB")},
+    {1'000'000, 1e6, Figure::Rounded, 0, QT_TRANSLATE_NOOP("fmt", "MB")},
+    {1000, 1e3, Figure::Rounded, 0, QT_TRANSLATE_NOOP("fmt", "KB")},
+};
+
+QString withUnit(const QString& number, const char* unit) {
+  return QCoreApplication::translate("fmt", "%1 %2").arg(number, QCoreApplication::translate("fmt", unit));
+}
+
+QString ago(const char* text, qint64 n) {
+  return QCoreApplication::translate("fmt", text, nullptr, static_cast<int>(n));
+}
+} // namespace
+
+QString bytes(qint64 n) {
+  const QLocale locale;
+  for (const Step& step : kSteps) {
+    if (n < step.from) continue;
+    const double value = static_cast<double>(n) / step.divisor;
+    const bool fixed = step.figure == Figure::Fixed;
+    return withUnit(fixed ? locale.toString(value, 'f', step.decimals)
+                          : locale.toString(static_cast<qint64>(value + 0.5)),
+                    step.unit);
+  }
+  return withUnit(locale.toString(n > 0 ? 1 : 0), "KB");
+}
+
+QString count(qint64 n) { return QLocale().toString(n); }
+
+int monthsSince(const QDateTime& when) { return monthsSince(when, QDate::currentDate()); }
+
+int monthsSince(const QDateTime& when, QDate today) {
+  if (!when.isValid()) return 0;
+  const QDate then = when.date();
+  const int months =
+      (today.year() - then.year()) * 12 + today.month() - then.month() - (today.day() < then.day() ? 1 : 0);
+  return qMax(0, months);
+}
+
+QString age(const QDateTime& when) { return age(when, QDate::currentDate()); }
+
+QString age(const QDateTime& when, QDate today) {
+  if (!when.isValid()) return {};
+  const qint64 days = when.date().daysTo(today);
+  if (days < 1) return QCoreApplication::translate("fmt", "Today");
+  if (days == 1) return QCoreApplication::translate("fmt", "Yesterday");
+  if (days < 7) return ago(QT_TRANSLATE_NOOP("fmt", "%n day(s) ago"), days);
+  if (days <= 30) return ago(QT_TRANSLATE_NOOP("fmt", "%n week(s) ago"), days / 7);
+  const int months = monthsSince(when, today);
+  if (months < 12) return ago(QT_TRANSLATE_NOOP("fmt", "%n month(s) ago"), qMax(1, months));
+  return ago(QT_TRANSLATE_NOOP("fmt", "%n year(s) ago"), months / 12);
+}
+
+QString clock(qint64 seconds) {
+  const qint64 whole = qMax<qint64>(0, seconds);
+  return QStringLiteral("%1:%2").arg(whole / 60).arg(whole % 60, 2, 10, QLatin1Char('0'));
+}
+
+QString shortPath(const QString& path) {
+  const QString native = QDir::toNativeSeparators(path);
+  const QString home = QDir::toNativeSeparators(QDir::homePath());
+  if (!native.startsWith(home, Qt::CaseInsensitive)) return native;
+  return QLatin1Char('~') + native.mid(home.size());
+}
+
+} // namespace fmt

@@ -1,6 +1,7 @@
 /// Numbers, dates and paths as the user reads them, in the language in force. Sizes are decimal. Any thread.
 #pragma once
 
+#include <QDate>
 #include <QDateTime>
 #include <QString>
 
@@ -8,17 +9,25 @@ namespace fmt {
 
 /// Bytes in a kilobyte.
 [[nodiscard]] constexpr qint64 unit() { return 1000; }
-/// A size, never smaller than "1 KB" but for 0 and less, which is "0 KB".
+/// A size, never smaller than "1 KB" but for 0 and less, which is "0 KB". One decimal from a terabyte on and from one
+/// to a hundred gigabytes, else whole numbers. The unit follows from the exact count and not from the rounded figure,
+/// so 999,999,999 is "1,000 MB".
 [[nodiscard]] QString bytes(qint64 bytes);
 /// A count with group separators.
 [[nodiscard]] QString count(qint64 n);
-/// Whole calendar months from @p when to today; 0 for an invalid or future date.
+/// Whole calendar months from @p when to today; 0 for an invalid or future date. A month is whole on the same day of
+/// the month: from January 31 to February 28 there are none.
 [[nodiscard]] int monthsSince(const QDateTime& when);
-/// How long ago, in words; empty for an invalid date.
+/// How long ago, in words: "Today" (future dates too), "Yesterday", then days, weeks, months, years; empty for an
+/// invalid date.
 [[nodiscard]] QString age(const QDateTime& when);
+/// The same as seen on the day @p today, which the two above take from the clock.
+[[nodiscard]] int monthsSince(const QDateTime& when, QDate today);
+[[nodiscard]] QString age(const QDateTime& when, QDate today);
 /// Minutes and seconds, "62:05"; a negative value counts as 0.
 [[nodiscard]] QString clock(qint64 seconds);
-/// @p path in native separators with the home folder at its start as "~".
+/// @p path in native separators with the home folder at its start as "~". Goes by the text alone, in any case of
+/// letters and without asking for a separator: below a home of "/home/me" the path "/home/mebackup/x" is "~backup/x".
 [[nodiscard]] QString shortPath(const QString& path);
 
-}  // namespace fmt
+} // namespace fmt

@@ -1,0 +1,42 @@
+#include "core/platform.h"
+
+#include <QCoreApplication>
+
+namespace platform {
+
+Host host() {
+  const QByteArray wish = qgetenv("TARNWICK_HOST");
+  if (wish == "mac") return Host::Mac;
+  if (wish == "linux") return Host::Linux;
+  return builtFor();
+}
+
+bool isPreview() { return host() != builtFor(); }
+
+QString volumeName(const QString& label, const QString& mountPoint, VolumeRole role) {
+  const bool root = role == VolumeRole::Root;
+  if (host() == Host::Mac) return root || label.isEmpty() ? QStringLiteral("Macintosh HD") : label;
+  if (!label.isEmpty()) return label;
+  const QString name = mountPoint.section(QLatin1Char('/'), -1, -1, QString::SectionSkipEmpty);
+  return root || name.isEmpty() ? QCoreApplication::translate("Platform", "System disk") : name;
+}
+
+void applyImportantCapacity(Volume* volume, qint64 importantBytes) {
+  if (importantBytes <= volume->availableBytes) return;
+  volume->purgeableBytes = importantBytes - volume->availableBytes;
+  volume->availableBytes = importantBytes;
+}
+
+QString trashName() { return QCoreApplication::translate("Platform", "Trash"); }
+
+QString fileManagerName() {
+  return host() == Host::Mac ? QCoreApplication::translate("Platform", "Finder")
+                             : QCoreApplication::translate("Platform", "Files");
+}
+
+bool queryRecycleBin(qint64* /*bytes*/, qint64* /*items*/) { return false; }
+bool emptyRecycleBin() { return false; }
+bool isElevated() { return false; }
+bool relaunchElevated() { return false; }
+
+} // namespace platform

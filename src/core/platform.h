@@ -18,16 +18,20 @@ enum class Host { Mac, Linux };
 
 /// The volume with the user's home on it. Sizes in bytes.
 struct Volume {
-  QString name;             ///< display name
-  QString fileSystem;       ///< type in capitals, such as "APFS" or "EXT4"
-  QString rootPath;         ///< mount point
+  QString name;       ///< display name
+  QString fileSystem; ///< type in capitals, such as "APFS" or "EXT4"
+  QString rootPath;   ///< mount point
   qint64 totalBytes = 0;
-  qint64 availableBytes = 0;  ///< what the user can count on, purgeable space included
-  qint64 purgeableBytes = 0;  ///< the part of it that the system frees when it must; 0 when unknown
+  qint64 availableBytes = 0; ///< what the user can count on, purgeable space included
+  qint64 purgeableBytes = 0; ///< the part of it that the system frees when it must; 0 when unknown
 };
 
-/// Reads the figures now; zeros where the system doesn't tell.
+/// Reads the figures now; zeros where the system doesn't tell. May wait for the disk.
 [[nodiscard]] Volume systemVolume();
+/// How the host in force names a volume. macOS: the label, but "Macintosh HD" for the root volume and for one without a
+/// label. Linux: the label, else "System disk" for the root volume, else the last part of the mount point.
+enum class VolumeRole { Root, Other };
+[[nodiscard]] QString volumeName(const QString& label, const QString& mountPoint, VolumeRole role);
 /// Folds the system's figure for important usage into @p volume: the larger figure counts, the difference is purgeable.
 void applyImportantCapacity(Volume* volume, qint64 importantBytes);
 
@@ -35,7 +39,8 @@ void applyImportantCapacity(Volume* volume, qint64 importantBytes);
 [[nodiscard]] QString trashName();
 [[nodiscard]] QString fileManagerName();
 
-/// For systems with a recycle bin that is emptied as a whole, or with elevation; on both hosts false and without effect.
+/// For systems with a recycle bin that is emptied as a whole, or with elevation; on both hosts false and without
+/// effect.
 [[nodiscard]] bool queryRecycleBin(qint64* bytes, qint64* items);
 [[nodiscard]] bool emptyRecycleBin();
 [[nodiscard]] bool isElevated();
@@ -48,4 +53,4 @@ void openFolder(const QString& path);
 /// Opens the system's pane for Full Disk Access; nothing on Linux.
 void openFullDiskAccessSettings();
 
-}  // namespace platform
+} // namespace platform
