@@ -1,0 +1,215 @@
+#!/usr/bin/env python3
+"""Feeds each lint sources that break its rule, line by line, and sources that don't."""
+
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+HERE = pathlib.Path(__file__).resolve().parent
+
+
+class LintCase(unittest.TestCase):
+    """Builds a small repository and runs one lint over it."""
+
+    lint = ""
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.root = pathlib.Path(folder.name)
+        (self.root / "src").mkdir()
+
+    def write(self, name: str, text: str):
+        path = self.root / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text, encoding="utf-8")
+
+    def run_lint(self) -> tuple[int, list[str]]:
+        command = [sys.executable, HERE / f"{self.lint}.py", self.root]
+        done = subprocess.run(command, capture_output=True, text=True, check=False)
+        self.assertEqual(done.stderr, "")
+        return done.returncode, done.stdout.splitlines()
+
+    def assert_clean(self):
+        self.assertEqual(self.run_lint(), (0, []))
+
+    def assert_found(self, *places: str):
+        """Exactly these places, as FILE:LINE, are found, and the rule is told."""
+        status, lines = self.run_lint()
+        self.assertEqual(status, 1)
+        self.assertEqual([line.split(": ")[0] for line in lines[:-1]], list(places), lines)
+        self.assertTrue(lines[-1].startswith("Rule: "))
+
+
+class Layers(LintCase):
+    lint = "layers"
+
+    def test_an_include_that_points_up_is_found_with_file_line_and_layers(self):
+        self.write("src/core/fs.h", '#pragma once\n')
+        self.write("src/engines/Scanner.h", '#pragma once\n#include "core/fs.h"\n')
+        self.write("src/core/fs.cpp", '#include "core/fs.h"\n\n#include "engines/Scanner.h"\n')
+        self.assert_found("src/core/fs.cpp:3")
+        self.assertIn("engines, which core may not include", self.run_lint()[1][0])
+
+    def test_every_layer_may_include_what_lies_below_and_nothing_else(self):
+        layers = [
+            "core/fs.h",
+            "app/records.h",
+            "engines/Scanner.h",
+            "app/AppState.h",
+            "ui/i18n.h",
+            "ui/Theme.h",
+            "ui/pages/Page.h",
+            "ui/shell/MainWindow.h",
+        ]
+        for level, name in enumerate(layers):
+            for other in layers:
+                self.write("src/" + other, "#pragma once\n")
+            self.write("src/" + name, "".join(f'#include "{other}"\n' for other in layers))
+            if level + 1 < len(layers):
+                self.assert_found(*[f"src/{name}:{line}" for line in range(level + 2, len(layers) + 1)])
+            else:
+                self.assert_clean()
+
+    def test_updates_know_only_core_and_only_the_shell_knows_them(self):
+        for name in ["core/fs.h", "app/AppState.h", "ui/Theme.h", "update/Updater.h"]:
+            self.write("src/" + name, "#pragma once\n")
+        self.write("src/update/Updater.cpp", '#include "core/fs.h"\n#include "app/AppState.h"\n')
+        self.write("src/ui/Theme.cpp", '#include "update/Updater.h"\n')
+        self.write("src/ui/shell/MainWindow.cpp", '#include "update/Updater.h"\n')
+        self.assert_found("src/ui/Theme.cpp:1", "src/update/Updater.cpp:2")
+
+    def test_the_terminal_program_stays_clear_of_the_window(self):
+        self.write("src/ui/Theme.h", "")
+        self.write("src/ui/i18n.h", "")
+        self.write("src/cli/main.cpp", '#include "ui/i18n.h"\n#  include "ui/Theme.h"\n')
+        self.assert_found("src/cli/main.cpp:2")
+
+    def test_an_include_that_is_not_by_its_path_from_src_is_found(self):
+        self.write("src/core/fs.h", "")
+        self.write("src/core/fs.cpp", '#include "fs.h"\n#include "../core/fs.h"\n#include "gone.h"\n')
+        self.assert_found("src/core/fs.cpp:1", "src/core/fs.cpp:2", "src/core/fs.cpp:3")
+
+    def test_comments_generated_files_and_the_system_are_let_be(self):
+        self.write("src/core/a.cpp", '// #include "engines/Scanner.h"\n/*\n#include "x.h"\n*/\n#include <QString>\n#include "a.moc"\n')
+        self.assert_clean()
+
+
+class Removal(LintCase):
+    lint = "removal"
+
+    BAD = [
+        "  ::unlink(path);",
+        "  if (unlink(path) != 0) return;",
+        "  return unlinkat(fd, name, 0);",
+        "  (void)::rmdir(path);",
+        "  a && rename(a, b);",
+        "  if (0 > renameat(1, a, 2, b)) return;",
+        "  std::remove(path);",
+        "  sys::renameNoReplace(1, a, 2, b);",
+        "  syscall(SYS_renameat2, 1, a, 2, b, 0);",
+        "  QFile::remove(path);",
+        "  QFile::moveToTrash(path);",
+        "  QFile(path).remove();",
+        "  QDir().rmdir(path);",
+        "  QDir(path).removeRecursively();",
+        "  folder().removeRecursively();",
+        "  std::filesystem::remove_all(path);",
+    ]
+    GOOD = [
+        "  list.remove(3);",
+        "  text->remove(QChar(u'x'));",
+        "  settings.moveToTrash();",
+        "  void remove(const Target& target);",
+        "  std::unique_ptr<int> rename(int a);",
+        "  Remover::remove(target);",
+        "  // unlink(path)",
+        '  log("unlink(path)");',
+        '  log(R"(rmdir("a"))");',
+        "  removed(path);",
+        "  QFile::exists(path);",
+        "  std::remove_if(a, b, c);",
+    ]
+
+    def test_every_way_to_remove_or_move_is_found(self):
+        self.write("src/engines/Bad.cpp", "\n".join(["void f() {", *self.BAD, "}"]))
+        self.assert_found(*[f"src/engines/Bad.cpp:{line}" for line in range(2, len(self.BAD) + 2)])
+
+    def test_a_file_object_is_known_by_its_declaration(self):
+        self.write("src/app/a.h", "struct A {\n  QFile m_file;\n};\n")
+        self.write("src/app/a.cpp", "void f(QDir& dir) {\n  QFile one(path);\n  one.remove();\n  dir.rmdir(name);\n  m_file.rename(x);\n}\n")
+        self.write("src/app/b.cpp", "void f(QString one) {\n  one.remove(3);\n}\n")
+        self.assert_found("src/app/a.cpp:3", "src/app/a.cpp:4", "src/app/a.cpp:5")
+
+    def test_what_only_looks_like_it_is_let_be(self):
+        self.write("src/engines/good.cpp", "\n".join(self.GOOD))
+        self.assert_clean()
+
+    def test_the_primitive_may(self):
+        for name in ["core/removal.cpp", "core/removal_retry.cpp", "core/trash.h", "core/linux/trash.cpp", "core/macos/trash.mm"]:
+            self.write("src/" + name, "void f() { ::unlink(path); }\n")
+        self.assert_clean()
+
+    def test_what_is_allowed_is_allowed_there_alone(self):
+        self.write("src/core/linux/sys.cpp", "int renameNoReplace(int a) { return renameat2(a); }\nint f() { return unlink(p); }\n")
+        self.write("src/core/fs.cpp", "int f() { return renameat2(a); }\n")
+        self.assert_found("src/core/fs.cpp:1", "src/core/linux/sys.cpp:2")
+
+
+class Systems(LintCase):
+    lint = "systems"
+
+    def test_conditions_on_the_system_are_found(self):
+        words = ["Q_OS_MACOS", "Q_OS_LINUX", "Q_OS_WIN", "__APPLE__", "__linux__", "_WIN32", "TARGET_OS_MAC"]
+        self.write("src/core/fs.cpp", "".join(f"#if defined({word})\n#endif\n" for word in words))
+        self.assert_found(*[f"src/core/fs.cpp:{2 * i + 1}" for i in range(len(words))])
+
+    def test_folders_of_a_system_may_and_comments_do_not_count(self):
+        for folder in ["core/linux", "core/macos", "ui/shell/macos", "ui/shell/macos/deeper"]:
+            self.write(f"src/{folder}/a.cpp", "#ifdef __APPLE__\n#endif\n")
+        self.write("src/core/a.cpp", "// not with Q_OS_MACOS\nint n = 0; /* __linux__ */\n")
+        self.assert_clean()
+
+    def test_a_file_named_like_a_system_is_no_folder_of_it(self):
+        self.write("src/core/linux.cpp", "#ifdef __linux__\n#endif\n")
+        self.assert_found("src/core/linux.cpp:1")
+
+
+class Shape(LintCase):
+    lint = "shape"
+
+    def test_a_file_splits_before_it_is_long(self):
+        self.write("src/core/short.cpp", "\n" * 500)
+        self.write("src/core/long.cpp", "\n" * 501)
+        self.assert_found("src/core/long.cpp:501")
+
+    def test_a_guessed_wait_is_found_unless_it_says_why(self):
+        self.write("tests/core/tst_a.cpp", "QTest::qWait(10);\nQTRY_VERIFY(x);\n// qWait(1)\nQThread::msleep(3);  // waits because the clock must move\n")
+        self.assert_found("tests/core/tst_a.cpp:1")
+
+
+class Common(LintCase):
+    lint = "systems"
+
+    def test_a_folder_without_sources_is_no_success(self):
+        (self.root / "src").rmdir()
+        command = [sys.executable, HERE / "systems.py", self.root]
+        done = subprocess.run(command, capture_output=True, text=True, check=False)
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("no src/", done.stderr)
+
+    def test_what_hides_in_texts_is_told_from_what_does_not(self):
+        self.write(
+            "src/core/a.cpp",
+            'auto a = "/*";\n#ifdef __linux__\n#endif\nauto b = "*/";\nauto c = \'"\';\n#ifdef _WIN32\n#endif\n'
+            "int n = 1'000'000;\n#ifdef __APPLE__\n#endif\n",
+        )
+        self.assert_found("src/core/a.cpp:2", "src/core/a.cpp:6", "src/core/a.cpp:9")
+
+
+del LintCase
+
+if __name__ == "__main__":
+    unittest.main()
