@@ -7,22 +7,20 @@ namespace {
 constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 }
 
-DirChain::DirChain(UniqueFd top) {
-  m_levels.push_back(Level{std::move(top)});
-}
+DirChain::DirChain(UniqueFd top) { m_levels.push_back(Level{std::move(top)}); }
 
 bool DirChain::enter(const char* name) {
+  if (m_open == kMaxOpen) closeOldest();
   UniqueFd child(::openat(fd(), name, kFolderFlags));
   if (!child) return false;
   m_levels.push_back(Level{std::move(child)});
-  if (++m_open > kMaxOpen) closeOldest();
+  ++m_open;
   return true;
 }
 
 bool DirChain::leave() {
   if (depth() == 0) return false;
-  Level& above = m_levels[m_levels.size() - 2];
-  if (!above.fd && !reopen()) {
+  if (!m_levels[depth() - 1].fd && !reopen()) {
     m_levels.resize(1);
     m_open = 1;
     return false;
@@ -32,7 +30,7 @@ bool DirChain::leave() {
   return true;
 }
 
-// The open levels below the top are always the deepest ones, so the oldest is the first open one from the top's side.
+// The open levels below the top are always the deepest ones, so the oldest of them stands this far from the end.
 void DirChain::closeOldest() {
   Level& oldest = m_levels[m_levels.size() - (m_open - 1)];
   struct stat status;
@@ -45,7 +43,7 @@ void DirChain::closeOldest() {
 }
 
 bool DirChain::reopen() {
-  Level& above = m_levels[m_levels.size() - 2];
+  Level& above = m_levels[depth() - 1];
   UniqueFd parent(::openat(fd(), "..", kFolderFlags));
   struct stat status;
   if (!parent || ::fstat(parent.get(), &status) != 0) return false;

@@ -12,7 +12,7 @@
 /// before (device and inode). Not for use by several threads at once.
 class DirChain {
  public:
-  static constexpr size_t kMaxOpen = 64;  ///< descriptors held at the most, the top's included
+  static constexpr size_t kMaxOpen = 64; ///< descriptors held at the most, the top's included
 
   /// Takes the open folder at the top.
   explicit DirChain(UniqueFd top);
@@ -21,7 +21,7 @@ class DirChain {
   [[nodiscard]] int fd() const { return m_levels.back().fd.get(); }
   /// How many folders lie below the top; 0 at the top.
   [[nodiscard]] size_t depth() const { return m_levels.size() - 1; }
-  /// Opens @p name in the deepest folder and makes it the deepest. False with errno set: nothing changed.
+  /// Opens @p name in the deepest folder and makes it the deepest. False with errno set: the deepest stays the deepest.
   [[nodiscard]] bool enter(const char* name);
   /// Leaves the deepest folder for the one above it. False: that folder can't be reached again, as something was moved
   /// meanwhile; the chain then has only its top left, and the walk must end. At the top it does nothing, false.
@@ -30,7 +30,7 @@ class DirChain {
  private:
   struct Level {
     UniqueFd fd;
-    dev_t device = 0;  ///< known from when the level was closed
+    dev_t device = 0; ///< known from when the level was closed
     ino_t inode = 0;
   };
   void closeOldest();

@@ -14,19 +14,19 @@ namespace fs {
 
 /// One directory entry. Sizes of everything but a regular file are 0.
 struct Entry {
-  QString name;            ///< without a folder
+  QString name; ///< without a folder
   bool isDir = false;
   bool isSymlink = false;
-  qint64 allocated = 0;    ///< bytes that it holds on disk (blocks of 512)
-  qint64 size = 0;         ///< logical length in bytes
+  qint64 allocated = 0; ///< bytes that it holds on disk (blocks of 512)
+  qint64 size = 0;      ///< logical length in bytes
   quint64 inode = 0;
   quint32 links = 1;
-  qint64 modifiedMs = 0;   ///< ms since the epoch
-  qint64 accessedMs = 0;   ///< ms since the epoch
+  qint64 modifiedMs = 0; ///< ms since the epoch
+  qint64 accessedMs = 0; ///< ms since the epoch
   qint64 device = 0;
-  bool dataless = false;   ///< has no contents on this disk; the walkers leave it alone
-  quint32 owner = 0;       ///< user id
-  quint32 type = 0;        ///< the type bits of the mode (S_IFMT)
+  bool dataless = false; ///< has no contents on this disk; the walkers leave it alone
+  quint32 owner = 0;     ///< user id
+  quint32 type = 0;      ///< the type bits of the mode (S_IFMT)
   /// Whether the path that goes with this entry, by its text, reaches this very file. False where a name on the way is
   /// no text: the entry is measured, and is never acted on through a text path.
   bool reachable = true;
@@ -34,9 +34,9 @@ struct Entry {
 
 /// What a tree holds.
 struct Totals {
-  qint64 bytes = 0;     ///< allocated
-  qint64 files = 0;     ///< everything but folders
-  qint64 newestMs = 0;  ///< latest modification of what was counted; 0 when nothing was
+  qint64 bytes = 0;    ///< allocated
+  qint64 files = 0;    ///< everything but folders
+  qint64 newestMs = 0; ///< latest modification of what was counted; 0 when nothing was
 
   bool operator==(const Totals&) const = default;
 };
@@ -81,4 +81,4 @@ bool visitFiles(const QString& root, const std::atomic<bool>& cancel,
                 const std::function<bool(const QString&, const QString&)>& skipDir,
                 const std::function<void(const QString&, const Entry&)>& visit);
 
-}  // namespace fs
+} // namespace fs

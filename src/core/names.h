@@ -10,17 +10,20 @@ namespace names {
 
 /// How a name goes to the system and comes back.
 enum class Codec {
-  Bytes,       ///< UTF-8 as it stands: two names may differ in nothing but their normalization form
-  Normalized,  ///< normalization form D and UTF-8 to the system, form C from it
+  Bytes,      ///< UTF-8 as it stands: two names may differ in nothing but their normalization form
+  Normalized, ///< normalization form D and UTF-8 to the system, form C from it
 };
 
 /// The codec of the system that the program was built for.
 [[nodiscard]] Codec systemCodec();
 
-/// The bytes that the system is asked with for @p text, a name or a whole path.
+/// The bytes that the system is asked with for @p text, a name or a whole path. What no name can hold (U+0000, half of
+/// a surrogate pair) becomes bytes that no text has, so that nothing else is reached in its stead.
 [[nodiscard]] QByteArray encode(const QString& text, Codec codec = systemCodec());
 /// The text that the program holds for @p raw. Bytes that are no UTF-8 become U+FFFD, and the name doesn't survive().
 [[nodiscard]] QString decode(QByteArrayView raw, Codec codec = systemCodec());
+/// Appends decode(@p raw) to @p text, without allocating where a plain name fits. @return survives(@p raw)
+bool append(QString* text, QByteArrayView raw, Codec codec = systemCodec());
 /// Whether @p raw comes back the same from decode() and encode(), so that a text path reaches the very same file.
 [[nodiscard]] bool survives(QByteArrayView raw, Codec codec = systemCodec());
 
@@ -30,4 +33,4 @@ enum class Codec {
 /// The same for raw bytes: what is no UTF-8 becomes "\xHH".
 [[nodiscard]] QString escaped(QByteArrayView raw);
 
-}  // namespace names
+} // namespace names

@@ -13,9 +13,9 @@ namespace sys {
 
 /// One name in a folder, as the system lists it. Valid until the next call of DirReader::next.
 struct RawName {
-  const char* name = nullptr;  ///< ends with a zero byte
+  const char* name = nullptr; ///< ends with a zero byte
   size_t length = 0;
-  unsigned char type = 0;      ///< a DT_ value; DT_UNKNOWN where the file system doesn't tell
+  unsigned char type = 0; ///< a DT_ value; DT_UNKNOWN where the file system doesn't tell
 };
 
 /// Reads the names of open folders, one folder after the other, with one buffer. Never yields "." and "..".
@@ -23,6 +23,9 @@ class DirReader {
  public:
   DirReader();
   ~DirReader();
+  DirReader(const DirReader&) = delete;
+  DirReader& operator=(const DirReader&) = delete;
+
   /// Begins to read @p fd, an open folder, from its start; the descriptor stays the caller's. False: errno tells why.
   [[nodiscard]] bool start(int fd);
   /// The next name; false at the end, or on an error, which error() tells.
@@ -49,11 +52,19 @@ class DirReader {
 /// Renames without ever replacing what stands at the new name. @return 0 or the errno (EEXIST if something is there)
 [[nodiscard]] int renameNoReplace(int oldDirFd, const char* oldName, int newDirFd, const char* newName);
 
-/// The absolute path by which the system knows an open descriptor now; empty if it doesn't tell. Raw bytes.
+/// The absolute path by which the system knows an open descriptor now; empty if it doesn't tell (it was removed, or the
+/// path is beyond the system's limit). Raw bytes.
 [[nodiscard]] QByteArray descriptorPath(int fd);
 
+/// Opens the folder @p name, relative to @p dirFd or AT_FDCWD, only to pass through it to what lies below: asks for no
+/// more than the permission to search it where the system can do so. Follows links. @return -1 with errno set on
+/// failure
+[[nodiscard]] int openPassage(int dirFd, const char* name);
+
 /// Opens the folder @p path, an absolute raw path that must hold no symbolic link at all, for listing and as the
-/// start of relative calls. @return the descriptor, or -1 with errno set (ELOOP or ENOTDIR where a link was met)
+/// start of relative calls. The folders above it need only be searchable where the system can do so. @p path may be
+/// longer than the system's path limit. @return the descriptor, or -1 with errno set (ELOOP or ENOTDIR where a link was
+/// met, EINVAL for a relative path)
 [[nodiscard]] int openFolderNoLinks(const QByteArray& path);
 
-}  // namespace sys
+} // namespace sys

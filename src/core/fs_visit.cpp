@@ -1,0 +1,123 @@
+#include "core/TreeWalk.h"
+#include "core/fs.h"
+#include "core/fs_files.h"
+#include "core/names.h"
+#include "core/sys.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace fs {
+namespace {
+
+QByteArrayView viewOf(const sys::RawName& raw) { return {raw.name, static_cast<qsizetype>(raw.length)}; }
+
+/// Where a visit stands, as text: the folder's path, and beside it a buffer with the same path and a separator, to
+/// which each file's name is set. Both are extended once a folder, and not made anew for each file.
+class TextPath {
+ public:
+  explicit TextPath(const QString& root) : m_folder(root), m_reachable(!joinsWrongly(root)) { beginFiles(); }
+
+  void enter(QByteArrayView name) {
+    m_levels.push_back({m_folder.size(), m_reachable});
+    const bool survives = names::append(&separate(&m_folder), name);
+    m_reachable = m_reachable && survives && !joinsWrongly(m_folder);
+    beginFiles();
+  }
+  void leave() {
+    m_folder.truncate(m_levels.back().length);
+    m_reachable = m_levels.back().reachable;
+    m_levels.pop_back();
+  }
+
+  [[nodiscard]] const QString& folder() const { return m_folder; }
+  [[nodiscard]] bool reachable() const { return m_reachable; }
+  [[nodiscard]] const QString& fileOf(const QString& name) {
+    m_file.resize(m_filePrefix);
+    m_file.append(name);
+    return m_file;
+  }
+
+ private:
+  struct Level {
+    qsizetype length;
+    bool reachable;
+  };
+
+  static QString& separate(QString* path) {
+    if (!path->endsWith(QLatin1Char('/')) && !joinsWrongly(*path)) path->append(QLatin1Char('/'));
+    return *path;
+  }
+  void beginFiles() {
+    m_file.resize(0);
+    m_file.append(m_folder);
+    m_filePrefix = separate(&m_file).size();
+  }
+
+  QString m_folder;
+  QString m_file;
+  qsizetype m_filePrefix = 0;
+  bool m_reachable;
+  std::vector<Level> m_levels;
+};
+
+using Walk = TreeWalk<TextPath>;
+using SkipDir = std::function<bool(const QString&, const QString&)>;
+using Visit = std::function<void(const QString&, const Entry&)>;
+
+class FileVisit {
+ public:
+  FileVisit(const QString& root, dev_t device, const SkipDir& skipDir, const Visit& visit)
+      : path(root), m_device(device), m_skipDir(skipDir), m_visit(visit) {}
+
+  void folder(Walk* walk) {
+    sys::RawName raw;
+    struct stat status;
+    while (walk->nextName(&raw)) {
+      if (::fstatat(walk->fd(), raw.name, &status, AT_SYMLINK_NOFOLLOW) != 0) continue;
+      if (S_ISLNK(status.st_mode) || sys::isDataless(status)) continue;
+      if (!S_ISDIR(status.st_mode)) {
+        file(walk->fd(), raw, status);
+      } else if (!leavesDevice(status.st_dev, m_device) &&
+                 !(m_skipDir && m_skipDir(path.folder(), names::decode(viewOf(raw))))) {
+        walk->push(raw);
+      }
+    }
+  }
+
+  TextPath path;
+
+ private:
+  void file(int dirFd, const sys::RawName& raw, const struct stat& status) {
+    m_entry.name.resize(0);
+    const bool survives = names::append(&m_entry.name, viewOf(raw));
+    fill(&m_entry, status);
+    m_entry.reachable = path.reachable() && (survives || reachesAnyway(dirFd, viewOf(raw), status));
+    m_visit(path.fileOf(m_entry.name), m_entry);
+  }
+
+  dev_t m_device;
+  const SkipDir& m_skipDir;
+  const Visit& m_visit;
+  Entry m_entry;
+};
+
+} // namespace
+
+bool visitFiles(const QString& root, const std::atomic<bool>& cancel, const SkipDir& skipDir, const Visit& visit) {
+  struct stat status;
+  const dev_t device = statusOf(root, &status) ? status.st_dev : 0;
+  if (cancel) return false;
+  UniqueFd top = openFolder(root);
+  if (!top) return true;
+  FileVisit files(root, device, skipDir, visit);
+  Walk walk(&files.path, cancel);
+  Walk::Step step = walk.begin(std::move(top));
+  for (; step == Walk::Step::Folder; step = walk.next()) files.folder(&walk);
+  return step != Walk::Step::Cancelled;
+}
+
+} // namespace fs
