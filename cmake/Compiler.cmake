@@ -6,9 +6,12 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
+# With its paths taken from here on, ccache shares what it knows between build folders and checkouts: the headless
+# build and a clean clone find most of theirs there.
 find_program(TARNWICK_CCACHE ccache)
 if(TARNWICK_CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${TARNWICK_CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
+                                  ${TARNWICK_CCACHE})
 endif()
 
 add_library(tarnwick_options INTERFACE)
