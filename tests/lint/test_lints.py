@@ -153,7 +153,7 @@ class Removal(LintCase):
         self.assert_clean()
 
     def test_what_is_allowed_is_allowed_there_alone(self):
-        self.write("src/core/linux/sys.cpp", "int renameNoReplace(int a) { return renameat2(a); }\nint f() { return unlink(p); }\n")
+        self.write("src/core/linux/sys.cpp", "int renameNoReplace(int a) { return renameat2(a); }\nint f() { return rmdir(p); }\n")
         self.write("src/core/fs.cpp", "int f() { return renameat2(a); }\n")
         self.assert_found("src/core/fs.cpp:1", "src/core/linux/sys.cpp:2")
 
