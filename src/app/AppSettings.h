@@ -18,14 +18,22 @@ class AppSettings : public QObject {
   /// The one object, made on first use; the application's names must be set before.
   static AppSettings& instance();
 
+  /// What the store holds, or @p def.
   [[nodiscard]] QVariant get(const char* key, const QVariant& def) const;
-  /// Stores and tells, unless the store already holds the value (compared as the value's type).
+  /// Stores and tells, unless the store already holds the value (compared as the value's type, since a store of text
+  /// gives back text). Writing a key's default while the key is absent does store it.
   void put(const char* key, const QVariant& value);
 
+  // Each getter gives the default where the store holds what can't be its value: a word for a number, an unknown
+  // choice, a negative size.
+
+  /// Whether a clean moves to the Trash rather than deletes.
   [[nodiscard]] bool moveToTrash() const;
   void setMoveToTrash(bool on);
+  /// The "Never touch these" rules.
   [[nodiscard]] QStringList exclusions() const;
   void setExclusions(const QStringList& rules);
+  /// How often a scan starts by itself when the program starts.
   [[nodiscard]] Schedule schedule() const;
   void setSchedule(Schedule schedule);
   [[nodiscard]] bool lowSpaceAlerts() const;
@@ -44,17 +52,19 @@ class AppSettings : public QObject {
   /// Smallest size that the Space Map lists, in decimal megabytes.
   [[nodiscard]] int largeFileMB() const;
   void setLargeFileMB(int megabytes);
+  /// Age in months from which a file counts as old.
   [[nodiscard]] int oldMonths() const;
   void setOldMonths(int months);
+  /// End of the last complete scan; invalid if there was none.
   [[nodiscard]] QDateTime lastScan() const;
   void setLastScan(const QDateTime& when);
 
-  /// Bytes freed in each of the last @p months, oldest first; the last is the current month.
-  [[nodiscard]] QList<qint64> freedHistory(int months) const;
-  /// Adds to the current month; 0 and less change nothing.
-  void addFreed(qint64 bytes);
-  /// Whether a scan should start by itself now.
-  [[nodiscard]] bool scheduledScanDue() const;
+  /// Bytes freed in each of the last @p months, oldest first; the last is the month of @p today, a local date.
+  [[nodiscard]] QList<qint64> freedHistory(int months, const QDate& today = QDate::currentDate()) const;
+  /// Adds to the month of @p today, also to what another process has added meanwhile; 0 and less change nothing.
+  void addFreed(qint64 bytes, const QDate& today = QDate::currentDate());
+  /// Whether a scan should start by itself at @p now. Never for a user who has not scanned yet.
+  [[nodiscard]] bool scheduledScanDue(const QDateTime& now = QDateTime::currentDateTime()) const;
 
  signals:
   /// Some setting took a new value.

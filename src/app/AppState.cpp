@@ -1,0 +1,136 @@
+#include "app/AppState.h"
+
+#include "app/AppSettings.h"
+#include "engines/Cleaner.h"
+#include "engines/Scanner.h"
+
+#include <algorithm>
+#include <numeric>
+
+AppState::AppState(QObject* parent)
+    : QObject(parent),
+      volume(platform::systemVolume()),
+      scanner(new Scanner(this)),
+      lastScan(AppSettings::instance().lastScan()),
+      cleaner(new Cleaner(this)) {
+  connectScanner();
+  connect(cleaner, &Cleaner::progress, this, &AppState::cleanProgress);
+  connect(cleaner, &Cleaner::finished, this, &AppState::onCleanFinished);
+}
+
+AppState::~AppState() = default;
+
+// The engines emit on their workers; with this as context each of these runs on the user-interface thread.
+void AppState::connectScanner() {
+  connect(scanner, &Scanner::started, this, [this](const QList<CategoryDef>& defs) {
+    scanDefs = defs;
+    scanResults = QList<CategoryResult>(defs.size());
+    emit scanProgressChanged();
+  });
+  connect(scanner, &Scanner::categoryStarted, this, [this](int index) {
+    scanCategory = index;
+    emit scanProgressChanged();
+  });
+  connect(scanner, &Scanner::categoryFinished, this, [this](int index, const CategoryResult& result) {
+    if (index >= 0 && index < scanResults.size()) scanResults[index] = result;
+  });
+  connect(scanner, &Scanner::progress, this, [this](qint64 bytes, qint64 files, const QString& path) {
+    scanBytes = bytes;
+    scanFiles = files;
+    if (!path.isEmpty()) scanPath = path;
+    emit scanProgressChanged();
+  });
+  connect(scanner, &Scanner::finished, this, &AppState::onScanFinished);
+}
+
+void AppState::setPhase(Phase newPhase) {
+  if (phase == newPhase) return;
+  phase = newPhase;
+  emit phaseChanged();
+}
+
+void AppState::refreshVolume() {
+  volume = platform::systemVolume();
+  emit volumeChanged();
+}
+
+void AppState::startScan(const RunOptions& options) {
+  if (scanner->isRunning() || cleaner->isRunning()) return;
+  m_scanOptions = options;
+  scanDefs.clear();
+  scanResults.clear();
+  scanCategory = -1;
+  scanBytes = 0;
+  scanFiles = 0;
+  scanPath.clear();
+  scanTimer.start();
+  setPhase(Scanning);
+  scanner->start(AppSettings::instance().exclusions() + options.furtherExclusions, options.only);
+}
+
+void AppState::cancelScan() { scanner->cancel(); }
+
+void AppState::onScanFinished(const QList<CategoryResult>& found, bool cancelled) {
+  if (cancelled) {
+    setPhase(results.isEmpty() ? Empty : Review);
+    return;
+  }
+  results = found;
+  if (m_scanOptions.recordLastScan) {
+    lastScan = QDateTime::currentDateTime();
+    AppSettings::instance().setLastScan(lastScan);
+  }
+  selectRecommended();
+  emit resultsChanged();
+  setPhase(Review);
+}
+
+void AppState::clean(const RunOptions& options) {
+  const QList<CategoryResult> chosen = selectedResults();
+  if (chosen.isEmpty() || phase == Scanning || cleaner->isRunning()) return;
+  const AppSettings& settings = AppSettings::instance();
+  m_dryRun = options.dryRun;
+  freeBeforeClean = volume.availableBytes;
+  setPhase(Cleaning);
+  cleaner->start(chosen, options.moveToTrash.value_or(settings.moveToTrash()),
+                 settings.exclusions() + options.furtherExclusions,
+                 options.dryRun ? Cleaner::Run::Dry : Cleaner::Run::ForReal);
+}
+
+void AppState::stopClean() { cleaner->stop(); }
+
+void AppState::onCleanFinished(const CleanReport& cleaned) {
+  report = cleaned;
+  if (!cleaned.refusal.isEmpty() || m_dryRun) {
+    setPhase(Review);
+    if (!cleaned.refusal.isEmpty()) emit toast(cleaned.refusal, false);
+    return;
+  }
+  AppSettings::instance().addFreed(cleaned.freedBytes);
+  results.removeIf([&](const CategoryResult& one) { return cleaned.cleanedIds.contains(one.def.id); });
+  clearSelection();
+  refreshVolume();
+  emit resultsChanged();
+  emit selectionChanged();
+  setPhase(Done);
+}
+
+void AppState::acknowledgeDone() {
+  if (phase == Done) setPhase(results.isEmpty() ? Empty : Review);
+}
+
+qint64 AppState::sizeOfScanned(int index) const {
+  return index >= 0 && index < scanResults.size() ? scanResults.at(index).bytes : 0;
+}
+
+const CategoryResult* AppState::result(const QString& id) const {
+  const auto found = std::find_if(results.cbegin(), results.cend(), [&](const auto& one) { return one.def.id == id; });
+  return found == results.cend() ? nullptr : &*found;
+}
+
+qint64 AppState::totalReclaimable() const {
+  return std::accumulate(results.cbegin(), results.cend(), qint64{0},
+                         [](qint64 sum, const CategoryResult& one) { return sum + one.bytes; });
+}
+
+#include "moc_AppState.cpp"

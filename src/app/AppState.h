@@ -2,6 +2,7 @@
 /// User-interface thread only.
 #pragma once
 
+#include "app/UntickedSums.h"
 #include "app/records.h"
 #include "core/platform.h"
 
@@ -16,67 +17,93 @@ class Scanner;
 
 /// What a run takes from its caller instead of from the stored settings. The defaults are what the window uses.
 struct RunOptions {
-  QStringList only;                 ///< ids of the categories to scan; empty means all
-  QStringList furtherExclusions;    ///< rules beside the stored ones
-  std::optional<bool> moveToTrash;  ///< instead of the stored choice
-  bool recordLastScan = true;       ///< whether a complete scan counts for the schedule
-  bool dryRun = false;              ///< clean: ask and report, touch nothing
+  QStringList only;                ///< ids of the categories to scan; empty means all
+  QStringList furtherExclusions;   ///< rules beside the stored ones
+  std::optional<bool> moveToTrash; ///< instead of the stored choice
+  bool recordLastScan = true;      ///< whether a complete scan counts for the schedule
+  bool dryRun = false;             ///< clean: ask and report, touch nothing
 };
 
 class AppState : public QObject {
   Q_OBJECT
 
  public:
-  enum Phase { Empty = 0, Scanning = 1, Review = 2, Cleaning = 3, Done = 4 };
+  enum Phase {
+    Empty = 0,    ///< no findings, nothing running
+    Scanning = 1, ///< a scan runs
+    Review = 2,   ///< findings are on show
+    Cleaning = 3, ///< a clean runs
+    Done = 4,     ///< the report of a clean is on show
+  };
   Q_ENUM(Phase)
 
+  /// Makes the engines; reads the volume's figures and the time of the last scan.
   explicit AppState(QObject* parent = nullptr);
+  /// Raises the flags of what runs and waits for it.
   ~AppState() override;
 
+  // Read them; what changes them are the operations. (Pages and tests may put other `results` in place.)
   Phase phase = Empty;
-  platform::Volume volume;
-  Scanner* scanner = nullptr;
-  QList<CategoryDef> scanDefs;         ///< of the running or last scan
-  QList<CategoryResult> scanResults;   ///< one slot for each of scanDefs
-  int scanCategory = -1;               ///< being scanned; -1 before the first
-  qint64 scanBytes = 0;
-  qint64 scanFiles = 0;
-  QString scanPath;
-  QElapsedTimer scanTimer;
-  QDateTime lastScan;
-  QList<CategoryResult> results;       ///< of the last complete scan, less what was cleaned since
-  QSet<QString> selected;              ///< ids of ticked categories
-  QSet<QString> unticked;              ///< item paths taken out of ticked categories
-  Cleaner* cleaner = nullptr;
-  CleanReport report;
-  qint64 freeBeforeClean = 0;          ///< bytes
+  platform::Volume volume;           ///< with the user's home on it
+  Scanner* scanner = nullptr;        ///< a child
+  QList<CategoryDef> scanDefs;       ///< of the running or last scan
+  QList<CategoryResult> scanResults; ///< one slot for each of scanDefs, default-built until that category is through
+  int scanCategory = -1;             ///< index of the one being scanned; -1 before the first
+  qint64 scanBytes = 0;              ///< found so far
+  qint64 scanFiles = 0;              ///< visited so far
+  QString scanPath;                  ///< the last that the scan told of
+  QElapsedTimer scanTimer;           ///< runs since the scan began
+  QDateTime lastScan;                ///< end of the last complete scan
+  QList<CategoryResult> results;     ///< of the last complete scan, less what was cleaned since
+  const QSet<QString>& selected = m_selected; ///< ids of ticked categories
+  const QSet<QString>& unticked = m_unticked; ///< item paths taken out of ticked categories
+  Cleaner* cleaner = nullptr;                 ///< a child
+  CleanReport report;                         ///< of the last clean
+  qint64 freeBeforeClean = 0;                 ///< bytes available when the last clean began
 
-  void setPhase(Phase phase);
+  /// Emits phaseChanged() if it is another one.
+  void setPhase(Phase newPhase);
   /// Reads the volume's figures now.
   void refreshVolume();
-  /// Starts a scan; nothing happens while a scan or a clean runs.
+  /// Starts a scan; nothing happens while a scan or a clean runs. Results and selection stay until it is complete.
   void startScan(const RunOptions& options = {});
+  /// Asks the running scan to end; it changes nothing by itself.
   void cancelScan();
   /// Removes what is selected, without asking: the caller has asked the user. Nothing happens with an empty selection
-  /// or while a clean runs. A refused clean leaves results and selection alone.
+  /// or while a scan or a clean runs. It ends in Done, with what was cleaned taken out of the results; but a dry run
+  /// and a refused clean end in Review and leave results, selection and history alone. The words of a refusal come as
+  /// toast().
   void clean(const RunOptions& options = {});
+  /// Lets a running clean finish its item and report; for programs without a window.
+  void stopClean();
   /// Leaves Done for Review or Empty.
   void acknowledgeDone();
+  /// Bytes of one slot of scanResults; 0 beyond them.
   [[nodiscard]] qint64 sizeOfScanned(int index) const;
   /// Valid until results change; null if there is none.
   [[nodiscard]] const CategoryResult* result(const QString& id) const;
+  /// Bytes over all results.
   [[nodiscard]] qint64 totalReclaimable() const;
 
-  // The selection. A category's items are ticked by default; what is stored is the exception.
+  // The selection. A category's items are ticked by default; what is stored is the exception. A category is ticked only
+  // while one of its items is, or it has none. Asking about a row, and ticking one, costs the same for any number of
+  // rows.
+
+  /// Ticks what is Safe and not empty, and nothing else.
   void selectRecommended();
+  /// Ticks all that is not empty, whatever its rating, or nothing.
   void selectAll(bool on);
+  /// Ticks or unticks one category with all its items. Emits nothing where that changes nothing.
   void setSelected(const QString& id, bool on);
+  /// Ticks or unticks one item. The first item ticked of an unticked category is then the only one; with the last item
+  /// the category is unticked. Emits nothing where that changes nothing.
   void setItemSelected(const QString& id, const QString& path, bool on);
   /// Forgets the exceptions of one category; emits nothing.
   void clearUnticked(const QString& id);
   /// Values of Qt::CheckState.
   [[nodiscard]] int selectionState(const QString& id) const;
   [[nodiscard]] bool isItemSelected(const QString& id, const QString& path) const;
+  /// What a clean gets: the ticked categories that hold something, less the unticked items, in the order of results.
   [[nodiscard]] QList<CategoryResult> selectedResults() const;
   [[nodiscard]] qint64 selectedBytes() const;
   [[nodiscard]] bool selectionNeedsAdmin() const;
@@ -84,7 +111,9 @@ class AppState : public QObject {
 
  signals:
   void phaseChanged();
+  /// scanDefs, scanCategory, scanBytes, scanFiles or scanPath changed.
   void scanProgressChanged();
+  /// results were replaced.
   void resultsChanged();
   void selectionChanged();
   /// In selected bytes.
@@ -92,4 +121,27 @@ class AppState : public QObject {
   void volumeChanged();
   /// A short message for the user; @p undoable offers to undo.
   void toast(QString text, bool undoable);
+
+ private:
+  void connectScanner();
+  void onScanFinished(const QList<CategoryResult>& found, bool cancelled);
+  void onCleanFinished(const CleanReport& cleaned);
+
+  void clearSelection();
+  template <typename Wanted>
+  void selectOnly(Wanted wanted);
+  [[nodiscard]] bool tickItem(const CategoryResult& category, const QString& path);
+  void untickItem(const CategoryResult& category, const QString& path);
+  void insertUnticked(const QString& path);
+  void removeUnticked(const QString& path);
+  const UntickedSums::Sums& untickedOf(const CategoryResult& category) const;
+  qint64 tickedBytes(const CategoryResult& category) const;
+  template <typename Test>
+  bool anySelected(Test test) const;
+
+  RunOptions m_scanOptions; // of the running or last scan
+  bool m_dryRun = false;    // the running or last clean touches nothing
+  QSet<QString> m_selected;
+  QSet<QString> m_unticked;
+  mutable UntickedSums m_sums; // follows results by itself
 };

@@ -1,0 +1,75 @@
+#include "ui/i18n.h"
+
+#include "app/AppSettings.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QTranslator>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const i18n::Language* find(const QString& code) {
+  const QList<i18n::Language>& all = i18n::languages();
+  const auto found = std::find_if(all.begin(), all.end(), [&](const auto& one) { return one.code == code; });
+  return found == all.end() ? nullptr : &*found;
+}
+
+/// Taiwan, Hong Kong and Macau read traditional characters.
+bool isTraditionalChinese(const QString& tag) {
+  constexpr std::array kRegions = {"_TW"_L1, "_HK"_L1, "_MO"_L1};
+  return tag.contains("Hant"_L1) ||
+         std::any_of(kRegions.begin(), kRegions.end(), [&](QLatin1String region) { return tag.endsWith(region); });
+}
+
+/// The code for one of the system's tags; empty if there is no such language.
+QString codeFor(QString tag) {
+  tag.replace(u'-', u'_');
+  const QString primary = tag.section(u'_', 0, 0).toLower();
+  if (primary == "zh"_L1) return isTraditionalChinese(tag) ? u"zh_TW"_s : u"zh_CN"_s;
+  if (primary == "pt"_L1) return u"pt_BR"_s;
+  return find(primary) ? primary : QString();
+}
+
+} // namespace
+
+const QList<i18n::Language>& i18n::languages() {
+  static const QList<Language> all = {
+      {u"en"_s, u"English"_s},  {u"zh_CN"_s, u"简体中文"_s}, {u"zh_TW"_s, u"繁體中文"_s},
+      {u"ja"_s, u"日本語"_s},   {u"ko"_s, u"한국어"_s},      {u"es"_s, u"Español"_s},
+      {u"fr"_s, u"Français"_s}, {u"de"_s, u"Deutsch"_s},     {u"pt_BR"_s, u"Português (Brasil)"_s},
+      {u"ru"_s, u"Русский"_s},
+  };
+  return all;
+}
+
+QString i18n::nativeName(const QString& code) {
+  const Language* language = find(code);
+  return language ? language->name : u"English"_s;
+}
+
+QString i18n::systemLanguage() { return languageFor(QLocale::system().uiLanguages()); }
+
+QString i18n::languageFor(const QStringList& uiLanguages) {
+  for (const QString& tag : uiLanguages)
+    if (const QString code = codeFor(tag); !code.isEmpty()) return code;
+  return u"en"_s;
+}
+
+QString i18n::effectiveLanguage() {
+  QString wish = qEnvironmentVariable("TARNWICK_LANG");
+  if (wish.isEmpty()) wish = AppSettings::instance().language();
+  return find(wish) ? wish : systemLanguage();
+}
+
+void i18n::install(QCoreApplication* app) {
+  const QString language = effectiveLanguage();
+  auto translator = std::make_unique<QTranslator>(app);
+  if (translator->load(u":/i18n/tarnwick_%1.qm"_s.arg(language))) app->installTranslator(translator.release());
+  QLocale::setDefault(QLocale(language == "en"_L1 ? u"en_US"_s : language));
+}

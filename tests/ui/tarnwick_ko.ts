@@ -1,0 +1,11 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko" sourcelanguage="en">
+<context>
+    <name>TestOfLanguages</name>
+    <message>
+        <source>Hello</source>
+        <translation>안녕</translation>
+    </message>
+</context>
+</TS>

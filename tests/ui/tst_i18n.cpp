@@ -1,0 +1,166 @@
+// Which language is in force, and what installing it does.
+#include "app/AppSettings.h"
+#include "app/identity.h"
+#include "support/FixtureHome.h"
+#include "ui/i18n.h"
+
+#include <QLocale>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTranslator>
+
+using namespace Qt::StringLiterals;
+
+class tst_i18n : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase() { identity::apply(); }
+  void init() {
+    qunsetenv("TARNWICK_LANG");
+    AppSettings::instance().setLanguage(QString());
+  }
+  void cleanupTestCase() { QSettings().sync(); }
+
+  void tenLanguagesInOrder();
+  void nativeNames();
+  void systemTags_data();
+  void systemTags();
+  void systemLanguageIsOneOfTheList();
+  void effectiveLanguage_data();
+  void effectiveLanguage();
+  void defaultLocale_data();
+  void defaultLocale();
+  void installsTheCatalogue();
+  void missingCatalogueLeavesTheSourceTexts();
+
+ private:
+  FixtureHome m_home;
+};
+
+void tst_i18n::tenLanguagesInOrder() {
+  QStringList codes;
+  QStringList names;
+  for (const i18n::Language& one : i18n::languages()) {
+    codes << one.code;
+    names << one.name;
+  }
+  QCOMPARE(codes.join(u' '), u"en zh_CN zh_TW ja ko es fr de pt_BR ru"_s);
+  QCOMPARE(names.join(u'|'),
+           u"English|简体中文|繁體中文|日本語|한국어|Español|Français|Deutsch|Português (Brasil)|Русский"_s);
+  QCOMPARE(&i18n::languages(), &i18n::languages());
+}
+
+void tst_i18n::nativeNames() {
+  for (const i18n::Language& one : i18n::languages()) QCOMPARE(i18n::nativeName(one.code), one.name);
+  for (const char16_t* code : {u"", u"xx", u"DE", u"zh", u"pt", u"de_DE"})
+    QCOMPARE(i18n::nativeName(QString::fromUtf16(code)), u"English"_s);
+}
+
+void tst_i18n::systemTags_data() {
+  QTest::addColumn<QString>("tags");
+  QTest::addColumn<QString>("code");
+  const auto row = [](const char* tags, const char* code) {
+    QTest::addRow("%s", tags) << QString::fromLatin1(tags) << QString::fromLatin1(code);
+  };
+  row("zh-Hant-CN", "zh_TW");
+  row("zh-Hant", "zh_TW");
+  row("zh-TW", "zh_TW");
+  row("zh_TW", "zh_TW");
+  row("zh-HK", "zh_TW");
+  row("zh-MO", "zh_TW");
+  row("zh-Hans-HK", "zh_TW");
+  row("zh-Hans-CN", "zh_CN");
+  row("zh-CN", "zh_CN");
+  row("zh-SG", "zh_CN");
+  row("zh-hk", "zh_CN");
+  row("zh", "zh_CN");
+  row("ZH", "zh_CN");
+  row("pt-PT", "pt_BR");
+  row("pt-BR", "pt_BR");
+  row("pt", "pt_BR");
+  row("fr-CA", "fr");
+  row("en-GB", "en");
+  row("DE-AT", "de");
+  row("ja-JP", "ja");
+  row("ko", "ko");
+  row("es-419", "es");
+  row("ru-RU", "ru");
+  row("nl-NL de-DE", "de");
+  row("nl-NL sv pl", "en");
+  row("gsw-CH fr-CH", "fr");
+  row("zho-Hant ru", "ru");
+  row("por en", "en");
+  row("C", "en");
+  row("", "en");
+}
+
+void tst_i18n::systemTags() {
+  QFETCH(QString, tags);
+  QTEST(i18n::languageFor(tags.split(u' ', Qt::SkipEmptyParts)), "code");
+}
+
+void tst_i18n::systemLanguageIsOneOfTheList() {
+  QCOMPARE(i18n::systemLanguage(), i18n::languageFor(QLocale::system().uiLanguages()));
+}
+
+void tst_i18n::effectiveLanguage_data() {
+  QTest::addColumn<QString>("environment");
+  QTest::addColumn<QString>("setting");
+  QTest::addColumn<QString>("code");
+  const QString system = i18n::systemLanguage();
+  QTest::newRow("neither") << QString() << QString() << system;
+  QTest::newRow("setting") << QString() << u"ja"_s << u"ja"_s;
+  QTest::newRow("environment wins") << u"de"_s << u"ja"_s << u"de"_s;
+  QTest::newRow("unknown environment gives the system's") << u"xx"_s << u"ja"_s << system;
+  QTest::newRow("unknown setting gives the system's") << QString() << u"xx"_s << system;
+  QTest::newRow("codes are exact") << u"DE"_s << u"ja"_s << system;
+}
+
+void tst_i18n::effectiveLanguage() {
+  QFETCH(QString, environment);
+  QFETCH(QString, setting);
+  if (!environment.isNull()) qputenv("TARNWICK_LANG", environment.toUtf8());
+  AppSettings::instance().setLanguage(setting);
+  QTEST(i18n::effectiveLanguage(), "code");
+}
+
+void tst_i18n::defaultLocale_data() {
+  QTest::addColumn<QString>("locale");
+  for (const i18n::Language& one : i18n::languages())
+    QTest::addRow("%s", qPrintable(one.code)) << (one.code == u"en"_s ? u"en_US"_s : one.code);
+}
+
+void tst_i18n::defaultLocale() {
+  QFETCH(QString, locale);
+  qputenv("TARNWICK_LANG", QTest::currentDataTag());
+  i18n::install(QCoreApplication::instance());
+  QCOMPARE(QLocale(), QLocale(locale));
+  if (locale == u"en_US"_s) QCOMPARE(QLocale().territory(), QLocale::UnitedStates);
+}
+
+void tst_i18n::installsTheCatalogue() {
+#ifndef HAS_TEST_CATALOGUE
+  QSKIP("built without lrelease, so there is no catalogue to load");
+#endif
+  qputenv("TARNWICK_LANG", "ko");
+  i18n::install(QCoreApplication::instance());
+  QCOMPARE(QCoreApplication::translate("TestOfLanguages", "Hello"), u"안녕"_s);
+  const QList<QTranslator*> ours = QCoreApplication::instance()->findChildren<QTranslator*>();
+  QVERIFY(!ours.isEmpty());
+  qDeleteAll(ours); // takes them off the application
+  QCOMPARE(QCoreApplication::translate("TestOfLanguages", "Hello"), u"Hello"_s);
+}
+
+void tst_i18n::missingCatalogueLeavesTheSourceTexts() {
+  // No "xx" is ever in force, so the only way to a missing catalogue is a program that was built without it: this one.
+  qputenv("TARNWICK_LANG", "ru");
+  const auto before = QCoreApplication::instance()->findChildren<QTranslator*>().size();
+  QTest::failOnWarning(QRegularExpression(u".*"_s));
+  i18n::install(QCoreApplication::instance());
+  QCOMPARE(QCoreApplication::instance()->findChildren<QTranslator*>().size(), before);
+  QCOMPARE(QCoreApplication::translate("TestOfLanguages", "Hello"), u"Hello"_s);
+}
+
+QTEST_GUILESS_MAIN(tst_i18n)
+#include "tst_i18n.moc"
