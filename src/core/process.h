@@ -12,4 +12,4 @@ namespace process {
 /// @return empty after a time-out or a failed start
 QString run(const QString& program, const QStringList& arguments, int limitMs, int* exitCode = nullptr);
 
-}  // namespace process
+} // namespace process
