@@ -1,6 +1,8 @@
 #include "core/platform.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QStorageInfo>
 
 namespace platform {
 
@@ -12,6 +14,21 @@ Host host() {
 }
 
 bool isPreview() { return host() != builtFor(); }
+
+Volume systemVolume() {
+  const QString home = QDir::homePath();
+  const QStorageInfo info(home.isEmpty() ? QDir::rootPath() : home);
+  Volume volume;
+  volume.rootPath = info.rootPath();
+  volume.name =
+      volumeName(info.name(), volume.rootPath, info == QStorageInfo::root() ? VolumeRole::Root : VolumeRole::Other);
+  volume.fileSystem = QString::fromLatin1(info.fileSystemType()).toUpper();
+  // A volume that can't be asked answers -1.
+  volume.totalBytes = qMax<qint64>(0, info.bytesTotal());
+  volume.availableBytes = qMax<qint64>(0, info.bytesAvailable());
+  applyImportantCapacity(&volume, importantCapacity(volume.rootPath));
+  return volume;
+}
 
 QString volumeName(const QString& label, const QString& mountPoint, VolumeRole role) {
   const bool root = role == VolumeRole::Root;

@@ -32,6 +32,9 @@ struct Volume {
 /// label. Linux: the label, else "System disk" for the root volume, else the last part of the mount point.
 enum class VolumeRole { Root, Other };
 [[nodiscard]] QString volumeName(const QString& label, const QString& mountPoint, VolumeRole role);
+/// What the system could make free on the volume mounted at @p rootPath for something important, in bytes; 0 where it
+/// doesn't tell, as on Linux.
+[[nodiscard]] qint64 importantCapacity(const QString& rootPath);
 /// Folds the system's figure for important usage into @p volume: the larger figure counts, the difference is purgeable.
 void applyImportantCapacity(Volume* volume, qint64 importantBytes);
 
@@ -46,11 +49,13 @@ void applyImportantCapacity(Volume* volume, qint64 importantBytes);
 [[nodiscard]] bool isElevated();
 [[nodiscard]] bool relaunchElevated();
 
-/// Shows the file in the file manager. Returns at once; a failure isn't reported.
+/// Shows the file in the file manager. Returns at once; a failure isn't reported. On Linux, where no file manager
+/// answers on the session bus, the file's folder is opened in the desktop's way instead; needs an event loop, and does
+/// nothing without one.
 void revealInFileManager(const QString& path);
-/// Opens a folder in the file manager. Returns at once; a failure isn't reported.
+/// Opens a folder in the file manager, in the same ways.
 void openFolder(const QString& path);
-/// Opens the system's pane for Full Disk Access; nothing on Linux.
+/// Opens the system's pane for Full Disk Access; nothing in a build for Linux.
 void openFullDiskAccessSettings();
 
 } // namespace platform

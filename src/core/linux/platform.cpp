@@ -1,23 +1,89 @@
+/// The desktop's services: the file manager's own D-Bus interface (freedesktop.org, "File Manager D-Bus Interface").
 #include "core/platform.h"
 
+#include "core/names.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDesktopServices>
 #include <QDir>
-#include <QStorageInfo>
+#include <QFileInfo>
+#include <QThreadPool>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
 
 namespace platform {
 
+namespace {
+/// A file manager that isn't there is told at once; one that has to start first may take a while.
+constexpr int kAnswerLimitMs = 10000;
+
+/// What the file manager is asked, and the folder to open if it doesn't answer.
+struct Wish {
+  QString method;
+  QString path;
+  QString folder;
+};
+
+void openInDesktop(const QString& folder) { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); }
+
+/// Whether a session bus is there to connect to. Without one the bus library may start one, and wait for that.
+bool hasSessionBus() {
+  const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+  if (!address.isEmpty()) return !address.startsWith("autolaunch:");
+  const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  return !runtime.isEmpty() && QFileInfo::exists(runtime + "/bus"_L1);
+}
+
+QString fileUri(const QString& path) {
+  return "file://"_L1 + QString::fromLatin1(names::encode(path).toPercentEncoding("/"));
+}
+
+/// On the application's thread, where the answer arrives.
+void ask(const QDBusConnection& bus, const Wish& wish) {
+  QDBusMessage call =
+      QDBusMessage::createMethodCall(u"org.freedesktop.FileManager1"_s, u"/org/freedesktop/FileManager1"_s,
+                                     u"org.freedesktop.FileManager1"_s, wish.method);
+  call.setArguments({QStringList{fileUri(wish.path)}, QString()});
+  auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(call, kAnswerLimitMs), QCoreApplication::instance());
+  QObject::connect(answer, &QDBusPendingCallWatcher::finished, answer, [wish](QDBusPendingCallWatcher* done) {
+    if (done->isError()) openInDesktop(wish.folder);
+    done->deleteLater();
+  });
+}
+
+/// Connecting waits for the bus, so a thread of the pool does that; the application outlives the pool's work.
+void send(const Wish& wish) {
+  QCoreApplication* app = QCoreApplication::instance();
+  if (app == nullptr) return;
+  // Running jobs must not hold this up, so it takes a thread beside theirs.
+  QThreadPool::globalInstance()->reserveThread();
+  QThreadPool::globalInstance()->startOnReservedThread([app, wish] {
+    const auto proceed = [app](auto step) { QMetaObject::invokeMethod(app, step, Qt::QueuedConnection); };
+    if (!hasSessionBus()) return static_cast<void>(proceed([wish] { openInDesktop(wish.folder); }));
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    proceed([bus, wish] { bus.isConnected() ? ask(bus, wish) : openInDesktop(wish.folder); });
+  });
+}
+} // namespace
+
 Host builtFor() { return Host::Linux; }
 
-Volume systemVolume() {
-  const QStorageInfo info(QDir::homePath());
-  const VolumeRole role = info == QStorageInfo::root() ? VolumeRole::Root : VolumeRole::Other;
-  Volume volume;
-  volume.name = volumeName(info.name(), info.rootPath(), role);
-  volume.fileSystem = QString::fromLatin1(info.fileSystemType()).toUpper();
-  volume.rootPath = info.rootPath();
-  // An invalid volume answers -1.
-  volume.totalBytes = qMax<qint64>(0, info.bytesTotal());
-  volume.availableBytes = qMax<qint64>(0, info.bytesAvailable());
-  return volume;
+qint64 importantCapacity(const QString& /*rootPath*/) { return 0; }
+
+void revealInFileManager(const QString& path) {
+  const QString clean = QDir::cleanPath(path);
+  send({u"ShowItems"_s, clean, QFileInfo(clean).path()});
+}
+
+void openFolder(const QString& path) {
+  const QString clean = QDir::cleanPath(path);
+  send({u"ShowFolders"_s, clean, clean});
 }
 
 void openFullDiskAccessSettings() {}
