@@ -61,7 +61,10 @@ known_name() {
 
 # setup GROUP...: makes sure that the packages of these groups are installed. Quick and silent when they are.
 setup() {
-  local missing system as_root=() name names=()
+  local missing system group as_root=() name names=()
+  for group; do
+    [[ -n $(package_rows "$group") ]] || { say "no group of packages is called $group"; return 2; }
+  done
   mapfile -t missing < <(missing_packages "$@")
   [[ ${#missing[@]} -gt 0 ]] || return 0
   system=$(system_name)
@@ -79,7 +82,7 @@ setup() {
     as_root=(sudo)
   fi
   say "missing: ${missing[*]//|/ or }"
-  say "running: ${as_root[*]} apt-get update"
+  say "running: ${as_root[*]}${as_root:+ }apt-get update"
   "${as_root[@]}" apt-get update -qq </dev/null || fail "apt-get update failed"
   for name in "${missing[@]}"; do names+=("$(known_name "$name")"); done
   say "installing: ${names[*]}"
