@@ -1,0 +1,50 @@
+/// What painted controls tell a screen reader. A control implements one of the small faces below beside QWidget; one
+/// factory turns them into accessible interfaces. User-interface thread only.
+#pragma once
+
+#include <QAccessible>
+#include <QRect>
+#include <QString>
+
+class QWidget;
+
+namespace ui {
+
+/// A control that shows a value: a gauge, a ring, a bar. The value is also told as text.
+class AccessibleValue {
+ public:
+  virtual ~AccessibleValue() = default;
+  /// What the sighted user reads: "62% used".
+  [[nodiscard]] virtual QString valueText() const = 0;
+  /// Between 0 and 1; negative while there is none (an indeterminate bar).
+  [[nodiscard]] virtual double valueFraction() const = 0;
+};
+
+/// A control with parts that can be reached and worked one by one: segments, tiles.
+class AccessibleItems {
+ public:
+  struct Item {
+    QString name;      ///< what the sighted user reads of it
+    QRect rect;        ///< in the control's coordinates
+    bool checkable = false;
+    bool checked = false;
+    bool current = false;  ///< has the control's keyboard focus
+  };
+
+  virtual ~AccessibleItems() = default;
+  [[nodiscard]] virtual QAccessible::Role itemsRole() const = 0;  ///< of the whole control
+  [[nodiscard]] virtual QAccessible::Role itemRole() const = 0;   ///< of one part
+  [[nodiscard]] virtual int itemCount() const = 0;
+  [[nodiscard]] virtual Item itemAt(int index) const = 0;
+  /// Does what a click on the part does.
+  virtual void activateItem(int index) = 0;
+};
+
+/// Makes the interfaces known to Qt. Once, when the first control is made or the program starts; more calls do nothing.
+void installAccessibility();
+
+/// Tells assistive tools that a value, or the parts, of @p widget have changed; nothing if nobody listens.
+void accessibleValueChanged(QWidget* widget);
+void accessibleItemsChanged(QWidget* widget, int current);
+
+}  // namespace ui

@@ -1,0 +1,22 @@
+/// The line icons and the logos: SVG resources, tinted at run time. User-interface thread only.
+#pragma once
+
+#include <QColor>
+#include <QIcon>
+#include <QRectF>
+#include <QString>
+
+class QPainter;
+
+namespace icons {
+
+/// Paints the icon into @p rect; the colour's alpha becomes opacity. An unknown name paints nothing.
+void paint(QPainter* painter, const QRectF& rect, const QString& name, const QColor& colour);
+/// The icon at @p size logical pixels, for the pixel ratios 1, 1.5 and 2.
+[[nodiscard]] QIcon icon(const QString& name, const QColor& colour, int size);
+/// The full logo.
+void paintLogo(QPainter* painter, const QRectF& rect);
+/// The application's window icon.
+[[nodiscard]] QIcon appIcon();
+
+}  // namespace icons

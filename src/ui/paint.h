@@ -1,0 +1,45 @@
+/// Small pieces of painting that several controls share. All lengths in logical pixels.
+#pragma once
+
+#include <QBrush>
+#include <QColor>
+#include <QPen>
+#include <QPointF>
+#include <QRectF>
+
+class QPainter;
+
+namespace ui::paint {
+
+/// @p colour with another alpha, of 255.
+[[nodiscard]] QColor withAlpha(const QColor& colour, int alpha);
+/// @p colour with another alpha, as a fraction.
+[[nodiscard]] QColor withAlphaF(const QColor& colour, double alpha);
+/// The rectangle in which a one-pixel border stays crisp: half a pixel inside on every side.
+[[nodiscard]] QRectF hairline(const QRectF& rect);
+/// A plain solid pen with square caps and bevel joins.
+[[nodiscard]] QPen pen(const QBrush& brush, double width = 1);
+/// A pen with round caps and joins.
+[[nodiscard]] QPen roundPen(const QBrush& brush, double width);
+
+/// A rounded rectangle with a fill and, if it isn't Qt::NoPen, an outline.
+void roundedRect(QPainter* painter, const QRectF& rect, double radius, const QBrush& fill, const QPen& outline = Qt::NoPen);
+
+/// A soft shadow of stacked rounded rectangles around @p body, from the outermost layer inward.
+struct Shadow {
+  int layers = 8;            ///< the outermost is this many pixels larger on every side
+  double offsetY = 0;        ///< how far the layers lie below the body
+  double radius = 0;         ///< corner radius of a layer is this plus its growth
+  QColor colour = Qt::black;
+  int peak = 0;              ///< alpha at the body is peak x (1 - k / layers) squared, truncated
+};
+void shadow(QPainter* painter, const QRectF& body, const Shadow& shadow);
+
+/// Angles of an arc in turns, clockwise from 12 o'clock, as QPainter::drawArc takes them (sixteenths of a degree).
+struct ArcAngles {
+  int start = 0;
+  int span = 0;
+};
+[[nodiscard]] ArcAngles arcInTurns(double startTurns, double spanTurns);
+
+}  // namespace ui::paint
