@@ -1,6 +1,9 @@
 # The one run-time dependency.
 set(TARNWICK_QT_MIN 6.4)
 find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS Core Gui Concurrent)
+if(TARNWICK_BUILD_UI)
+  find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS Widgets Svg)
+endif()
 if(UNIX AND NOT APPLE)
   find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS DBus)
 endif()

@@ -67,6 +67,6 @@ class Theme : public QObject {
   QColor card, cardHover, track;
   QColor glowA, glowB, core;
 
-  bool dark = false;  ///< changes in refresh() only
-  bool mac = true;    ///< metric set; fixed at construction
+  bool dark = false; ///< changes in refresh() only
+  bool mac = true;   ///< metric set; fixed at construction
 };

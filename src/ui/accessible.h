@@ -20,21 +20,32 @@ class AccessibleValue {
   [[nodiscard]] virtual double valueFraction() const = 0;
 };
 
+/// A control that is one painted button. It may be an AccessibleValue too, and is a button that tells a value then.
+class AccessibleButton {
+ public:
+  virtual ~AccessibleButton() = default;
+  /// What stands on the button; its name, unless QWidget::accessibleName is set.
+  [[nodiscard]] virtual QString buttonText() const = 0;
+  /// Does what a click does.
+  virtual void press() = 0;
+};
+
 /// A control with parts that can be reached and worked one by one: segments, tiles.
 class AccessibleItems {
  public:
   struct Item {
-    QString name;      ///< what the sighted user reads of it
-    QRect rect;        ///< in the control's coordinates
+    QString name; ///< what the sighted user reads of it
+    QRect rect;   ///< in the control's coordinates
     bool checkable = false;
     bool checked = false;
-    bool current = false;  ///< has the control's keyboard focus
+    bool current = false; ///< has the control's keyboard focus
   };
 
   virtual ~AccessibleItems() = default;
-  [[nodiscard]] virtual QAccessible::Role itemsRole() const = 0;  ///< of the whole control
-  [[nodiscard]] virtual QAccessible::Role itemRole() const = 0;   ///< of one part
+  [[nodiscard]] virtual QAccessible::Role itemsRole() const = 0; ///< of the whole control
+  [[nodiscard]] virtual QAccessible::Role itemRole() const = 0;  ///< of one part
   [[nodiscard]] virtual int itemCount() const = 0;
+  /// @param index  from 0 to itemCount() - 1
   [[nodiscard]] virtual Item itemAt(int index) const = 0;
   /// Does what a click on the part does.
   virtual void activateItem(int index) = 0;
@@ -43,8 +54,10 @@ class AccessibleItems {
 /// Makes the interfaces known to Qt. Once, when the first control is made or the program starts; more calls do nothing.
 void installAccessibility();
 
-/// Tells assistive tools that a value, or the parts, of @p widget have changed; nothing if nobody listens.
+/// Tells assistive tools that the value of @p widget has changed; nothing if nobody listens.
 void accessibleValueChanged(QWidget* widget);
+/// Tells assistive tools that the parts of @p widget, or their states, have changed; nothing if nobody listens.
+/// @param current  the part that the change is about and that the keyboard works now; -1 for none
 void accessibleItemsChanged(QWidget* widget, int current);
 
-}  // namespace ui
+} // namespace ui

@@ -16,7 +16,9 @@ enum class Scheme { Unknown, Light, Dark };
 void watchColorScheme(QObject* context, std::function<void()> changed);
 /// Whether the desktop asks for less motion. Read afresh or kept up to date by the portal.
 [[nodiscard]] bool reducedMotion();
+/// Calls @p changed on the user-interface thread whenever that changes, for as long as @p context lives.
+void watchReducedMotion(QObject* context, std::function<void()> changed);
 /// Sets the palette's accent where this Qt has such a role.
 void setAccent(QPalette* palette, const QColor& colour);
 
-}  // namespace compat
+} // namespace compat

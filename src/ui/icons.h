@@ -18,5 +18,7 @@ void paint(QPainter* painter, const QRectF& rect, const QString& name, const QCo
 void paintLogo(QPainter* painter, const QRectF& rect);
 /// The application's window icon.
 [[nodiscard]] QIcon appIcon();
+/// How many pairs of a name and an opaque colour have been asked for so far: what the icons keep in memory.
+[[nodiscard]] int rendererCount();
 
-}  // namespace icons
+} // namespace icons

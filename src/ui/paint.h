@@ -23,15 +23,16 @@ namespace ui::paint {
 [[nodiscard]] QPen roundPen(const QBrush& brush, double width);
 
 /// A rounded rectangle with a fill and, if it isn't Qt::NoPen, an outline.
-void roundedRect(QPainter* painter, const QRectF& rect, double radius, const QBrush& fill, const QPen& outline = Qt::NoPen);
+void roundedRect(QPainter* painter, const QRectF& rect, double radius, const QBrush& fill,
+                 const QPen& outline = Qt::NoPen);
 
 /// A soft shadow of stacked rounded rectangles around @p body, from the outermost layer inward.
 struct Shadow {
-  int layers = 8;            ///< the outermost is this many pixels larger on every side
-  double offsetY = 0;        ///< how far the layers lie below the body
-  double radius = 0;         ///< corner radius of a layer is this plus its growth
+  int layers = 8;     ///< the outermost is this many pixels larger on every side
+  double offsetY = 0; ///< how far the layers lie below the body
+  double radius = 0;  ///< corner radius of a layer is this plus its growth
   QColor colour = Qt::black;
-  int peak = 0;              ///< alpha at the body is peak x (1 - k / layers) squared, truncated
+  int peak = 0; ///< alpha at the body is peak x (1 - k / layers) squared, truncated
 };
 void shadow(QPainter* painter, const QRectF& body, const Shadow& shadow);
 
@@ -42,4 +43,4 @@ struct ArcAngles {
 };
 [[nodiscard]] ArcAngles arcInTurns(double startTurns, double spanTurns);
 
-}  // namespace ui::paint
+} // namespace ui::paint

@@ -23,10 +23,13 @@ class KeyboardFocus : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void focusCame(Qt::FocusReason reason);
+  void focusWent(Qt::FocusReason reason);
   void setVisible(bool on);
 
   QWidget* m_widget;
   bool m_visible = false;
+  bool m_before = false; ///< was shown when the focus left with the window, and will be again
 };
 
-}  // namespace ui
+} // namespace ui

@@ -1,8 +1,9 @@
 /// The 16 ms heartbeat of a small animation. It beats only while its widget is shown, and goes on from there.
 #pragma once
 
-#include <QObject>
 #include <QBasicTimer>
+#include <QObject>
+#include <QPointer>
 
 #include <functional>
 
@@ -32,13 +33,15 @@ class Ticker : public QObject {
   void timerEvent(QTimerEvent* event) override;
 
  private:
+  void watchWindow();
   void update();
 
   QWidget* m_widget;
+  QPointer<QWidget> m_window; ///< the window that the widget was last shown in
   std::function<void()> m_tick;
   Motion m_motion;
   bool m_wanted = false;
   QBasicTimer m_timer;
 };
 
-}  // namespace ui
+} // namespace ui

@@ -22,7 +22,8 @@ namespace ui {
 void setRole(QWidget* widget, const char* role);
 [[nodiscard]] QHBoxLayout* hbox(int spacing = 0, const QMargins& margins = {});
 [[nodiscard]] QVBoxLayout* vbox(int spacing = 0, const QMargins& margins = {});
-/// Empties a layout and those in it; widgets are hidden at once and deleted later, so that one of them may be the caller.
+/// Empties a layout and those in it; widgets are hidden at once and deleted later, so that one of them may be the
+/// caller.
 void clearLayout(QLayout* layout);
 
 /// A page's scrolling column. @param column  receives the layout to fill
@@ -32,4 +33,4 @@ bool dragWindowFrom(QWidget* widget, QMouseEvent* event);
 /// Maximises or restores the window on a double click of the left button; false: the event is the base class's.
 bool zoomWindowFrom(QWidget* widget, QMouseEvent* event);
 
-}  // namespace ui
+} // namespace ui

@@ -1,0 +1,17 @@
+/// Turns Qt's square tool tips into rounded bubbles with a soft shadow. User-interface thread only.
+#pragma once
+
+#include <QObject>
+
+class QLabel;
+
+/// An event filter for the whole application; only Qt's own tip labels are touched, and every event goes on to them.
+/// The style sheet leaves a margin of 8 around the text of a tip, in which the shadow lies. Without a compositor the
+/// tip is cut down to its bubble.
+class TipStyler : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+};

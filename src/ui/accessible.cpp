@@ -1,0 +1,223 @@
+#include "ui/accessible.h"
+
+#include <QAccessibleWidget>
+#include <QPointer>
+#include <QWidget>
+
+#include <vector>
+
+namespace ui {
+
+namespace {
+
+/// A gauge, a ring, a bar, a painted button: one widget without parts.
+class ControlInterface : public QAccessibleWidget, public QAccessibleValueInterface {
+ public:
+  explicit ControlInterface(QWidget* widget)
+      : QAccessibleWidget(widget,
+                          dynamic_cast<AccessibleButton*>(widget) ? QAccessible::Button : QAccessible::ProgressBar),
+        m_value(dynamic_cast<AccessibleValue*>(widget)),
+        m_button(dynamic_cast<AccessibleButton*>(widget)) {}
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    if (type == QAccessible::ValueInterface && m_value) return static_cast<QAccessibleValueInterface*>(this);
+    return QAccessibleWidget::interface_cast(type);
+  }
+
+  [[nodiscard]] QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Value && m_value) return m_value->valueText();
+    const QString own = QAccessibleWidget::text(kind);
+    if (!own.isEmpty()) return own;
+    if (kind == QAccessible::Name) return m_button ? m_button->buttonText() : m_value->valueText();
+    // Some readers look at a name and a description and at no value text.
+    if (kind == QAccessible::Description && m_value) return m_value->valueText();
+    return {};
+  }
+
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.readOnly = !m_button;
+    state.busy = m_value && m_value->valueFraction() < 0;
+    return state;
+  }
+
+  [[nodiscard]] QStringList actionNames() const override {
+    QStringList names = QAccessibleWidget::actionNames();
+    if (m_button && widget()->isEnabled()) names.prepend(pressAction());
+    return names;
+  }
+  void doAction(const QString& name) override {
+    if (m_button && name == pressAction() && widget()->isEnabled())
+      m_button->press();
+    else
+      QAccessibleWidget::doAction(name);
+  }
+
+  [[nodiscard]] QVariant currentValue() const override {
+    const double fraction = m_value->valueFraction();
+    return fraction < 0 ? QVariant() : QVariant(fraction);
+  }
+  void setCurrentValue(const QVariant& /*value*/) override {} // it is shown, not set
+  [[nodiscard]] QVariant maximumValue() const override { return 1.0; }
+  [[nodiscard]] QVariant minimumValue() const override { return 0.0; }
+  [[nodiscard]] QVariant minimumStepSize() const override { return 0.0; }
+
+ private:
+  AccessibleValue* m_value;
+  AccessibleButton* m_button;
+};
+
+/// One segment, one tile.
+class ItemInterface : public QAccessibleInterface, public QAccessibleActionInterface {
+ public:
+  ItemInterface(QWidget* widget, int index) : m_widget(widget), m_index(index) {}
+
+  [[nodiscard]] bool isValid() const override { return m_widget && m_index < items()->itemCount(); }
+  [[nodiscard]] QObject* object() const override { return nullptr; }
+  [[nodiscard]] QWindow* window() const override { return isValid() ? m_widget->window()->windowHandle() : nullptr; }
+  [[nodiscard]] QAccessibleInterface* parent() const override {
+    return m_widget ? QAccessible::queryAccessibleInterface(m_widget.data()) : nullptr;
+  }
+  [[nodiscard]] QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
+  [[nodiscard]] QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
+  [[nodiscard]] int childCount() const override { return 0; }
+  [[nodiscard]] int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
+
+  [[nodiscard]] QAccessible::Role role() const override {
+    return isValid() ? items()->itemRole() : QAccessible::NoRole;
+  }
+  [[nodiscard]] QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Name && isValid() ? items()->itemAt(m_index).name : QString();
+  }
+  void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
+  [[nodiscard]] QRect rect() const override {
+    if (!isValid()) return {};
+    const QRect inWidget = items()->itemAt(m_index).rect;
+    return {m_widget->mapToGlobal(inWidget.topLeft()), inWidget.size()};
+  }
+
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state;
+    state.invalid = !isValid();
+    if (state.invalid) return state;
+    const AccessibleItems::Item item = items()->itemAt(m_index);
+    state.disabled = !m_widget->isEnabled();
+    state.invisible = !m_widget->isVisible();
+    state.focusable = m_widget->focusPolicy() != Qt::NoFocus;
+    state.focused = item.current && m_widget->hasFocus();
+    state.checkable = item.checkable;
+    state.checked = item.checked;
+    return state;
+  }
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+  }
+  [[nodiscard]] QStringList actionNames() const override {
+    if (!isValid() || !m_widget->isEnabled()) return {};
+    return {items()->itemAt(m_index).checkable ? toggleAction() : pressAction()};
+  }
+  void doAction(const QString& name) override {
+    if (actionNames().contains(name)) items()->activateItem(m_index);
+  }
+  [[nodiscard]] QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
+
+ private:
+  [[nodiscard]] AccessibleItems* items() const { return dynamic_cast<AccessibleItems*>(m_widget.data()); }
+
+  QPointer<QWidget> m_widget;
+  int m_index;
+};
+
+/// A control with parts. Owns the interfaces of its parts, which are made when somebody asks for them.
+class ItemsInterface : public QAccessibleWidget {
+ public:
+  explicit ItemsInterface(QWidget* widget)
+      : QAccessibleWidget(widget, dynamic_cast<AccessibleItems*>(widget)->itemsRole()),
+        m_items(dynamic_cast<AccessibleItems*>(widget)) {}
+  ~ItemsInterface() override { shrink(0); }
+
+  [[nodiscard]] int childCount() const override { return m_items->itemCount(); }
+  [[nodiscard]] QAccessibleInterface* child(int index) const override {
+    if (index < 0 || index >= childCount()) return nullptr;
+    shrink(childCount());
+    if (size_t(index) >= m_children.size()) m_children.resize(size_t(index) + 1);
+    QAccessible::Id& id = m_children[size_t(index)];
+    if (id == 0) id = QAccessible::registerAccessibleInterface(new ItemInterface(widget(), index));
+    return QAccessible::accessibleInterface(id);
+  }
+  [[nodiscard]] int indexOfChild(const QAccessibleInterface* wanted) const override {
+    for (int index = 0; index < int(m_children.size()); ++index)
+      if (m_children[size_t(index)] && QAccessible::accessibleInterface(m_children[size_t(index)]) == wanted)
+        return index;
+    return -1;
+  }
+  [[nodiscard]] QAccessibleInterface* childAt(int x, int y) const override {
+    const QPoint point = widget()->mapFromGlobal(QPoint(x, y));
+    for (int index = 0; index < childCount(); ++index)
+      if (m_items->itemAt(index).rect.contains(point)) return child(index);
+    return nullptr;
+  }
+  [[nodiscard]] QAccessibleInterface* focusChild() const override {
+    if (!widget()->hasFocus()) return nullptr;
+    for (int index = 0; index < childCount(); ++index)
+      if (m_items->itemAt(index).current) return child(index);
+    return QAccessibleWidget::focusChild();
+  }
+
+  /// Forgets the parts from @p count on.
+  void shrink(int count) const {
+    for (; m_children.size() > size_t(count); m_children.pop_back())
+      if (m_children.back()) QAccessible::deleteAccessibleInterface(m_children.back());
+  }
+
+ private:
+  AccessibleItems* m_items;
+  mutable std::vector<QAccessible::Id> m_children; ///< 0 for a part that nobody asked for yet
+};
+
+QAccessibleInterface* make(const QString& /*className*/, QObject* object) {
+  auto* widget = qobject_cast<QWidget*>(object);
+  if (!widget) return nullptr;
+  if (dynamic_cast<AccessibleItems*>(widget)) return new ItemsInterface(widget);
+  if (dynamic_cast<AccessibleValue*>(widget) || dynamic_cast<AccessibleButton*>(widget))
+    return new ControlInterface(widget);
+  return nullptr;
+}
+
+} // namespace
+
+void installAccessibility() {
+  [[maybe_unused]] static const bool installed = (QAccessible::installFactory(make), true);
+}
+
+void accessibleValueChanged(QWidget* widget) {
+  if (!QAccessible::isActive()) return;
+  const auto* value = dynamic_cast<AccessibleValue*>(widget);
+  if (!value) return;
+  const double fraction = value->valueFraction();
+  QAccessibleValueChangeEvent event(widget, fraction < 0 ? QVariant() : QVariant(fraction));
+  QAccessible::updateAccessibility(&event);
+}
+
+void accessibleItemsChanged(QWidget* widget, int current) {
+  if (!QAccessible::isActive()) return;
+  const auto* parts = dynamic_cast<ItemsInterface*>(QAccessible::queryAccessibleInterface(widget));
+  if (!parts) return;
+  parts->shrink(parts->childCount());
+  if (current < 0 || current >= parts->childCount()) {
+    QAccessibleEvent reordered(widget, QAccessible::ObjectReorder);
+    QAccessible::updateAccessibility(&reordered);
+    return;
+  }
+  QAccessible::State touched;
+  touched.checked = true;
+  QAccessibleStateChangeEvent state(parts->child(current), touched);
+  QAccessible::updateAccessibility(&state);
+  if (!widget->hasFocus()) return;
+  QAccessibleEvent focus(widget, QAccessible::Focus);
+  focus.setChild(current);
+  QAccessible::updateAccessibility(&focus);
+}
+
+} // namespace ui

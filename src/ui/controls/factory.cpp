@@ -1,0 +1,138 @@
+#include "ui/controls/factory.h"
+
+#include "ui/Theme.h"
+#include "ui/desktop.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QScrollArea>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace ui {
+
+namespace {
+
+constexpr char kRole[] = "role";
+constexpr int kEyebrowPx = 11;
+constexpr int kPageMarginMac = 28;
+constexpr int kPageMarginWin = 32;
+constexpr int kPageTop = 4;
+
+template <typename Layout>
+Layout* box(int spacing, const QMargins& margins) {
+  auto* layout = new Layout;
+  layout->setSpacing(spacing);
+  layout->setContentsMargins(margins);
+  return layout;
+}
+
+QWindow* handleOf(const QWidget* widget) { return widget->window()->windowHandle(); }
+
+/// Waits for the first move after a press of the left button, and begins to move the window then.
+class PendingDrag : public QObject {
+ public:
+  PendingDrag(QWidget* widget, const QPoint& pressedAt) : QObject(widget), m_pressedAt(pressedAt) {
+    widget->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    switch (event->type()) {
+    case QEvent::MouseMove:
+      return moved(static_cast<QWidget*>(watched), static_cast<QMouseEvent*>(event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::Hide:
+      deleteLater();
+      return false;
+    default:
+      return false;
+    }
+  }
+
+ private:
+  bool moved(QWidget* widget, const QMouseEvent* event) {
+    if (m_done || !event->buttons().testFlag(Qt::LeftButton)) return false;
+    const QPoint way = event->globalPosition().toPoint() - m_pressedAt;
+    if (way.manhattanLength() < QApplication::startDragDistance()) return false;
+    m_done = true;
+    deleteLater();
+    if (QWindow* window = handleOf(widget)) window->startSystemMove();
+    return true;
+  }
+
+  QPoint m_pressedAt;
+  bool m_done = false;
+};
+
+} // namespace
+
+QLabel* label(const QString& text, const char* role, QWidget* parent) {
+  auto* label = new QLabel(text, parent);
+  if (role) label->setProperty(kRole, QString::fromLatin1(role));
+  return label;
+}
+
+QLabel* eyebrow(const QString& text, QWidget* parent) {
+  QLabel* result = label(text, "micro", parent);
+  result->setFont(Theme::get().eyebrow(kEyebrowPx));
+  return result;
+}
+
+void setRole(QWidget* widget, const char* role) {
+  widget->setProperty(kRole, QString::fromLatin1(role));
+  widget->style()->unpolish(widget);
+  widget->style()->polish(widget);
+}
+
+QHBoxLayout* hbox(int spacing, const QMargins& margins) { return box<QHBoxLayout>(spacing, margins); }
+QVBoxLayout* vbox(int spacing, const QMargins& margins) { return box<QVBoxLayout>(spacing, margins); }
+
+void clearLayout(QLayout* layout) {
+  while (QLayoutItem* item = layout->takeAt(0)) {
+    if (QWidget* widget = item->widget()) {
+      widget->hide();
+      widget->setParent(nullptr);
+      widget->deleteLater();
+    } else if (QLayout* nested = item->layout()) {
+      clearLayout(nested);
+    }
+    delete item;
+  }
+}
+
+QScrollArea* scrollPage(QVBoxLayout** column) {
+  const int margin = Theme::get().mac ? kPageMarginMac : kPageMarginWin;
+  auto* area = new QScrollArea;
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  auto* content = new QWidget;
+  *column = vbox(0, {margin, kPageTop, margin, margin});
+  content->setLayout(*column);
+  area->setWidget(content);
+  return area;
+}
+
+bool dragWindowFrom(QWidget* widget, QMouseEvent* event) {
+  QWindow* window = handleOf(widget);
+  if (event->button() != Qt::LeftButton || !window) return false;
+  if (desktop::dragStart() == desktop::DragStart::AtPress)
+    window->startSystemMove();
+  else
+    new PendingDrag(widget, event->globalPosition().toPoint());
+  return true;
+}
+
+bool zoomWindowFrom(QWidget* widget, QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return false;
+  QWidget* window = widget->window();
+  window->isMaximized() ? window->showNormal() : window->showMaximized();
+  return true;
+}
+
+} // namespace ui

@@ -1,0 +1,52 @@
+#include "ui/paint.h"
+
+#include <QPainter>
+
+namespace ui::paint {
+
+namespace {
+constexpr double kHalfPixel = 0.5;
+constexpr double kTwelveOClock = 90; // degrees, as QPainter counts them: anticlockwise from 3 o'clock
+constexpr double kFullTurn = 360;
+constexpr int kArcUnits = 16; // QPainter's angles are sixteenths of a degree
+} // namespace
+
+QColor withAlpha(const QColor& colour, int alpha) {
+  QColor result = colour;
+  result.setAlpha(alpha);
+  return result;
+}
+
+QColor withAlphaF(const QColor& colour, double alpha) {
+  QColor result = colour;
+  result.setAlphaF(float(alpha));
+  return result;
+}
+
+QRectF hairline(const QRectF& rect) { return rect.adjusted(kHalfPixel, kHalfPixel, -kHalfPixel, -kHalfPixel); }
+
+QPen pen(const QBrush& brush, double width) { return {brush, width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin}; }
+
+QPen roundPen(const QBrush& brush, double width) { return {brush, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin}; }
+
+void roundedRect(QPainter* painter, const QRectF& rect, double radius, const QBrush& fill, const QPen& outline) {
+  painter->setPen(outline);
+  painter->setBrush(fill);
+  painter->drawRoundedRect(rect, radius, radius);
+}
+
+void shadow(QPainter* painter, const QRectF& body, const Shadow& shadow) {
+  const QRectF base = body.translated(0, shadow.offsetY);
+  for (int k = shadow.layers; k >= 1; --k) {
+    const double fade = 1 - double(k) / shadow.layers;
+    const QColor colour = withAlpha(shadow.colour, int(shadow.peak * fade * fade));
+    roundedRect(painter, base.adjusted(-k, -k, k, k), shadow.radius + k, colour);
+  }
+}
+
+ArcAngles arcInTurns(double startTurns, double spanTurns) {
+  return {.start = int((kTwelveOClock - kFullTurn * startTurns) * kArcUnits),
+          .span = int(-kFullTurn * spanTurns * kArcUnits)};
+}
+
+} // namespace ui::paint
