@@ -106,7 +106,7 @@ QMenu::item:selected { background: @accentSoft; }
 QString rgba(const QColor& colour) {
   return u"rgba(%1,%2,%3,%4)"_s.arg(colour.red()).arg(colour.green()).arg(colour.blue()).arg(colour.alpha());
 }
-QString px(int length) { return QString::number(length) + u"px"; }
+QString px(int length) { return QString::number(length) + "px"_L1; }
 
 QString generalFamily() { return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family(); }
 
@@ -151,7 +151,7 @@ constexpr Token kTokens[] = {
     {"@bad"_L1, colour<&Theme::bad>},
     {"@display"_L1, [](const Theme&) { return generalFamily(); }},
     // Stands between double quotes in the template, so these inner ones close the first name and open the second.
-    {"@mono"_L1, [](const Theme& theme) { return theme.mono(11, 400).family() + u"\", \"" + generalFamily(); }},
+    {"@mono"_L1, [](const Theme& theme) { return theme.mono(11, 400).family() + "\", \""_L1 + generalFamily(); }},
     {"@arrow"_L1, [](const Theme& theme) { return theme.dark ? u"arrow-dark"_s : u"arrow-light"_s; }},
     {"@box"_L1, [](const Theme& theme) { return theme.dark ? u"box-dark"_s : u"box-light"_s; }},
     {"@h1px"_L1, length<24, 26>},
