@@ -64,13 +64,13 @@ FoldedText foldedText(QStringView text) {
   return result;
 }
 
-}  // namespace
+} // namespace
 
 /// One pattern, split at its stars.
 struct Matcher::Wildcard {
   std::vector<std::string_view> literals;
-  bool fromStart = false;  // no star before the first literal
-  bool toEnd = false;      // no star behind the last
+  bool fromStart = false; // no star before the first literal
+  bool toEnd = false;     // no star behind the last
 
   explicit Wildcard(std::string_view pattern) : fromStart(!pattern.starts_with('*')), toEnd(!pattern.ends_with('*')) {
     while (!pattern.empty()) {
@@ -113,11 +113,11 @@ struct Matcher::Wildcard {
 struct Matcher::Trie {
   struct Node {
     std::vector<quint16> next;
-    quint16 fallback = 0;              // the longest other state that the text so far ends with
-    bool hit = false;                  // a key ends here
-    bool certain = false;              // a key that is its whole pattern does
-    bool pastSlash = false;            // the "/" behind a component was the last thing met
-    std::vector<quint16> unsure = {};  // patterns that the component must be held against
+    quint16 fallback = 0;             // the longest other state that the text so far ends with
+    bool hit = false;                 // a key ends here
+    bool certain = false;             // a key that is its whole pattern does
+    bool pastSlash = false;           // the "/" behind a component was the last thing met
+    std::vector<quint16> unsure = {}; // patterns that the component must be held against
   };
   std::vector<Node> nodes;
   quint8 classes;
@@ -189,10 +189,10 @@ Matcher::Matcher(std::span<const std::string_view> list) {
     std::string key = wildcard.key();
     add(key);
     if (key.back() != kSlash) continue;
-    key.insert(key.size() - 1, 1, '\n');  // the end of a component may stand before a line break
+    key.insert(key.size() - 1, 1, '\n'); // the end of a component may stand before a line break
     add(key);
   }
-  m_classOfAscii[kStart] = 0;  // in a text, it is a character like any other
+  m_classOfAscii[kStart] = 0; // in a text, it is a character like any other
   trie.complete();
   flatten(trie, start);
 }
@@ -284,21 +284,19 @@ Set inForce() {
 std::span<const std::string_view> common() { return kCommon; }
 std::span<const std::string_view> linuxAdditions() { return kLinuxAdditions; }
 
-}  // namespace patterns
+} // namespace patterns
 
 namespace appguard {
 
-bool isProtectedAppData(const QString& path) {
-  return patterns::Matcher::of(patterns::inForce()).matchesPath(path);
-}
+bool isProtectedAppData(const QString& path) { return patterns::Matcher::of(patterns::inForce()).matchesPath(path); }
 
 bool isProtectedName(QStringView component) {
   return patterns::Matcher::of(patterns::inForce()).matchesName(component);
 }
 
 QString protectedSummary() {
-  return QCoreApplication::translate(
-      "AppGuard", "Password managers, input methods, security and device-management agents, VPNs");
+  return QCoreApplication::translate("AppGuard",
+                                     "Password managers, input methods, security and device-management agents, VPNs");
 }
 
-}  // namespace appguard
+} // namespace appguard

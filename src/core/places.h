@@ -32,9 +32,9 @@ namespace places {
 struct CacheRoot {
   enum class Kind { Session, Flatpak, Snap };
   QString path;
-  QString id;  ///< the Flatpak id or the snap's name; empty for the session's own
+  QString id; ///< the Flatpak id or the snap's name; empty for the session's own
   Kind kind = Kind::Session;
 };
 [[nodiscard]] QList<CacheRoot> cacheRoots();
 
-}  // namespace places
+} // namespace places

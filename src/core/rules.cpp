@@ -37,8 +37,7 @@ bool startsWith(QStringView text, QStringView prefix) {
 
 bool endsWith(QStringView text, QStringView suffix) {
   if (suffix.isEmpty()) return true;
-  return text.size() >= suffix.size() && text.back() == suffix.back() &&
-         startsWith(text.last(suffix.size()), suffix);
+  return text.size() >= suffix.size() && text.back() == suffix.back() && startsWith(text.last(suffix.size()), suffix);
 }
 
 bool isWildcard(QChar unit) { return unit == u'*' || unit == u'?'; }
@@ -50,7 +49,7 @@ char32_t takeCodePoint(QStringView text, qsizetype* at) {
   return QChar::surrogateToUcs4(unit, text[(*at)++]);
 }
 
-}  // namespace
+} // namespace
 
 Subject::Subject(QStringView normalized) : path(normalized) {
   const auto add = [this](QStringView component) {
@@ -74,11 +73,11 @@ Subject::Subject(QStringView normalized) : path(normalized) {
 /// The pattern from its first wildcard on.
 struct Glob::Machine {
   size_t words = 1;
-  qsizetype length = 0;          // of the pattern, in characters that must be met
-  std::vector<quint64> any;      // before these stands a "?"
-  std::vector<quint64> loops;    // here a star may take one more character that is no "/"
-  std::vector<quint64> deep;     // here a double star may take one more
-  std::vector<quint64> ascii;    // what each ASCII character moves on
+  qsizetype length = 0;       // of the pattern, in characters that must be met
+  std::vector<quint64> any;   // before these stands a "?"
+  std::vector<quint64> loops; // here a star may take one more character that is no "/"
+  std::vector<quint64> deep;  // here a double star may take one more
+  std::vector<quint64> ascii; // what each ASCII character moves on
   QHash<char32_t, std::vector<quint64>> others;
 
   using Bits = QVarLengthArray<quint64, 4>;
@@ -204,7 +203,7 @@ bool matchesToLineBreak(const Glob& glob, QStringView text) {
   return glob.matches(text) || (text.endsWith(u'\n') && glob.matches(text.chopped(1)));
 }
 
-}  // namespace
+} // namespace
 
 Rule::Rule(const QString& text) : m_glob(text.isValidUtf16() ? text : QString()) {
   if (!text.isValidUtf16()) {
@@ -269,8 +268,8 @@ struct Entry {
 
 /// All that isExcluded keeps, under one mutex.
 struct Cache {
-  QHash<QString, Compiled> compiled;  // by the expanded text; never cleared
-  QList<QString> list;                // shares its data with the list that was asked last: the same data is the same list
+  QHash<QString, Compiled> compiled; // by the expanded text; never cleared
+  QList<QString> list; // shares its data with the list that was asked last: the same data is the same list
   QByteArray homeVariable;
   std::vector<Entry> entries;
 
@@ -308,19 +307,18 @@ LockedCache& shared() {
 }
 
 bool coversAny(const QVarLengthArray<Compiled, 2>& rules, const Subject& subject) {
-  return std::any_of(rules.cbegin(), rules.cend(), [&](const Compiled& rule) {
-    return !subject.wellFormed || rule->covers(subject);
-  });
+  return std::any_of(rules.cbegin(), rules.cend(),
+                     [&](const Compiled& rule) { return !subject.wellFormed || rule->covers(subject); });
 }
 
-}  // namespace
+} // namespace
 
 bool isCovered(const QString& path, const QList<QString>& list) {
   if (list.isEmpty()) return false;
-  LockedCache& common = shared();
-  const QMutexLocker lock(&common.mutex);
   const QString normalized = safety::normalized(path);
   const Subject subject(normalized);
+  LockedCache& common = shared();
+  const QMutexLocker lock(&common.mutex);
   common.cache.prepare(list);
   for (size_t i = 0; i < common.cache.entries.size(); ++i)
     if (coversAny(common.cache.meet(i).rules, subject)) return true;
@@ -350,4 +348,4 @@ qsizetype compiledCount() {
   return common.cache.compiled.size();
 }
 
-}  // namespace rules
+} // namespace rules

@@ -21,8 +21,8 @@ struct Subject {
 
   QStringView path;
   QVarLengthArray<QStringView, 32> components;
-  quint64 signs = 0;       ///< one bit for each component, by its length and its first and last character
-  bool wellFormed = true;  ///< whether the text is valid UTF-16
+  quint64 signs = 0;      ///< one bit for each component, by its length and its first and last character
+  bool wellFormed = true; ///< whether the text is valid UTF-16
 };
 
 /// A text with wildcards. Matches in a time that grows with the lengths of text and pattern, whatever they are.
@@ -40,11 +40,11 @@ class Glob {
   struct Machine;
   [[nodiscard]] bool holds(QStringView text, Tail tail) const;
 
-  QString m_prefix;  // what stands before the first wildcard, and behind the last
+  QString m_prefix; // what stands before the first wildcard, and behind the last
   QString m_suffix;
-  bool m_anyMiddle = false;  // the pattern is prefix, star, suffix: nothing else to look at but slashes
+  bool m_anyMiddle = false; // the pattern is prefix, star, suffix: nothing else to look at but slashes
   bool m_crossesSlash = false;
-  std::shared_ptr<const Machine> m_machine;  // null: no wildcards
+  std::shared_ptr<const Machine> m_machine; // null: no wildcards
 };
 
 /// One rule, trimmed and with its "~" replaced.
@@ -59,24 +59,24 @@ class Rule {
 
  private:
   enum class Kind : quint8 {
-    Always,     // no valid text: it can't be told what is meant, so nothing is touched
-    Component,  // "*.log": any component
-    AnyDepth,   // "**/*.log": any component but the first of a relative path
+    Always,    // no valid text: it can't be told what is meant, so nothing is touched
+    Component, // "*.log": any component
+    AnyDepth,  // "**/*.log": any component but the first of a relative path
     Path,
   };
   [[nodiscard]] bool coversComponent(const Subject& subject) const;
 
   Kind m_kind = Kind::Path;
   Glob m_glob;
-  quint64 m_needs = 0;  // signs that a path must show, or it isn't covered
+  quint64 m_needs = 0; // signs that a path must show, or it isn't covered
 };
 
 /// The texts that @p rule stands for, trimmed: itself; with "~" at its start, the path below the home folder, and below
 /// each home folder where places::home() and QDir::homePath() differ; nothing for a blank rule.
 [[nodiscard]] QVarLengthArray<QString, 2> expanded(const QString& rule);
 
-/// Whether a rule of @p list covers @p path, which is normalized first. Compiles a rule when it is first met: what stands
-/// behind a match isn't compiled. Asks under one lock for the whole process; the empty list costs no lock.
+/// Whether a rule of @p list covers @p path, which is normalized first. Compiles a rule when it is first met: what
+/// stands behind a match isn't compiled. Asks under one lock for the whole process; the empty list costs no lock.
 [[nodiscard]] bool isCovered(const QString& path, const QList<QString>& list);
 
 /// All rules of a list, compiled. Immutable; any thread.
@@ -97,4 +97,4 @@ class RuleSet {
 /// How many rules this process has compiled so far. Each text is compiled once, when it is first needed.
 [[nodiscard]] qsizetype compiledCount();
 
-}  // namespace rules
+} // namespace rules
