@@ -210,7 +210,7 @@ class TestProcFs : public QObject {
     const FakeProc proc(home);
     proc.link(u"12/fd/0"_s, u"/dev/null"_s);
     proc.link(u"12/fd/17"_s, u"/data/a folder/file"_s);
-    proc.link(u"12/cwd"_s, u"/work/here"_s);
+    proc.link(u"12/cwd"_s, u"/data/here"_s);
     proc.link(u"12/root"_s, u"/chroot"_s);
     proc.link(u"12/exe"_s, u"/opt/tool"_s);
     proc.write(u"12/maps"_s,
@@ -218,10 +218,10 @@ class TestProcFs : public QObject {
     proc.link(u"13/fd/3"_s, u"/data/second"_s);
     const OpenFiles open = openFiles(proc.sources);
     QCOMPARE(open.files,
-             (QSet<QString>{u"/dev/null"_s, u"/data/a folder/file"_s, u"/work/here"_s, u"/chroot"_s, u"/opt/tool"_s,
+             (QSet<QString>{u"/dev/null"_s, u"/data/a folder/file"_s, u"/data/here"_s, u"/chroot"_s, u"/opt/tool"_s,
                             u"/usr/lib/lib.so"_s, u"/usr/lib/other.so"_s, u"/data/second"_s}));
-    QVERIFY(open.contains(u"/work/here"_s));
-    QVERIFY(open.containsUnder(u"/work"_s));
+    QVERIFY(open.contains(u"/data/here"_s));
+    QVERIFY(open.containsUnder(u"/data"_s));
     QVERIFY(!open.containsUnder(u"/"_s));
   }
 
