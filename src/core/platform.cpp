@@ -1,7 +1,5 @@
 #include "core/platform.h"
 
-#include "core/places.h"
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QStorageInfo>
@@ -18,7 +16,7 @@ Host host() {
 bool isPreview() { return host() != builtFor(); }
 
 Volume systemVolume() {
-  const QString home = places::home();
+  const QString home = QDir::homePath();
   const QStorageInfo info(home.isEmpty() ? QDir::rootPath() : home);
   Volume volume;
   volume.rootPath = info.rootPath();

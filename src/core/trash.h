@@ -12,15 +12,15 @@ namespace trash {
 
 enum class Result {
   Moved,
-  NoTrash,  ///< no Trash can be made on the file's volume: nothing was tried, nothing will help
-  Failed,   ///< the system refused; error tells why, and the file stands where it stood
+  NoTrash, ///< no Trash can be made on the file's volume: nothing was tried, nothing will help
+  Failed,  ///< the system refused; error tells why, and the file stands where it stood
 };
 
 struct Outcome {
   Result result = Result::Failed;
-  int error = 0;        ///< errno of a failure
-  QString trashedPath;  ///< where a moved file lies now
-  QString infoPath;     ///< its info file; empty on systems without such
+  int error = 0;            ///< errno of a failure; ENOENT only where the thing itself has gone
+  QString trashedPath = {}; ///< where a moved file lies now
+  QString infoPath = {};    ///< its info file; empty on systems without such
 };
 
 /// Moves any number of things; knows the Trash of each volume after the first. One thread at a time.
@@ -56,4 +56,4 @@ class Session {
 /// file up to date. Does nothing for another folder, or while the thing is still there.
 void forget(const QString& filesFolder, const QByteArray& name);
 
-}  // namespace trash
+} // namespace trash

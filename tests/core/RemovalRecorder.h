@@ -1,0 +1,85 @@
+/// What a removal asked and told, for tests: verdicts by path, everything else may go.
+#pragma once
+
+#include "core/names.h"
+#include "core/removal.h"
+
+#include <QFile>
+#include <QHash>
+#include <QList>
+#include <QStringList>
+
+#include <grp.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+struct RemovalRecorder {
+  QHash<QString, removal::Verdict> verdicts; ///< by Node::path
+  QStringList asked;
+  QList<std::pair<QString, removal::Kept>> kept;
+  QList<removal::Stay> busy;
+
+  removal::Handlers handlers() {
+    return {.judge =
+                [this](const removal::Node& node) {
+                  asked.append(node.path);
+                  return verdicts.value(node.path, removal::Verdict::Remove);
+                },
+            .kept =
+                [this](const removal::Node& node, removal::Kept why) {
+                  kept.append({node.path, why});
+                },
+            .busy = [this](const removal::Stay& stay) { busy.append(stay); }};
+  }
+
+  void clear() {
+    asked.clear();
+    kept.clear();
+    busy.clear();
+  }
+
+  QStringList busyPaths() const {
+    QStringList paths;
+    for (const removal::Stay& stay : busy) paths.append(stay.node.path);
+    paths.sort();
+    return paths;
+  }
+  QStringList keptPaths() const {
+    QStringList paths;
+    for (const auto& one : kept) paths.append(one.first);
+    paths.sort();
+    return paths;
+  }
+};
+
+/// Whether something stands at @p path, a dangling link too.
+inline bool isThere(const QString& path) {
+  struct stat status;
+  return ::lstat(QFile::encodeName(path).constData(), &status) == 0;
+}
+
+/// Runs @p work in a child process that is no administrator. @return its result, or -1 if it crashed
+inline int asPlainUser(const std::function<int()>& work) {
+  constexpr uid_t kNobody = 65534;
+  const pid_t child = ::fork();
+  if (child == 0) {
+    const bool dropped =
+        ::geteuid() != 0 || (::setgroups(0, nullptr) == 0 && ::setgid(kNobody) == 0 && ::setuid(kNobody) == 0);
+    ::_exit(dropped ? work() : 100);
+  }
+  int status = 0;
+  if (child < 0 || ::waitpid(child, &status, 0) != child || !WIFEXITED(status)) return -1;
+  return WEXITSTATUS(status);
+}
+
+/// Gives @p path, and all below it, to the user of asPlainUser(), and makes the folders above it passable.
+inline void giveToPlainUser(const QString& path) {
+  if (::geteuid() != 0) return;
+  const QByteArray raw = QFile::encodeName(path);
+  const QByteArray command = "chown -hR 65534:65534 '" + raw + "'";
+  if (::system(command.constData()) != 0) qFatal("cannot chown %s", raw.constData());
+  for (QByteArray above = raw.left(raw.lastIndexOf('/')); above.startsWith("/var/tmp/tarnwick-test-");
+       above = above.left(above.lastIndexOf('/')))
+    ::chmod(above.constData(), 0755);
+}
