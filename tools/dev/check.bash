@@ -1,22 +1,123 @@
 # Tests, lints, formatting. Sourced by ./dev, which defines root, jobs, say and fail.
 
+# Another version formats and warns otherwise.
+llvm_version=14
+
 # sources: every C++ file that is ours.
 sources() { find src tests bench fuzz -name '*.cpp' -o -name '*.h' -o -name '*.mm' | sort; }
 
 # llvm_tool NAME: the version that the house goes by where it is installed, else any.
 llvm_tool() {
-  if command -v "$1-14" >/dev/null; then echo "$1-14"; else echo "$1"; fi
+  if command -v "$1-$llvm_version" >/dev/null; then echo "$1-$llvm_version"; else echo "$1"; fi
 }
 
-format() {
-  setup lint
-  sources | xargs "$(llvm_tool clang-format)" -i
+# is_advice TOOL: whether what it says doesn't count, as it is another version; says so.
+is_advice() {
+  [[ $("$1" --version) != *version\ $llvm_version.* ]] || return 1
+  say "$1 is not version $llvm_version: what it says is advice"
+}
+
+# A row of checks goes on after a failure; the failed ones are told at its end.
+failed_checks=()
+
+# check NAME COMMAND...
+check() {
+  local name=$1 begun=$SECONDS
+  shift
+  say "== $name"
+  if "$@"; then say "== $name passed ($((SECONDS - begun)) s)"; else
+    say "== $name FAILED ($((SECONDS - begun)) s)"
+    failed_checks+=("$name")
+  fi
+}
+
+end_of_checks() {
+  [[ ${#failed_checks[@]} -eq 0 ]] || { say "failed: $(printf '%s; ' "${failed_checks[@]}")"; return 1; }
 }
 
 # run_tests [--full] [CTEST ARGS...]
 run_tests() {
-  setup build test
-  configure dev -DTARNWICK_WERROR=ON
-  cmake --build --preset dev -j "$jobs"
-  ctest --test-dir build/dev --output-on-failure -j 2 "$@"
+  if [[ ${1:-} == --full ]]; then
+    shift
+    run_all_tests
+    return
+  fi
+  setup build test || return
+  build_strictly dev && ctest --test-dir build/dev --output-on-failure -j 2 -LE long "$@"
+}
+
+run_all_tests() {
+  setup build test lint full || return
+  check "tests, the long ones too" full_suite dev
+  check "tests under address and undefined-behaviour sanitizers" full_suite asan
+  check "engines under the thread sanitizer" engines_under_tsan
+  check "headless half alone" build_strictly headless
+  check "fuzzers" fuzz 60
+  check "clang-tidy" tidy
+  end_of_checks
+}
+
+full_suite() { build_strictly "$1" && ctest --test-dir "build/$1" --output-on-failure -j 2; }
+
+engines_under_tsan() {
+  build_strictly tsan tests/engines/all &&
+    TSAN_OPTIONS="suppressions=$root/cmake/tsan.supp halt_on_error=0 second_deadlock_stack=1" \
+      ctest --test-dir build/tsan/tests/engines --output-on-failure -j 2
+}
+
+# fuzz SECONDS: each fuzzer that long, from the inputs that earlier runs found on.
+fuzz() {
+  local seconds=$1 program name status=0
+  setup build full || return
+  build fuzz || return
+  for program in build/fuzz/fuzz/tarnwick-fuzz-*; do
+    [[ -x $program && -f $program ]] || continue
+    name=${program##*/}
+    mkdir -p "build/fuzz/inputs/$name"
+    say "$name for $seconds s"
+    if ! "$program" -max_total_time="$seconds" -print_final_stats=1 -artifact_prefix="build/fuzz/$name-" \
+      "build/fuzz/inputs/$name" >"build/fuzz/$name.log" 2>&1; then
+      tail -n 40 "build/fuzz/$name.log" >&2
+      say "$name failed; its input lies in build/fuzz"
+      status=1
+    else
+      say "$name: $(awk '/number_of_executed_units/ { print $2 }' "build/fuzz/$name.log") inputs"
+    fi
+  done
+  return $status
+}
+
+format() { setup lint && sources | xargs "$(llvm_tool clang-format)" -i; }
+
+lint() {
+  setup build lint || return
+  check "formatting" formatting
+  check "house rules" house_rules
+  check "shell scripts" shell_scripts
+  check "clang-tidy" tidy
+  end_of_checks
+}
+
+formatting() {
+  local tool
+  tool=$(llvm_tool clang-format)
+  sources | xargs "$tool" --dry-run -Werror || is_advice "$tool"
+}
+
+house_rules() {
+  local name status=0
+  for name in layers removal systems shape; do python3 "tests/lint/$name.py" "$root" || status=1; done
+  return $status
+}
+
+shell_scripts() {
+  if ! command -v shellcheck >/dev/null; then say "shellcheck isn't installed: skipped"; return; fi
+  shellcheck --external-sources --check-sourced dev .ci/run
+}
+
+# tidy: over src/, what changed since it last passed; needs what the build makes (generated files, dependencies).
+tidy() {
+  local tool
+  tool=$(llvm_tool clang-tidy)
+  build_strictly dev >/dev/null && { tools/dev/tidy "$tool" build/dev || is_advice "$tool"; }
 }

@@ -1,4 +1,4 @@
-# Installs what tools/dev/packages names. Sourced by ./dev, which defines root, say and fail.
+# Installs what tools/dev/packages names. Sourced by ./dev, which defines root and say.
 #
 # For tests: TARNWICK_OS_RELEASE names a file that is read instead of /etc/os-release.
 
@@ -59,33 +59,35 @@ known_name() {
   echo "${1%%|*}"
 }
 
+# as_root COMMAND...
+as_root() {
+  if [[ $(id -u) == 0 ]]; then "$@"; else sudo "$@"; fi
+}
+
+# name_missing REASON LIST: says what is missing, and why it isn't installed here.
+name_missing() {
+  say "$1 Missing, by their Debian names:"
+  printf '%s\n' "$2" | sed 's/^/  /; s/|/ or /g' >&2
+}
+
 # setup GROUP...: makes sure that the packages of these groups are installed. Quick and silent when they are.
 setup() {
-  local missing system group as_root=() name names=()
+  local missing system group name names=()
   for group; do
     [[ -n $(package_rows "$group") ]] || { say "no group of packages is called $group"; return 2; }
   done
-  mapfile -t missing < <(missing_packages "$@")
-  [[ ${#missing[@]} -gt 0 ]] || return 0
+  missing=$(missing_packages "$@")
+  [[ -n $missing ]] || return 0
   system=$(system_name)
-  if ! is_known "$system"; then
-    say "this system ($system) is not one whose packages I know. Missing, by their Debian names:"
-    printf '  %s\n' "${missing[@]//|/ or }" >&2
+  if ! is_known "$system"; then name_missing "This system ($system) is not one whose packages I know." "$missing"; return 1; fi
+  if [[ $(id -u) != 0 ]] && ! command -v sudo >/dev/null; then
+    name_missing "Neither root nor sudo here." "$missing"
     return 1
   fi
-  if [[ $(id -u) != 0 ]]; then
-    if ! command -v sudo >/dev/null; then
-      say "neither root nor sudo here. Have these packages installed:"
-      printf '  %s\n' "${missing[@]//|/ or }" >&2
-      return 1
-    fi
-    as_root=(sudo)
-  fi
-  say "missing: ${missing[*]//|/ or }"
-  say "running: ${as_root[*]}${as_root:+ }apt-get update"
-  "${as_root[@]}" apt-get update -qq </dev/null || fail "apt-get update failed"
-  for name in "${missing[@]}"; do names+=("$(known_name "$name")"); done
+  say "missing: ${missing//$'\n'/ }; asking apt-get for its lists"
+  as_root apt-get update -qq </dev/null || { say "apt-get update failed"; return 1; }
+  for name in $missing; do names+=("$(known_name "$name")"); done
   say "installing: ${names[*]}"
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${names[@]}" </dev/null ||
-    fail "apt-get install failed"
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${names[@]}" </dev/null ||
+    { say "apt-get install failed"; return 1; }
 }
