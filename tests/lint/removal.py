@@ -33,7 +33,7 @@ FREE_CALL = re.compile(rf"(?P<before>[\w:>.\])-]*[\s&*]*)(?<!\w)(?P<name>{POSIX}
 STATIC_CALL = re.compile(rf"\b(?:{CLASSES})::(?P<name>{METHODS})\b")
 TEMPORARY_CALL = re.compile(rf"\b(?:{CLASSES})\s*(?:\([^;]*?\)|\{{[^;]*?\}})\s*\.\s*(?P<name>{METHODS})\s*\(")
 VARIABLE = re.compile(
-    rf"\b(?:{CLASSES})>?\s*[&*]*\s+[&*]*(\w+)\b|\b(\w+)\s*=\s*(?:new\s+|std::make_unique<)?(?:{CLASSES})\b"
+    rf"\b(?:{CLASSES})>?\s*[&*]*\s+[&*]*(\w+)\b|\b(\w+)\s*=\s*(?:new\s+|std::make_unique<)?(?:{CLASSES})>?\s*[({{]"
 )
 ANY_CALL = re.compile(r"(?:\.|->|::)\s*(?P<name>removeRecursively|rmpath)\s*\(")
 OTHER = re.compile(r"\bfilesystem::(?P<name>\w+)|\b(?P<call>SYS_(?:unlink|rename|rmdir)\w*|__NR_(?:unlink|rename|rmdir)\w*)")

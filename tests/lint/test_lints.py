@@ -130,6 +130,7 @@ class Removal(LintCase):
         '  log(R"(rmdir("a"))");',
         "  removed(path);",
         "  QFile::exists(path);",
+        "  QString clean = QDir::cleanPath(path); clean.remove(0, 3);",
         "  std::remove_if(a, b, c);",
     ]
 
@@ -139,9 +140,13 @@ class Removal(LintCase):
 
     def test_a_file_object_is_known_by_its_declaration(self):
         self.write("src/app/a.h", "struct A {\n  QFile m_file;\n};\n")
-        self.write("src/app/a.cpp", "void f(QDir& dir) {\n  QFile one(path);\n  one.remove();\n  dir.rmdir(name);\n  m_file.rename(x);\n}\n")
+        self.write(
+            "src/app/a.cpp",
+            "void f(QDir& dir) {\n  QFile one(path);\n  one.remove();\n  dir.rmdir(name);\n  m_file.rename(x);\n"
+            "  auto two = QFile(path);\n  two.remove();\n  auto three = std::make_unique<QFile>(path);\n  three->remove();\n}\n",
+        )
         self.write("src/app/b.cpp", "void f(QString one) {\n  one.remove(3);\n}\n")
-        self.assert_found("src/app/a.cpp:3", "src/app/a.cpp:4", "src/app/a.cpp:5")
+        self.assert_found(*[f"src/app/a.cpp:{line}" for line in (3, 4, 5, 7, 9)])
 
     def test_what_only_looks_like_it_is_let_be(self):
         self.write("src/engines/good.cpp", "\n".join(self.GOOD))
