@@ -28,7 +28,7 @@ Try cancelAfter(const QString& folder, double delayMs) {
   return {clock.ms(), totals};
 }
 
-}  // namespace
+} // namespace
 
 int main(int argc, char** argv) {
   const QString folder = QString::fromLocal8Bit(bench::folderArgument(argc, argv));

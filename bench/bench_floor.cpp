@@ -2,9 +2,9 @@
 // descriptor. No bounded descriptors, no hard links, no other devices, no paths: a yardstick, not a walker.
 #include "figure.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace {
@@ -22,17 +22,15 @@ struct Sums {
   long long files = 0;
 };
 
-bool isDots(const char* name) {
-  return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
-}
+bool isDots(const char* name) { return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')); }
 
 void walk(int fd, Sums* sums) {
   alignas(KernelName) char buffer[32 * 1024];
   struct stat status;
   for (;;) {
-    const long got = ::syscall(SYS_getdents64, fd, buffer, sizeof buffer);
+    const ssize_t got = ::getdents64(fd, buffer, sizeof buffer);
     if (got <= 0) return;
-    for (long at = 0; at < got;) {
+    for (ssize_t at = 0; at < got;) {
       const auto* record = reinterpret_cast<const KernelName*>(buffer + at);
       at += record->recordBytes;
       if (isDots(record->name)) continue;
@@ -50,7 +48,7 @@ void walk(int fd, Sums* sums) {
   }
 }
 
-}  // namespace
+} // namespace
 
 int main(int argc, char** argv) {
   Sums sums;

@@ -14,7 +14,7 @@
 namespace {
 
 constexpr int kEntriesPerFolder = 10;
-constexpr int kBigFolderEvery = 50;   ///< every 50th folder holds as much as 40 others
+constexpr int kBigFolderEvery = 50; ///< every 50th folder holds as much as 40 others
 constexpr int kBigFolderFactor = 40;
 constexpr size_t kMaxDepth = 14;
 
@@ -43,7 +43,8 @@ struct Folder {
 }
 
 std::string nameOf(Random* random, uint64_t number) {
-  static constexpr const char* kWords[] = {"cache", "index", "Preview", "data_v2", "com.example.helper", "thumb", "log"};
+  static constexpr const char* kWords[] = {"cache", "index", "Preview", "data_v2", "com.example.helper",
+                                           "thumb", "log"};
   static constexpr const char* kEndings[] = {"", ".db", ".json", ".tmp", ".bin", ".sqlite-wal"};
   std::string name = kWords[random->below(std::size(kWords))];
   name += '-' + std::to_string(number);
@@ -94,7 +95,7 @@ void makeFlat(const std::string& root, uint64_t entries) {
   for (uint64_t i = 0; i < entries; ++i) makeFile(root + '/' + nameOf(&random, i), 0);
 }
 
-}  // namespace
+} // namespace
 
 int main(int argc, char** argv) {
   const uint64_t entries = argc >= 3 ? std::strtoull(argv[2], nullptr, 10) : 0;

@@ -40,4 +40,4 @@ inline void report(const char* name, double ms, long long bytes, long long files
   std::printf("name=%s ms=%.1f bytes=%lld files=%lld peak_kib=%ld\n", name, ms, bytes, files, peakKib());
 }
 
-}  // namespace bench
+} // namespace bench

@@ -1,34 +1,8 @@
 #include "core/DirChain.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 
-namespace {
-constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-}
-
-DirChain::DirChain(UniqueFd top) { m_levels.push_back(Level{std::move(top)}); }
-
-bool DirChain::enter(const char* name) {
-  if (m_open == kMaxOpen) closeOldest();
-  UniqueFd child(::openat(fd(), name, kFolderFlags));
-  if (!child) return false;
-  m_levels.push_back(Level{std::move(child)});
-  ++m_open;
-  return true;
-}
-
-bool DirChain::leave() {
-  if (depth() == 0) return false;
-  if (!m_levels[depth() - 1].fd && !reopen()) {
-    m_levels.resize(1);
-    m_open = 1;
-    return false;
-  }
-  m_levels.pop_back();
-  --m_open;
-  return true;
-}
+DirChain::DirChain(UniqueFd top) { m_levels.emplace_back(std::move(top)); }
 
 // The open levels below the top are always the deepest ones, so the oldest of them stands this far from the end.
 void DirChain::closeOldest() {
@@ -42,12 +16,17 @@ void DirChain::closeOldest() {
   --m_open;
 }
 
-bool DirChain::reopen() {
+bool DirChain::reopenAbove() {
   Level& above = m_levels[depth() - 1];
-  UniqueFd parent(::openat(fd(), "..", kFolderFlags));
+  UniqueFd parent(::openat(fd(), "..", kFlags));
   struct stat status;
-  if (!parent || ::fstat(parent.get(), &status) != 0) return false;
-  if (status.st_dev != above.device || status.st_ino != above.inode) return false;
+  const bool same =
+      parent && ::fstat(parent.get(), &status) == 0 && status.st_dev == above.device && status.st_ino == above.inode;
+  if (!same) {
+    m_levels.erase(m_levels.begin() + 1, m_levels.end());
+    m_open = 1;
+    return false;
+  }
   above.fd = std::move(parent);
   ++m_open;
   return true;

@@ -3,6 +3,7 @@
 
 #include "core/UniqueFd.h"
 
+#include <fcntl.h>
 #include <sys/types.h>
 
 #include <vector>
@@ -21,20 +22,39 @@ class DirChain {
   [[nodiscard]] int fd() const { return m_levels.back().fd.get(); }
   /// How many folders lie below the top; 0 at the top.
   [[nodiscard]] size_t depth() const { return m_levels.size() - 1; }
+
   /// Opens @p name in the deepest folder and makes it the deepest. False with errno set: the deepest stays the deepest.
-  [[nodiscard]] bool enter(const char* name);
+  [[nodiscard]] bool enter(const char* name) {
+    if (m_open == kMaxOpen) closeOldest();
+    const int child = ::openat(fd(), name, kFlags);
+    if (child < 0) return false;
+    m_levels.emplace_back(UniqueFd(child));
+    ++m_open;
+    return true;
+  }
+
   /// Leaves the deepest folder for the one above it. False: that folder can't be reached again, as something was moved
   /// meanwhile; the chain then has only its top left, and the walk must end. At the top it does nothing, false.
-  [[nodiscard]] bool leave();
+  [[nodiscard]] bool leave() {
+    if (depth() == 0 || (!m_levels[depth() - 1].fd && !reopenAbove())) return false;
+    m_levels.pop_back();
+    --m_open;
+    return true;
+  }
 
  private:
+  static constexpr int kFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+
   struct Level {
+    explicit Level(UniqueFd folder) : fd(std::move(folder)) {}
+
     UniqueFd fd;
     dev_t device = 0; ///< known from when the level was closed
     ino_t inode = 0;
   };
+
   void closeOldest();
-  bool reopen();
+  bool reopenAbove();
 
   std::vector<Level> m_levels;
   size_t m_open = 1;

@@ -7,64 +7,77 @@
 #include <QByteArrayView>
 
 #include <atomic>
-#include <optional>
-#include <string>
+#include <cstddef>
+#include <cstring>
+#include <memory>
 #include <vector>
 
+namespace fs {
+
 /// The folders of a tree, depth first, the one that was listed last first: an explicit stack of names that aren't
-/// entered yet, below a chain of open folders. A folder that can't be entered is passed over without a word. Path,
-/// which has enter(QByteArrayView) and leave(), is told where the walk goes. One thread at a time.
-template <class Path>
+/// entered yet, below a chain of open folders. A folder that can't be entered is passed over without a word. Cancelling
+/// is asked for once a folder, before it. One thread at a time.
 class TreeWalk {
+  /// A stack of bytes. std::string does the same, at the price of a dozen instructions more for each folder.
+  class Bytes {
+   public:
+    [[nodiscard]] const char* data() const { return m_data.get(); }
+    [[nodiscard]] size_t size() const { return m_size; }
+    void append(const char* from, size_t size) {
+      if (m_size + size > m_capacity) grow(size);
+      std::memcpy(m_data.get() + m_size, from, size);
+      m_size += size;
+    }
+    void truncate(size_t size) { m_size = size; }
+
+   private:
+    void grow(size_t more);
+
+    std::unique_ptr<char[]> m_data;
+    size_t m_size = 0;
+    size_t m_capacity = 0;
+  };
+
  public:
   enum class Step { Folder, End, Cancelled };
 
-  /// @p path and @p cancel must live as long as the walk.
-  TreeWalk(Path* path, const std::atomic<bool>& cancel) : m_path(path), m_cancel(cancel) {}
+  /// Begins in @p top, an open folder that was never read. @p cancel must live as long as the walk.
+  TreeWalk(UniqueFd top, const std::atomic<bool>& cancel) : m_chain(std::move(top)), m_cancel(cancel) {}
 
-  /// Begins in @p top, an open folder.
-  [[nodiscard]] Step begin(UniqueFd top) {
-    m_chain.emplace(std::move(top));
-    m_begins.push_back(0);
-    return m_reader.start(fd()) ? Step::Folder : Step::End;
-  }
-
-  /// Goes to the next folder, asking the flag before each. Ends early where the way back is lost, as a folder was
-  /// moved.
-  [[nodiscard]] Step next() {
-    for (;;) {
-      while (m_waiting.size() == m_begins.back()) {
-        if (!m_chain->leave()) return Step::End;
-        m_begins.pop_back();
-        m_path->leave();
-      }
-      if (m_cancel.load(std::memory_order_relaxed)) return Step::Cancelled;
-      if (enterLast() && m_reader.start(fd())) return Step::Folder;
-    }
-  }
+  /// Goes to the next folder, the top first. Ends early where the way back is lost, because a folder was moved.
+  [[nodiscard]] Step next();
 
   /// Descriptor of the current folder; stays the walk's.
-  [[nodiscard]] int fd() const { return m_chain->fd(); }
-  /// The next name of the current folder; false at its end.
-  [[nodiscard]] bool nextName(sys::RawName* name) { return m_reader.next(name); }
-  /// Keeps a folder of the current one for later.
-  void push(const sys::RawName& name) { m_waiting.append(name.name, name.length + 1); }
-
- private:
-  bool enterLast() {
-    const size_t begin = m_waiting.rfind('\0', m_waiting.size() - 2) + 1;
-    const QByteArrayView name(m_waiting.data() + begin, static_cast<qsizetype>(m_waiting.size() - begin - 1));
-    const bool entered = m_chain->enter(name.data());
-    if (entered) m_path->enter(name);
-    m_waiting.resize(begin);
-    if (entered) m_begins.push_back(begin);
-    return entered;
+  [[nodiscard]] int fd() const { return m_chain.fd(); }
+  /// How many folders the current one lies below the top.
+  [[nodiscard]] size_t depth() const { return m_chain.depth(); }
+  /// Name of the folder on the way from the top to the current one that lies @p depth folders below the top; at
+  /// least 1.
+  [[nodiscard]] QByteArrayView nameAt(size_t depth) const {
+    return QByteArrayView(m_names.data() + m_levels[depth].name);
   }
 
-  Path* m_path;
+  /// Lists the current folder, once.
+  [[nodiscard]] sys::DirReader& reader() { return m_reader; }
+  /// Keeps a folder of the current one for later.
+  void push(const dirent& folder) {
+    // All the room that the record gives to the name: what stands behind the zero byte does no harm.
+    m_waiting.push_back(m_names.size());
+    m_names.append(folder.d_name, folder.d_reclen - offsetof(dirent, d_name));
+  }
+
+ private:
+  struct Level {
+    size_t name;    ///< where its name begins in m_names
+    size_t waiting; ///< the first in m_waiting that lies in it
+  };
+
+  DirChain m_chain;
   const std::atomic<bool>& m_cancel;
   sys::DirReader m_reader;
-  std::optional<DirChain> m_chain;
-  std::string m_waiting;        ///< names, each with its zero byte
-  std::vector<size_t> m_begins; ///< where the names of each level begin
+  Bytes m_names;                 ///< of the folders that the walk is in or that wait, each with its zero byte
+  std::vector<size_t> m_waiting; ///< where the names begin of those that wait
+  std::vector<Level> m_levels;   ///< one for each folder of the chain; none before the top
 };
+
+} // namespace fs

@@ -32,7 +32,7 @@ Place placeOf(const QString& path) {
   while (place.rest.size() >= PATH_MAX) {
     const qsizetype cut = place.rest.lastIndexOf('/', PATH_MAX - 2);
     if (cut <= 0) break;
-    UniqueFd next(sys::openPassage(place.at(), place.rest.left(cut).constData()));
+    UniqueFd next(sys::openPassage(place.at(), place.rest.left(cut).constData(), sys::Links::Follow));
     if (!next) break; // what is left is too long for any call, which then fails
     place.start = std::move(next);
     qsizetype begin = cut;
@@ -91,7 +91,8 @@ QList<Entry> list(const QString& dir) {
   QList<Entry> entries;
   const UniqueFd fd = openFolder(dir);
   sys::DirReader reader;
-  if (!fd || !reader.start(fd.get())) return entries;
+  if (!fd) return entries;
+  reader.startFresh(fd.get());
   sys::RawName raw;
   struct stat status;
   while (reader.next(&raw)) {

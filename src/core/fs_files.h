@@ -21,6 +21,9 @@ void fill(Entry* entry, const struct stat& status);
 /// A folder whose text ends with a backslash: join() puts nothing between it and a name, and the text leads elsewhere.
 [[nodiscard]] inline bool joinsWrongly(const QString& dir) { return dir.endsWith(QLatin1Char('\\')); }
 /// Whether a walk that began on @p root leaves its device here. 0 means unknown.
-[[nodiscard]] inline bool leavesDevice(dev_t device, dev_t root) { return device != root && device != 0 && root != 0; }
+[[nodiscard]] inline bool leavesDevice(dev_t device, dev_t root) {
+  if (device == root) return false;
+  return device != 0 && root != 0;
+}
 
 } // namespace fs

@@ -11,38 +11,19 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-#include <algorithm>
-#include <vector>
+#include <limits>
 
 namespace fs {
 namespace {
 
 constexpr int kProgressEvery = 400; ///< files
 
-/// Where a measure stands, in the system's bytes below the root; a text only when somebody asks.
-class RawPath {
- public:
-  explicit RawPath(const QString& root)
-      : m_root(root), m_rootSeparates(root.endsWith(QLatin1Char('/')) || joinsWrongly(root)) {}
-
-  void enter(QByteArrayView name) {
-    m_lengths.push_back(m_below.size());
-    const bool separated = m_below.isEmpty() ? m_rootSeparates : m_below.endsWith('\\');
-    if (!separated) m_below.append('/');
-    m_below.append(name.data(), name.size());
-  }
-  void leave() {
-    m_below.truncate(m_lengths.back());
-    m_lengths.pop_back();
-  }
-  [[nodiscard]] QString text() const { return m_root + names::decode(m_below); }
-
- private:
-  QString m_root;
-  bool m_rootSeparates;
-  QByteArray m_below;
-  std::vector<qsizetype> m_lengths;
-};
+/// The text of the current folder's path; made only when somebody asks.
+QString pathOf(const QString& root, const TreeWalk& walk) {
+  QString path = root;
+  for (size_t depth = 1; depth <= walk.depth(); ++depth) path = join(path, names::decode(walk.nameAt(depth)));
+  return path;
+}
 
 /// The folders that a measure leaves out. Asked by the last name first, so that few paths are put together.
 class Excludes {
@@ -54,10 +35,10 @@ class Excludes {
       m_names.insert(clean.mid(clean.lastIndexOf(QLatin1Char('/')) + 1));
     }
   }
-  [[nodiscard]] bool hold(const RawPath& dir, const sys::RawName& raw) const {
+  [[nodiscard]] bool hold(const QString& root, const TreeWalk& walk, const char* rawName) const {
     if (m_paths.isEmpty()) return false;
-    const QString name = names::decode(QByteArrayView(raw.name, static_cast<qsizetype>(raw.length)));
-    return m_names.contains(name) && m_paths.contains(QDir::cleanPath(join(dir.text(), name)));
+    const QString name = names::decode(QByteArrayView(rawName));
+    return m_names.contains(name) && m_paths.contains(QDir::cleanPath(join(pathOf(root, walk), name)));
   }
 
  private:
@@ -68,40 +49,61 @@ class Excludes {
 class Measure {
  public:
   Measure(const QString& root, dev_t device, const Progress& progress, const QList<QString>& exclude)
-      : path(root), m_device(device), m_links(device), m_progress(progress), m_excludes(exclude) {}
-
-  void folder(TreeWalk<RawPath>* walk) {
-    sys::RawName name;
-    struct stat status;
-    while (walk->nextName(&name)) {
-      if (::fstatat(walk->fd(), name.name, &status, AT_SYMLINK_NOFOLLOW) != 0 || sys::isDataless(status)) continue;
-      if (!S_ISDIR(status.st_mode)) {
-        count(status);
-      } else if (!leavesDevice(status.st_dev, m_device) && !m_excludes.hold(path, name)) {
-        walk->push(name);
-      }
-    }
+      : m_root(root), m_device(device), m_links(device), m_excludes(exclude), m_progress(progress) {
+    if (progress) m_untilTell = kProgressEvery;
   }
 
-  RawPath path;
-  Totals totals;
+  void folder(TreeWalk* walk) {
+    const int fd = walk->fd();
+    struct stat status;
+    walk->reader().drain([&](const dirent& entry) {
+      if (::fstatat(fd, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0 || sys::isDataless(status)) return;
+      if (S_ISREG(status.st_mode)) {
+        count(*walk, status, status.st_blocks);
+      } else if (!S_ISDIR(status.st_mode)) {
+        count(*walk, status, 0);
+      } else if (!leavesDevice(status.st_dev, m_device) && !m_excludes.hold(m_root, *walk, entry.d_name)) {
+        walk->push(entry);
+      }
+    });
+  }
+
+  [[nodiscard]] Totals totals() const { return {bytes(), m_files, sys::toMs(m_newest)}; }
 
  private:
-  void count(const struct stat& status) {
-    if (status.st_nlink >= 2 && status.st_ino != 0 && !m_links.insert(status.st_dev, status.st_ino)) return;
-    if (S_ISREG(status.st_mode)) totals.bytes += qint64{status.st_blocks} * 512;
-    ++totals.files;
-    totals.newestMs = std::max(totals.newestMs, sys::modifiedMs(status));
-    if (++m_sinceProgress < kProgressEvery || !m_progress) return;
-    m_sinceProgress = 0;
-    m_progress(path.text(), totals.bytes, totals.files);
+  void count(const TreeWalk& walk, const struct stat& status, qint64 blocks) {
+    if (status.st_nlink >= 2 && !isFirstOfLinks(status)) return;
+    m_blocks += blocks;
+    ++m_files;
+    raise(sys::modifiedTime(status));
+    if (--m_untilTell == 0) tell(walk);
   }
 
+  [[nodiscard]] qint64 bytes() const { return m_blocks * 512; }
+
+  [[gnu::cold, gnu::noinline]] bool isFirstOfLinks(const struct stat& status) {
+    return status.st_ino == 0 || m_links.insert(status.st_dev, status.st_ino);
+  }
+
+  void raise(const timespec& time) {
+    if (time.tv_sec < m_newest.tv_sec) return;
+    if (time.tv_sec > m_newest.tv_sec || time.tv_nsec > m_newest.tv_nsec) m_newest = time;
+  }
+
+  [[gnu::cold, gnu::noinline]] void tell(const TreeWalk& walk) {
+    m_untilTell += kProgressEvery;
+    m_progress(pathOf(m_root, walk), bytes(), m_files);
+  }
+
+  qint64 m_blocks = 0; ///< of 512 bytes
+  timespec m_newest{};
+  qint64 m_files = 0;
+  const QString& m_root;
   dev_t m_device;
   LinkSet m_links;
-  const Progress& m_progress;
   Excludes m_excludes;
-  int m_sinceProgress = 0;
+  const Progress& m_progress;
+  qint64 m_untilTell = std::numeric_limits<qint64>::max(); ///< files until the next progress
 };
 
 } // namespace
@@ -115,14 +117,12 @@ Totals measure(const QString& path, const std::atomic<bool>& cancel, const Progr
     fill(&entry, root);
     return {entry.allocated, 1, entry.modifiedMs};
   }
-  if (cancel) return {};
   UniqueFd top = openFolder(path, O_NOFOLLOW);
   if (!top) return {};
   Measure measure(path, root.st_dev, progress, exclude);
-  TreeWalk<RawPath> walk(&measure.path, cancel);
-  using Step = TreeWalk<RawPath>::Step;
-  for (Step step = walk.begin(std::move(top)); step == Step::Folder; step = walk.next()) measure.folder(&walk);
-  return measure.totals;
+  TreeWalk walk(std::move(top), cancel);
+  while (walk.next() == TreeWalk::Step::Folder) measure.folder(&walk);
+  return measure.totals();
 }
 
 } // namespace fs

@@ -13,24 +13,17 @@
 namespace fs {
 namespace {
 
-QByteArrayView viewOf(const sys::RawName& raw) { return {raw.name, static_cast<qsizetype>(raw.length)}; }
-
 /// Where a visit stands, as text: the folder's path, and beside it a buffer with the same path and a separator, to
 /// which each file's name is set. Both are extended once a folder, and not made anew for each file.
 class TextPath {
  public:
   explicit TextPath(const QString& root) : m_folder(root), m_reachable(!joinsWrongly(root)) { beginFiles(); }
 
-  void enter(QByteArrayView name) {
-    m_levels.push_back({m_folder.size(), m_reachable});
-    const bool survives = names::append(&separate(&m_folder), name);
-    m_reachable = m_reachable && survives && !joinsWrongly(m_folder);
-    beginFiles();
-  }
-  void leave() {
-    m_folder.truncate(m_levels.back().length);
-    m_reachable = m_levels.back().reachable;
-    m_levels.pop_back();
+  /// Follows @p walk to the folder that it has just reached.
+  void follow(const TreeWalk& walk) {
+    if (walk.depth() == 0) return;
+    while (m_levels.size() >= walk.depth()) leave();
+    enter(walk.nameAt(walk.depth()));
   }
 
   [[nodiscard]] const QString& folder() const { return m_folder; }
@@ -47,6 +40,17 @@ class TextPath {
     bool reachable;
   };
 
+  void enter(QByteArrayView name) {
+    m_levels.push_back({m_folder.size(), m_reachable});
+    const bool survives = names::append(&separate(&m_folder), name);
+    m_reachable = m_reachable && survives && !joinsWrongly(m_folder);
+    beginFiles();
+  }
+  void leave() {
+    m_folder.truncate(m_levels.back().length);
+    m_reachable = m_levels.back().reachable;
+    m_levels.pop_back();
+  }
   static QString& separate(QString* path) {
     if (!path->endsWith(QLatin1Char('/')) && !joinsWrongly(*path)) path->append(QLatin1Char('/'));
     return *path;
@@ -64,41 +68,44 @@ class TextPath {
   std::vector<Level> m_levels;
 };
 
-using Walk = TreeWalk<TextPath>;
 using SkipDir = std::function<bool(const QString&, const QString&)>;
 using Visit = std::function<void(const QString&, const Entry&)>;
 
 class FileVisit {
  public:
   FileVisit(const QString& root, dev_t device, const SkipDir& skipDir, const Visit& visit)
-      : path(root), m_device(device), m_skipDir(skipDir), m_visit(visit) {}
+      : m_path(root), m_device(device), m_skipDir(skipDir), m_visit(visit) {}
 
-  void folder(Walk* walk) {
-    sys::RawName raw;
+  void folder(TreeWalk* walk) {
+    m_path.follow(*walk);
+    const int fd = walk->fd();
     struct stat status;
-    while (walk->nextName(&raw)) {
-      if (::fstatat(walk->fd(), raw.name, &status, AT_SYMLINK_NOFOLLOW) != 0) continue;
-      if (S_ISLNK(status.st_mode) || sys::isDataless(status)) continue;
+    walk->reader().drain([&](const dirent& entry) {
+      const char* name = entry.d_name;
+      if (::fstatat(fd, name, &status, AT_SYMLINK_NOFOLLOW) != 0) return;
+      if (S_ISLNK(status.st_mode) || sys::isDataless(status)) return;
       if (!S_ISDIR(status.st_mode)) {
-        file(walk->fd(), raw, status);
-      } else if (!leavesDevice(status.st_dev, m_device) &&
-                 !(m_skipDir && m_skipDir(path.folder(), names::decode(viewOf(raw))))) {
-        walk->push(raw);
+        file(fd, QByteArrayView(name), status);
+      } else if (!leavesDevice(status.st_dev, m_device) && !isSkipped(name)) {
+        walk->push(entry);
       }
-    }
+    });
   }
-
-  TextPath path;
 
  private:
-  void file(int dirFd, const sys::RawName& raw, const struct stat& status) {
-    m_entry.name.resize(0);
-    const bool survives = names::append(&m_entry.name, viewOf(raw));
-    fill(&m_entry, status);
-    m_entry.reachable = path.reachable() && (survives || reachesAnyway(dirFd, viewOf(raw), status));
-    m_visit(path.fileOf(m_entry.name), m_entry);
+  bool isSkipped(const char* name) const {
+    return m_skipDir && m_skipDir(m_path.folder(), names::decode(QByteArrayView(name)));
   }
 
+  void file(int dirFd, QByteArrayView name, const struct stat& status) {
+    m_entry.name.resize(0);
+    const bool survives = names::append(&m_entry.name, name);
+    fill(&m_entry, status);
+    m_entry.reachable = m_path.reachable() && (survives || reachesAnyway(dirFd, name, status));
+    m_visit(m_path.fileOf(m_entry.name), m_entry);
+  }
+
+  TextPath m_path;
   dev_t m_device;
   const SkipDir& m_skipDir;
   const Visit& m_visit;
@@ -114,10 +121,12 @@ bool visitFiles(const QString& root, const std::atomic<bool>& cancel, const Skip
   UniqueFd top = openFolder(root);
   if (!top) return true;
   FileVisit files(root, device, skipDir, visit);
-  Walk walk(&files.path, cancel);
-  Walk::Step step = walk.begin(std::move(top));
-  for (; step == Walk::Step::Folder; step = walk.next()) files.folder(&walk);
-  return step != Walk::Step::Cancelled;
+  TreeWalk walk(std::move(top), cancel);
+  for (;;) {
+    const TreeWalk::Step step = walk.next();
+    if (step != TreeWalk::Step::Folder) return step == TreeWalk::Step::End;
+    files.folder(&walk);
+  }
 }
 
 } // namespace fs

@@ -17,9 +17,8 @@ ALLOWED = {
     ("src/core/sys.h", "renameNoReplace"): "declares it for the primitive",
     ("src/core/linux/sys.cpp", "renameNoReplace"): "the system's side of it",
     ("src/core/linux/sys.cpp", "renameat2"): "the system call behind renameNoReplace",
-    ("src/core/linux/sys.cpp", "SYS_renameat2"): "the same where the C library has no name for it",
-    ("src/core/linux/sys.cpp", "renameat"): "renameNoReplace on file systems that know no such rename",
-    ("src/core/linux/sys.cpp", "unlinkat"): "the second half of that, and taking back its first half",
+    ("src/core/sys.cpp", "renameat"): "renameNoReplace on file systems that know no such rename",
+    ("src/core/sys.cpp", "unlinkat"): "the second half of that, and taking back its first half",
     ("src/core/macos/sys.cpp", "renameNoReplace"): "the system's side of it",
     ("src/core/macos/sys.cpp", "renameatx_np"): "the system call behind renameNoReplace",
 }

@@ -1,6 +1,5 @@
 #include "core/sys.h"
 
-#include "core/UniqueFd.h"
 #include "core/names.h"
 
 #include <fcntl.h>
@@ -8,10 +7,11 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
+#include <cstddef>
 #include <cstdio>
-#include <cstring>
 
 names::Codec names::systemCodec() { return Codec::Bytes; }
 
@@ -20,16 +20,9 @@ namespace {
 
 constexpr size_t kListBufferBytes = 32 * 1024;
 
-/// What the kernel writes for each name; records stand one after the other, 8-byte aligned.
-struct KernelName {
-  ino64_t inode;
-  off64_t offset;
-  unsigned short recordBytes;
-  unsigned char type;
-  char name[1];
-};
-
-bool isDots(const char* name) { return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')); }
+// The kernel's record is the C library's, but for the room that the latter gives to the name.
+static_assert(sizeof(dirent::d_ino) == 8 && offsetof(dirent, d_reclen) == 16 && offsetof(dirent, d_type) == 18 &&
+              offsetof(dirent, d_name) == 19);
 
 std::optional<quint64> mountOf(int dirFd, const char* name, int flags) {
   struct statx status;
@@ -38,87 +31,22 @@ std::optional<quint64> mountOf(int dirFd, const char* name, int flags) {
   return status.stx_mnt_id;
 }
 
-qint64 toMs(const timespec& time) { return qint64{time.tv_sec} * 1000 + time.tv_nsec / 1'000'000; }
-
-/// For file systems that know no rename without replacing. A file gets its new name by a link, a folder by a rename
-/// over an empty folder made here: each fails if the new name is taken.
-int renameByHand(int oldDirFd, const char* oldName, int newDirFd, const char* newName) {
-  struct stat status;
-  if (::fstatat(oldDirFd, oldName, &status, AT_SYMLINK_NOFOLLOW) != 0) return errno;
-  if (S_ISDIR(status.st_mode)) {
-    if (::mkdirat(newDirFd, newName, 0700) != 0) return errno;
-    if (::renameat(oldDirFd, oldName, newDirFd, newName) == 0) return 0;
-    const int error = errno;
-    ::unlinkat(newDirFd, newName, AT_REMOVEDIR);
-    return error;
-  }
-  if (::linkat(oldDirFd, oldName, newDirFd, newName, 0) != 0) return errno;
-  if (::unlinkat(oldDirFd, oldName, 0) == 0) return 0;
-  const int error = errno;
-  ::unlinkat(newDirFd, newName, 0);
-  return error;
-}
-
-constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-constexpr int kPassageFlags = O_PATH | O_DIRECTORY | O_CLOEXEC;
-
-/// One component after the other, for paths that are too long for one call and kernels without openat2.
-int openByComponents(const QByteArray& path) {
-  UniqueFd at(::open("/", kPassageFlags));
-  qsizetype begin = 0;
-  while (at) {
-    while (begin < path.size() && path[begin] == '/') ++begin;
-    if (begin == path.size()) return ::openat(at.get(), ".", kFolderFlags);
-    qsizetype end = path.indexOf('/', begin);
-    if (end < 0) end = path.size();
-    at = UniqueFd(::openat(at.get(), path.mid(begin, end - begin).constData(), kPassageFlags | O_NOFOLLOW));
-    begin = end;
-  }
-  return -1;
-}
-
 } // namespace
 
 struct DirReader::State {
-  int fd = -1;
-  int error = 0;
-  size_t position = 0;
-  size_t filled = 0;
-  alignas(KernelName) char buffer[kListBufferBytes];
+  alignas(dirent) char buffer[kListBufferBytes];
 };
 
 DirReader::DirReader() : d(new State) {}
 DirReader::~DirReader() = default;
 
-bool DirReader::start(int fd) {
-  d->fd = fd;
-  d->error = 0;
-  d->position = d->filled = 0;
-  return ::lseek(fd, 0, SEEK_SET) == 0;
+bool DirReader::fill() {
+  const ssize_t got = ::getdents64(m_fd, d->buffer, sizeof d->buffer);
+  if (got < 0) m_error = errno;
+  m_next = d->buffer;
+  m_end = m_next + std::max<ssize_t>(got, 0);
+  return got > 0;
 }
-
-bool DirReader::next(RawName* out) {
-  for (;;) {
-    if (d->position == d->filled) {
-      const long got = ::syscall(SYS_getdents64, d->fd, d->buffer, sizeof d->buffer);
-      if (got < 0) d->error = errno;
-      d->position = 0;
-      d->filled = got > 0 ? static_cast<size_t>(got) : 0;
-      if (d->filled == 0) return false;
-    }
-    const auto* record = reinterpret_cast<const KernelName*>(d->buffer + d->position);
-    d->position += record->recordBytes;
-    if (isDots(record->name)) continue;
-    *out = {record->name, std::strlen(record->name), record->type};
-    return true;
-  }
-}
-
-int DirReader::error() const { return d->error; }
-
-qint64 modifiedMs(const struct stat& status) { return toMs(status.st_mtim); }
-qint64 accessedMs(const struct stat& status) { return toMs(status.st_atim); }
-bool isDataless(const struct stat&) { return false; }
 
 std::optional<quint64> mountId(int fd) { return mountOf(fd, "", AT_EMPTY_PATH); }
 
@@ -128,9 +56,9 @@ std::optional<quint64> mountIdAt(int dirFd, const char* name) {
 
 int renameNoReplace(int oldDirFd, const char* oldName, int newDirFd, const char* newName) {
   if (::renameat2(oldDirFd, oldName, newDirFd, newName, RENAME_NOREPLACE) == 0) return 0;
-  // EINVAL is also the answer to a folder that is to move into itself, which a rename by hand refuses likewise.
+  // EINVAL also answers a folder that is to move into itself, which the steps refuse likewise.
   if (errno != EINVAL && errno != ENOSYS) return errno;
-  return renameByHand(oldDirFd, oldName, newDirFd, newName);
+  return renameBySteps(oldDirFd, oldName, newDirFd, newName);
 }
 
 QByteArray descriptorPath(int fd) {
@@ -145,7 +73,10 @@ QByteArray descriptorPath(int fd) {
   return path;
 }
 
-int openPassage(int dirFd, const char* name) { return ::openat(dirFd, name, kPassageFlags); }
+int openPassage(int dirFd, const char* name, Links links) {
+  const int noFollow = links == Links::Refuse ? O_NOFOLLOW : 0;
+  return ::openat(dirFd, name, O_PATH | O_DIRECTORY | O_CLOEXEC | noFollow);
+}
 
 int openFolderNoLinks(const QByteArray& path) {
   if (!path.startsWith('/')) {
@@ -153,12 +84,12 @@ int openFolderNoLinks(const QByteArray& path) {
     return -1;
   }
   open_how how{};
-  how.flags = kFolderFlags;
+  how.flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
   how.resolve = RESOLVE_NO_SYMLINKS;
   const long fd = ::syscall(SYS_openat2, AT_FDCWD, path.constData(), &how, sizeof how);
   if (fd >= 0) return static_cast<int>(fd);
-  const bool retry = errno == ENOSYS || errno == EPERM || errno == ENAMETOOLONG;
-  return retry ? openByComponents(path) : -1;
+  const bool bySteps = errno == ENOSYS || errno == EPERM || errno == ENAMETOOLONG;
+  return bySteps ? openFolderBySteps(path) : -1;
 }
 
 } // namespace sys

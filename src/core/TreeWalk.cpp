@@ -1,0 +1,40 @@
+#include "core/TreeWalk.h"
+
+#include <algorithm>
+
+namespace fs {
+
+TreeWalk::Step TreeWalk::next() {
+  if (m_levels.empty()) {
+    if (m_cancel) return Step::Cancelled;
+    m_levels.push_back({0, 0});
+    m_reader.startFresh(fd());
+    return Step::Folder;
+  }
+  for (;;) {
+    while (m_waiting.size() == m_levels.back().waiting) {
+      if (!m_chain.leave()) return Step::End;
+      m_names.truncate(m_levels.back().name);
+      m_levels.pop_back();
+    }
+    if (m_cancel.load(std::memory_order_relaxed)) return Step::Cancelled;
+    const size_t name = m_waiting.back();
+    m_waiting.pop_back();
+    if (m_chain.enter(m_names.data() + name)) {
+      m_levels.push_back({name, m_waiting.size()});
+      m_reader.startFresh(fd());
+      return Step::Folder;
+    }
+    m_names.truncate(name);
+  }
+}
+
+void TreeWalk::Bytes::grow(size_t more) {
+  const size_t capacity = std::max({m_size + more, m_capacity * 2, size_t{4096}});
+  std::unique_ptr<char[]> data(new char[capacity]);
+  if (m_size > 0) std::memcpy(data.get(), m_data.get(), m_size);
+  m_data = std::move(data);
+  m_capacity = capacity;
+}
+
+} // namespace fs
