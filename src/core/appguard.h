@@ -48,7 +48,8 @@ struct Sources {
 };
 
 /// Takes a snapshot. Blocks for as long as the system's source takes; never fails, an unreadable source is empty. On
-/// Linux only what this process may read counts: all of the user's, and of others no more than a name.
+/// Linux only what this process may read counts: all of the user's, and of others no more than a name. What a process
+/// reached through a mount of its own, as in a container, bears the name that it has there.
 [[nodiscard]] RunningApps runningApps(const Sources& sources = {});
 [[nodiscard]] OpenFiles openFiles(const Sources& sources = {});
 /// Whether some process has exactly this file open now, under whatever name, or works in this folder. False where that

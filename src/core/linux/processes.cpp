@@ -243,7 +243,11 @@ bool isFileInUse(const QString& path, const Sources& sources) {
   if (!wanted) return false;
   return anyProcess(sources.procRoot, [&](int process) {
     const auto isIt = [&](int dirFd, const char* name) {
-      return identity(dirFd, name, 0) == wanted || target(dirFd, name) == raw;
+      const QByteArray text = target(dirFd, name);
+      if (text == raw) return true;
+      // Sockets and the like have no path; a path that is too long to be told is none either.
+      const bool isPath = text.isEmpty() || text.startsWith('/');
+      return isPath && identity(dirFd, name, 0) == wanted;
     };
     return anyLink(process, isIt) || anyMapped(process, [&](const QByteArray& mapped) { return mapped == raw; });
   });
