@@ -2,6 +2,7 @@
 /// cache that bears the very name of something that runs belongs to it.
 #include "core/appguard.h"
 
+#include "core/places.h"
 #include "core/platform.h"
 
 #include <QDir>
@@ -75,13 +76,6 @@ QString ownerByPart(const QStringList& parts, qsizetype at, const RunningApps& a
   return owner;
 }
 
-// Until core/places is there.
-QString homeFolder() { return QDir::homePath(); }
-QString cacheFolder() {
-  const QString set = qEnvironmentVariable("XDG_CACHE_HOME");
-  return QDir::isAbsolutePath(set) ? QDir::cleanPath(set) : homeFolder() + "/.cache"_L1;
-}
-
 QStringList split(const QString& path) { return path.split(u'/', Qt::SkipEmptyParts); }
 
 /// The parts of @p path below @p root, in any case of letters; none if it doesn't lie there.
@@ -99,10 +93,12 @@ QString runningByName(const QString& name, const RunningApps& apps) {
 
 /// The owner by the name of the package whose cache root holds @p path, or of the folder directly below a cache root.
 QString ownerBelowCacheRoot(const QString& path, const RunningApps& apps) {
-  const QStringList own = partsBelow(path, cacheFolder());
+  const QString home = places::home();
+  if (home.isEmpty()) return {};
+  const QStringList own = partsBelow(path, places::cache());
   if (!own.isEmpty()) return runningByName(own.first(), apps);
   for (const Packaged& kind : kPackaged) {
-    const QStringList parts = partsBelow(path, homeFolder() + kind.folder);
+    const QStringList parts = partsBelow(path, home + kind.folder);
     const QStringList toCache = split(QString(kind.toCache));
     if (parts.size() <= toCache.size() || parts.mid(1, toCache.size()) != toCache) continue;
     const QString package = runningByName(parts.first(), apps);

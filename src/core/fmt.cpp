@@ -1,5 +1,7 @@
 #include "core/fmt.h"
 
+#include "core/places.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QLocale>
@@ -80,8 +82,8 @@ QString clock(qint64 seconds) {
 
 QString shortPath(const QString& path) {
   const QString native = QDir::toNativeSeparators(path);
-  const QString home = QDir::toNativeSeparators(QDir::homePath());
-  if (!native.startsWith(home, Qt::CaseInsensitive)) return native;
+  const QString home = QDir::toNativeSeparators(places::home());
+  if (home.isEmpty() || !native.startsWith(home, Qt::CaseInsensitive)) return native;
   return QLatin1Char('~') + native.mid(home.size());
 }
 

@@ -1,5 +1,7 @@
 #include "core/platform.h"
 
+#include "core/places.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QStorageInfo>
@@ -16,7 +18,7 @@ Host host() {
 bool isPreview() { return host() != builtFor(); }
 
 Volume systemVolume() {
-  const QString home = QDir::homePath();
+  const QString home = places::home();
   const QStorageInfo info(home.isEmpty() ? QDir::rootPath() : home);
   Volume volume;
   volume.rootPath = info.rootPath();

@@ -167,6 +167,9 @@ class TestFmt : public QObject {
     QCOMPARE(fmt::shortPath(home.path() + u"backup/x"_s), u"~backup/x"_s);
     QCOMPARE(fmt::shortPath(u"/elsewhere"_s + home.path()), u"/elsewhere"_s + home.path());
     QCOMPARE(fmt::shortPath(QString()), QString());
+    // A home folder that is none would be at the start of every path.
+    qputenv("HOME", "/");
+    QCOMPARE(fmt::shortPath(u"/elsewhere/x"_s), u"/elsewhere/x"_s);
   }
 };
 

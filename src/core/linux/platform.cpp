@@ -57,13 +57,23 @@ void ask(const QDBusConnection& bus, const Wish& wish) {
   });
 }
 
-/// Connecting waits for the bus, so a thread of the pool does that; the application outlives the pool's work.
+/// Threads for connecting: those of the global pool may all be at work on a scan. The application outlives their work.
+QThreadPool& connectors() {
+  static QThreadPool pool;
+  static const bool waits = [] {
+    qAddPostRoutine([] { pool.waitForDone(); });
+    return true;
+  }();
+  Q_UNUSED(waits);
+  return pool;
+}
+
+/// Connecting waits for the bus, and so it is left to a thread; the question is asked, and answered, on the
+/// application's.
 void send(const Wish& wish) {
   QCoreApplication* app = QCoreApplication::instance();
   if (app == nullptr) return;
-  // Running jobs must not hold this up, so it takes a thread beside theirs.
-  QThreadPool::globalInstance()->reserveThread();
-  QThreadPool::globalInstance()->startOnReservedThread([app, wish] {
+  connectors().start([app, wish] {
     const auto proceed = [app](auto step) { QMetaObject::invokeMethod(app, step, Qt::QueuedConnection); };
     if (!hasSessionBus()) return static_cast<void>(proceed([wish] { openInDesktop(wish.folder); }));
     const QDBusConnection bus = QDBusConnection::sessionBus();

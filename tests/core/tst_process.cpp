@@ -1,0 +1,69 @@
+#include "core/process.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int kPlentyMs = 20000;
+
+QString shell(const QString& script, int limitMs, int* exitCode) {
+  return process::run(u"/bin/sh"_s, {u"-c"_s, script}, limitMs, exitCode);
+}
+} // namespace
+
+class TestProcess : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void outputAndExitCode() {
+    int code = -7;
+    QCOMPARE(shell(u"echo out; echo err >&2; exit 3"_s, kPlentyMs, &code), u"out\n"_s);
+    QCOMPARE(code, 3);
+    QCOMPARE(shell(u"exit 0"_s, kPlentyMs, &code), QString());
+    QCOMPARE(code, 0);
+  }
+
+  void theExitCodeMayBeLeftOut() { QCOMPARE(shell(u"echo x"_s, kPlentyMs, nullptr), u"x\n"_s); }
+
+  void outputIsUtf8() { QCOMPARE(shell(u"printf '\\303\\244\\377'"_s, kPlentyMs, nullptr), u"\u00e4\ufffd"_s); }
+
+  void argumentsPassNoShell() {
+    const QString odd = u"a b'c\"$HOME;\n*"_s;
+    QCOMPARE(process::run(u"/usr/bin/printf"_s, {u"[%s]"_s, odd, QString()}, kPlentyMs), u'[' + odd + u"][]"_s);
+  }
+
+  void muchOutputIsReadWhole() {
+    const QString text =
+        shell(u"i=0; while [ $i -lt 20000 ]; do echo 0123456789; i=$((i+1)); done"_s, kPlentyMs, nullptr);
+    QCOMPARE(text.size(), 220000);
+  }
+
+  void aCrashIsMinusOne() {
+    int code = 0;
+    shell(u"kill -SEGV $$"_s, kPlentyMs, &code);
+    QCOMPARE(code, -1);
+  }
+
+  void aTimeOutEndsTheToolAndGivesNothing() {
+    int code = 0;
+    QElapsedTimer clock;
+    clock.start();
+    QCOMPARE(shell(u"trap '' TERM; echo early; exec sleep 30"_s, 200, &code), QString());
+    QCOMPARE(code, -1);
+    QVERIFY2(clock.elapsed() >= 200 && clock.elapsed() < 15000, qPrintable(QString::number(clock.elapsed())));
+  }
+
+  void aMissingToolIsMinusOneAtOnce() {
+    int code = 0;
+    QElapsedTimer clock;
+    clock.start();
+    QCOMPARE(process::run(u"/nonexistent/tool"_s, {}, kPlentyMs, &code), QString());
+    QCOMPARE(code, -1);
+    QVERIFY(clock.elapsed() < kPlentyMs / 2);
+  }
+};
+
+QTEST_GUILESS_MAIN(TestProcess)
+#include "tst_process.moc"
