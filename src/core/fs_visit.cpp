@@ -7,7 +7,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-#include <algorithm>
+#include <cstring>
 #include <vector>
 
 namespace fs {
@@ -27,10 +27,11 @@ class TextPath {
   }
 
   [[nodiscard]] const QString& folder() const { return m_folder; }
+  /// Whether the folder's path, as text, leads to the folder, and joining names to it to what lies there.
   [[nodiscard]] bool reachable() const { return m_reachable; }
   [[nodiscard]] const QString& fileOf(const QString& name) {
-    m_file.resize(m_filePrefix);
-    m_file.append(name);
+    m_file.resize(m_prefix + name.size());
+    std::memcpy(m_file.data() + m_prefix, name.constData(), static_cast<size_t>(name.size()) * sizeof(QChar));
     return m_file;
   }
 
@@ -42,7 +43,8 @@ class TextPath {
 
   void enter(QByteArrayView name) {
     m_levels.push_back({m_folder.size(), m_reachable});
-    const bool survives = names::append(&separate(&m_folder), name);
+    separate(&m_folder);
+    const bool survives = names::decodeAt(&m_folder, m_folder.size(), name);
     m_reachable = m_reachable && survives && !joinsWrongly(m_folder);
     beginFiles();
   }
@@ -51,21 +53,21 @@ class TextPath {
     m_reachable = m_levels.back().reachable;
     m_levels.pop_back();
   }
-  static QString& separate(QString* path) {
-    if (!path->endsWith(QLatin1Char('/')) && !joinsWrongly(*path)) path->append(QLatin1Char('/'));
-    return *path;
-  }
   void beginFiles() {
     m_file.resize(0);
     m_file.append(m_folder);
-    m_filePrefix = separate(&m_file).size();
+    separate(&m_file);
+    m_prefix = m_file.size();
+  }
+  static void separate(QString* path) {
+    if (!path->endsWith(QLatin1Char('/')) && !joinsWrongly(*path)) path->append(QLatin1Char('/'));
   }
 
   QString m_folder;
   QString m_file;
-  qsizetype m_filePrefix = 0;
+  qsizetype m_prefix = 0;
   bool m_reachable;
-  std::vector<Level> m_levels;
+  std::vector<Level> m_levels; ///< of the folders above
 };
 
 using SkipDir = std::function<bool(const QString&, const QString&)>;
@@ -98,8 +100,7 @@ class FileVisit {
   }
 
   void file(int dirFd, QByteArrayView name, const struct stat& status) {
-    m_entry.name.resize(0);
-    const bool survives = names::append(&m_entry.name, name);
+    const bool survives = names::decodeAt(&m_entry.name, 0, name);
     fill(&m_entry, status);
     m_entry.reachable = m_path.reachable() && (survives || reachesAnyway(dirFd, name, status));
     m_visit(m_path.fileOf(m_entry.name), m_entry);

@@ -12,6 +12,18 @@ bool isAscii(QByteArrayView raw) {
   return std::all_of(raw.begin(), raw.end(), [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
+/// False if there is anything else; what was written then means nothing. One pass without a way out, so that a compiler
+/// makes vectors of it.
+bool widenAscii(QByteArrayView raw, QChar* out) {
+  unsigned char all = 0;
+  for (qsizetype i = 0; i < raw.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(raw[i]);
+    out[i] = QLatin1Char(static_cast<char>(byte));
+    all |= byte;
+  }
+  return all < 0x80;
+}
+
 /// UTF-8 in the generalised form, in which the halves of surrogate pairs have three bytes and U+0000 has two.
 QByteArray encodeOdd(QStringView text) {
   QByteArray raw;
@@ -61,15 +73,12 @@ QString decode(QByteArrayView raw, Codec codec) {
   return codec == Codec::Bytes ? text : text.normalized(QString::NormalizationForm_C);
 }
 
-bool append(QString* text, QByteArrayView raw, Codec codec) {
-  if (!isAscii(raw)) {
-    text->append(decode(raw, codec));
-    return survives(raw, codec);
-  }
-  const qsizetype before = text->size();
-  text->resize(before + raw.size());
-  std::transform(raw.begin(), raw.end(), text->data() + before, [](char byte) { return QLatin1Char(byte); });
-  return true;
+bool decodeAt(QString* text, qsizetype from, QByteArrayView raw, Codec codec) {
+  text->resize(from + raw.size());
+  if (widenAscii(raw, text->data() + from)) return true;
+  text->truncate(from);
+  text->append(decode(raw, codec));
+  return survives(raw, codec);
 }
 
 bool survives(QByteArrayView raw, Codec codec) {

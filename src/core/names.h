@@ -22,8 +22,13 @@ enum class Codec {
 [[nodiscard]] QByteArray encode(const QString& text, Codec codec = systemCodec());
 /// The text that the program holds for @p raw. Bytes that are no UTF-8 become U+FFFD, and the name doesn't survive().
 [[nodiscard]] QString decode(QByteArrayView raw, Codec codec = systemCodec());
-/// Appends decode(@p raw) to @p text, without allocating where a plain name fits. @return survives(@p raw)
-bool append(QString* text, QByteArrayView raw, Codec codec = systemCodec());
+/// Puts decode(@p raw) in the place of all that stands in @p text from @p from on, which is at most its size. Doesn't
+/// allocate where a plain name fits: for buffers that walk along a tree. @return survives(@p raw)
+bool decodeAt(QString* text, qsizetype from, QByteArrayView raw, Codec codec = systemCodec());
+/// The same behind all of @p text.
+inline bool append(QString* text, QByteArrayView raw, Codec codec = systemCodec()) {
+  return decodeAt(text, text->size(), raw, codec);
+}
 /// Whether @p raw comes back the same from decode() and encode(), so that a text path reaches the very same file.
 [[nodiscard]] bool survives(QByteArrayView raw, Codec codec = systemCodec());
 
