@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <span>
 
 namespace trashinfo {
 
@@ -59,6 +60,12 @@ namespace {
 
 /// File systems without a device file that are local all the same.
 constexpr std::array<QByteArrayView, 4> kLocalTypes = {"bcachefs", "btrfs", "overlay", "zfs"};
+/// What a mount may call its device, as it is free to, doesn't make these local disks.
+constexpr std::array<QByteArrayView, 4> kNeverLocal = {"autofs", "devtmpfs", "ramfs", "tmpfs"};
+
+bool isIn(std::span<const QByteArrayView> types, const QByteArray& type) {
+  return std::find(types.begin(), types.end(), QByteArrayView(type)) != types.end();
+}
 
 struct Mount {
   QByteArray device; ///< "major:minor"
@@ -96,9 +103,9 @@ std::optional<Mount> parseMount(const QByteArray& line) {
 }
 
 bool isLocal(const Mount& mount) {
-  if (mount.type.startsWith("fuse") || mount.type == "autofs") return false;
+  if (mount.type.startsWith("fuse") || isIn(kNeverLocal, mount.type)) return false;
   if (mount.source.startsWith("/dev/")) return !mount.source.startsWith("/dev/loop");
-  return std::find(kLocalTypes.begin(), kLocalTypes.end(), mount.type) != kLocalTypes.end();
+  return isIn(kLocalTypes, mount.type);
 }
 
 // A part of a file system that is mounted alone is a bind mount, unless it is the subvolume that was asked for.

@@ -59,6 +59,12 @@ inline bool isThere(const QString& path) {
   return ::lstat(QFile::encodeName(path).constData(), &status) == 0;
 }
 
+/// Removes all in @p folder, whatever its name; what a fixture's temporary folder can't remove itself.
+inline void wipe(const QString& folder) {
+  const QByteArray command = "find '" + QFile::encodeName(folder) + "' -mindepth 1 -delete";
+  if (::system(command.constData()) != 0) qFatal("cannot empty %s", qPrintable(folder));
+}
+
 /// Runs @p work in a child process that is no administrator. @return its result, or -1 if it crashed
 inline int asPlainUser(const std::function<int()>& work) {
   constexpr uid_t kNobody = 65534;
