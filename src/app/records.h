@@ -10,43 +10,44 @@
 
 /// How much a user must think before cleaning a category.
 enum Safety {
-  Safe = 0,       ///< rebuilt by the system or the apps
-  Review = 1,     ///< the user may still want it
-  Permanent = 2,  ///< cleaning can't be undone: always deleted, never moved to the Trash
+  Safe = 0,      ///< rebuilt by the system or the apps
+  Review = 1,    ///< the user may still want it
+  Permanent = 2, ///< cleaning can't be undone: always deleted, never moved to the Trash
 };
 
 /// One place on disk that a category looks at.
 struct ScanRoot {
-  QString path;          ///< absolute, clean; a folder that existed when the catalogue was built
-  QStringList patterns;  ///< wildcard filters for the children's names; empty means every child
-  QString label;         ///< empty: each child is an item; else the whole folder is one item with this label
-  QString realPath;      ///< path with its links resolved when the catalogue was built; empty means the same
+  QString path;         ///< absolute, clean; a folder that existed when the catalogue was built
+  QStringList patterns; ///< wildcard filters for the children's names; empty means every child
+  QString label;        ///< empty: each child is an item; else the whole folder is one item with this label
+  QString realPath;     ///< path with its links resolved when the catalogue was built; empty means the same
+  bool ownOnly = false; ///< only entries that belong to the user that the program runs as
 };
 
 /// One entry of the catalogue.
 struct CategoryDef {
-  QString id;            ///< stable key, never translated
-  QString title;         ///< translated
-  QString locationHint;  ///< where it looks, in a few words; not translated
-  QString blurb;         ///< translated explanation
+  QString id;           ///< stable key, never translated
+  QString title;        ///< translated
+  QString locationHint; ///< where it looks, in a few words; not translated
+  QString blurb;        ///< translated explanation
   QString icon;
   QColor colour;
   Safety safety = Safe;
   bool needsAdmin = false;
   bool needsFullDiskAccess = false;
-  bool usesRecycleBin = false;  ///< stands for the system's recycle bin as a whole rather than for paths
-  QList<ScanRoot> roots;        ///< may be empty
+  bool usesRecycleBin = false; ///< stands for the system's recycle bin as a whole rather than for paths
+  QList<ScanRoot> roots;       ///< may be empty
 };
 
 /// One line of a result, and the unit that a user can untick.
 struct CleanItem {
-  QString path;             ///< absolute; the item's key. Empty for a recycle bin
-  QString name;             ///< file name, or the label of its root
-  bool wholeRoot = false;   ///< the contents of path go and the folder stays
-  QString owner;            ///< running app that it belongs to, or empty
-  qint64 bytes = 0;         ///< on disk; at least 1
+  QString path;           ///< absolute; the item's key. Empty for a recycle bin
+  QString name;           ///< file name, or the label of its root
+  bool wholeRoot = false; ///< the contents of path go and the folder stays
+  QString owner;          ///< running app that it belongs to, or empty
+  qint64 bytes = 0;       ///< on disk; at least 1
   qint64 files = 0;
-  qint64 modified = 0;      ///< newest, ms since the epoch; 0 unknown
+  qint64 modified = 0; ///< newest, ms since the epoch; 0 unknown
 };
 
 /// What a scan found in a category.
@@ -60,26 +61,26 @@ struct CategoryResult {
 
 /// What one clean leaves.
 struct CleanReport {
-  qint64 freedBytes = 0;       ///< what really left the disk or went to the Trash
+  qint64 freedBytes = 0; ///< what really left the disk or went to the Trash
   qint64 removedFiles = 0;
-  qint64 skipped = 0;          ///< paths that stayed with a reason; not excluded ones, nor those of running apps
-  QStringList skippedSamples;  ///< the first five of them, native separators
-  QStringList cleanedIds;      ///< categories that the run went through to their end
-  QString logPath;             ///< full path of the log of this run
-  bool needsAdmin = false;     ///< administrator rights could have helped
-  QStringList runningApps;     ///< whose data was skipped, in order of first meeting
-  QString refusal;             ///< why nothing was begun, in words for the user; empty when the clean ran
-  QString dryRunLog;           ///< text of the log of a dry run, which writes no file
+  qint64 skipped = 0;         ///< paths that stayed with a reason; not excluded ones, nor those of running apps
+  QStringList skippedSamples; ///< the first five of them, native separators
+  QStringList cleanedIds;     ///< categories that the run went through to their end
+  QString logPath;            ///< full path of the log of this run
+  bool needsAdmin = false;    ///< administrator rights could have helped
+  QStringList runningApps;    ///< whose data was skipped, in order of first meeting
+  QString refusal;            ///< why nothing was begun, in words for the user; empty when the clean ran
+  QString dryRunLog;          ///< text of the log of a dry run, which writes no file
 };
 
 /// A large file of the Space Map.
 struct LargeFile {
   QString path;
   QString name;
-  QString dir;         ///< folder, native separators
-  QString kind;        ///< untranslated label
-  qint64 size = 0;     ///< allocated bytes
-  QDateTime lastUsed;  ///< later of access and modification
+  QString dir;        ///< folder, native separators
+  QString kind;       ///< untranslated label
+  qint64 size = 0;    ///< allocated bytes
+  QDateTime lastUsed; ///< later of access and modification
 };
 
 Q_DECLARE_METATYPE(CategoryResult)
@@ -90,4 +91,4 @@ Q_DECLARE_METATYPE(LargeFile)
 namespace records {
 /// Registers the types that cross threads in signals. Before any engine exists.
 void registerMetaTypes();
-}  // namespace records
+} // namespace records

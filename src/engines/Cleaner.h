@@ -14,8 +14,9 @@
 
 /// What a clean takes from the outside world, for tests to bend.
 struct CleanerWorld {
-  std::function<void(std::chrono::milliseconds)> sleep;  ///< empty: the thread sleeps
-  std::function<QDateTime()> now;                        ///< empty: the local time
+  std::function<void(std::chrono::milliseconds)> sleep; ///< empty: the thread sleeps
+  std::function<QDateTime()> now;                       ///< empty: the local time
+  std::function<bool()> emptyRecycleBin;                ///< empty: the system's
   appguard::Sources sources;
   QString lockPath = RunLock::defaultPath();
 };

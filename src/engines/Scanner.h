@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/records.h"
+#include "core/appguard.h"
 #include "engines/Job.h"
 
 #include <QObject>
@@ -10,12 +11,13 @@ class Scanner : public QObject {
   Q_OBJECT
 
  public:
-  explicit Scanner(QObject* parent = nullptr);
+  /// @param sources  where running apps, locks and mounts are read; for tests
+  explicit Scanner(QObject* parent = nullptr, appguard::Sources sources = {});
   ~Scanner() override;
 
   /// Starts a scan with these exclusion rules; does nothing while one runs.
   /// @param only  ids of the categories to look at, in catalogue order; empty means all. The others come back in
-  ///              `finished` with their definition and nothing found.
+  ///              `finished` with their definition and nothing found, and have no other signal.
   void start(const QList<QString>& exclusions, const QStringList& only = {});
   /// Raises the flag; the scan ends at its next check. Any thread.
   void cancel();
@@ -34,5 +36,6 @@ class Scanner : public QObject {
  private:
   void run(const QList<QString>& exclusions, const QStringList& only);
 
+  appguard::Sources m_sources;
   Job m_job;
 };

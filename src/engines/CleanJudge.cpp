@@ -1,0 +1,106 @@
+#include "engines/CleanJudge.h"
+
+#include "core/fs.h"
+#include "core/places.h"
+#include "core/platform.h"
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+removal::Verdict verdictOf(Guard::Verdict verdict) {
+  switch (verdict) {
+  case Guard::Verdict::Free:
+    return removal::Verdict::Remove;
+  case Guard::Verdict::Excluded:
+    return removal::Verdict::KeepExcluded;
+  case Guard::Verdict::ProtectedData:
+    return removal::Verdict::KeepProtectedData;
+  case Guard::Verdict::ProtectedLocation:
+    return removal::Verdict::KeepProtectedLocation;
+  }
+  return removal::Verdict::KeepProtectedLocation;
+}
+
+QSet<QString> cacheRoots() {
+  QSet<QString> paths;
+  if (platform::host() != platform::Host::Linux) return paths;
+  for (const places::CacheRoot& root : places::cacheRoots()) paths << root.path << fs::resolved(root.path);
+  return paths;
+}
+
+bool isDirectlyBelow(const QString& path, const QString& folder) {
+  return path.startsWith(folder) && path.lastIndexOf(u'/') == folder.size();
+}
+
+} // namespace
+
+CleanJudge::CleanJudge(const QList<QString>& exclusions, const appguard::Sources& sources,
+                       std::function<bool(const QString&)> isOwnLog)
+    : m_guard(exclusions),
+      m_sources(sources),
+      m_apps(appguard::runningApps(sources)),
+      m_open(appguard::openFiles(sources)),
+      m_cacheRoots(cacheRoots()),
+      m_isOwnLog(std::move(isOwnLog)) {}
+
+void CleanJudge::addOpen(const QString& path) {
+  m_open.add(path);
+  const QString real = fs::resolved(path);
+  if (!real.isEmpty()) m_open.add(real);
+}
+
+QString CleanJudge::runningOwner(const CleanWork& work) const {
+  if (work.def->id != u"browser" && work.def->id != u"appcache") return {};
+  return work.place.runningOwner(m_apps);
+}
+
+removal::Verdict CleanJudge::judge(const CleanWork& work, const removal::Node& node) {
+  const bool isItem = node.path.size() == work.place.path.size();
+  if (isItem && work.item->wholeRoot) return removal::Verdict::NotWhole;
+  if (isItem || (work.item->wholeRoot && isDirectlyBelow(node.path, work.place.path))) return judgeTarget(work, node);
+
+  // What the user threw away as a whole can be emptied, whatever the rules say of what lies in it.
+  const auto exclusions = work.def->id == u"trash" ? Guard::Exclusions::Ignore : Guard::Exclusions::Ask;
+  const auto verdict = Spelled{node.path, node.realPath}.askBelow(m_guard, exclusions);
+  return verdict == Guard::Verdict::Free ? judgeOpen(node) : verdictOf(verdict);
+}
+
+removal::Verdict CleanJudge::judgeTarget(const CleanWork& work, const removal::Node& node) {
+  const auto verdict = Spelled{node.path, node.realPath}.ask(m_guard);
+  if (verdict != Guard::Verdict::Free) return verdictOf(verdict);
+  if (holdsMoreThanCache(node)) return removal::Verdict::KeepProtectedData;
+  if (!isAdmitted(work, node)) return removal::Verdict::KeepOpen;
+  return judgeOpen(node);
+}
+
+/// A folder that some process works in stays with all that is in it. One with something open inside is emptied around
+/// it.
+removal::Verdict CleanJudge::judgeOpen(const removal::Node& node) const {
+  const auto in = [&](const QSet<QString>& set) {
+    return set.contains(node.path) || (node.realPath != node.path && set.contains(node.realPath));
+  };
+  if (in(m_open.files)) return removal::Verdict::KeepOpen;
+  if (node.isDir) return in(m_open.parents) ? removal::Verdict::NotWhole : removal::Verdict::Remove;
+  return m_isOwnLog(node.realPath) ? removal::Verdict::KeepOpen : removal::Verdict::Remove;
+}
+
+bool CleanJudge::isAdmitted(const CleanWork& work, const removal::Node& node) {
+  const bool isTemp = work.def->id == u"temp";
+  if (!isTemp && !work.ownOnly) return true;
+  fs::Entry entry;
+  if (!fs::stat(node.realPath, &entry)) return !fs::exists(node.realPath);
+  if (work.ownOnly && entry.owner != ::geteuid()) return false;
+  if (!isTemp) return true;
+  if (!m_admission) m_admission = categories::Admission::now(m_sources.procRoot);
+  return categories::admits(entry, node.realPath, *m_admission);
+}
+
+bool CleanJudge::holdsMoreThanCache(const removal::Node& node) const {
+  const qsizetype slash = node.path.lastIndexOf(u'/');
+  return !m_cacheRoots.isEmpty() && categories::holdsMoreThanCache(QStringView(node.path).sliced(slash + 1)) &&
+         (m_cacheRoots.contains(node.path.first(slash)) ||
+          m_cacheRoots.contains(node.realPath.first(node.realPath.lastIndexOf(u'/'))));
+}

@@ -1,0 +1,269 @@
+#include "engines/CleanRun.h"
+
+#include "core/names.h"
+#include "core/places.h"
+#include "core/platform.h"
+#include "core/runlock.h"
+#include "core/trash.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QThread>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int kAttempts = 3;
+constexpr std::chrono::milliseconds kFirstWait = 500ms;
+constexpr qsizetype kSamples = 5;
+
+/// The measuring pass isn't cut short: what a stopped run left must not count as freed.
+const std::atomic<bool> kNever{false};
+
+/// Where the scan found the item: the root itself, or the one that it is a child of.
+const ScanRoot* rootOf(const CleanItem& item, const CategoryDef& def) {
+  const QString folder = item.wholeRoot ? item.path : item.path.section(u'/', 0, -2);
+  const auto found = std::find_if(def.roots.begin(), def.roots.end(), [&](const ScanRoot& root) {
+    return root.path == folder && root.label.isEmpty() != item.wholeRoot;
+  });
+  return found == def.roots.end() ? nullptr : &*found;
+}
+
+/// The real path goes by what the scan resolved. It isn't resolved anew: a folder that was swapped for a link since
+/// then must not be followed.
+CleanWork workFor(const CleanItem& item, const CategoryDef& def, bool toTrash) {
+  CleanWork work{.item = &item, .def = &def, .place = {item.path, item.path}, .toTrash = toTrash};
+  const ScanRoot* root = rootOf(item, def);
+  if (!root) return work;
+  work.ownOnly = root->ownOnly;
+  if (!root->realPath.isEmpty())
+    work.place.realPath =
+        item.wholeRoot ? root->realPath : fs::join(root->realPath, item.path.sliced(root->path.size() + 1));
+  return work;
+}
+
+SkipReason reasonFor(removal::Kept kept) {
+  switch (kept) {
+  case removal::Kept::ProtectedData:
+    return SkipReason::ProtectedData;
+  case removal::Kept::ProtectedLocation:
+    return SkipReason::ProtectedLocation;
+  case removal::Kept::AnotherVolume:
+    return SkipReason::AnotherVolume;
+  case removal::Kept::NoTrash:
+    return SkipReason::NoTrash;
+  case removal::Kept::Excluded:
+  case removal::Kept::Open:
+    break;
+  }
+  return SkipReason::Open;
+}
+
+QString sampleOf(const removal::Node& node) {
+  return node.isText ? QDir::toNativeSeparators(node.path) : LoggedPath(node).text;
+}
+
+} // namespace
+
+CleanRun::CleanRun(Order order, const CleanerWorld& world, const std::atomic<bool>& stopped, Progress progress)
+    : m_order(std::move(order)), m_world(world), m_stopped(stopped), m_progress(std::move(progress)) {}
+
+CleanReport CleanRun::run() {
+  for (const CategoryResult& result : m_order.results) m_totalBytes += result.bytes;
+  std::optional<RunLock> lock;
+  if (!isDry()) lock.emplace(m_world.lockPath);
+  m_report.refusal = refusalFor(lock ? lock->state() : RunLock::State::Held);
+  if (m_report.refusal.isEmpty()) {
+    openLog();
+    for (const CategoryResult& result : m_order.results) {
+      if (m_stopped) break;
+      cleanCategory(result);
+      m_log.flush();
+    }
+    retry();
+    measure();
+    end();
+  }
+  m_progress(m_totalBytes, m_totalBytes, {});
+  return m_report;
+}
+
+QString CleanRun::refusalFor(RunLock::State lock) {
+  const auto words = [](const char* text) { return QCoreApplication::translate("Cleaner", text); };
+  if (!places::homeIsOwn())
+    return words(QT_TRANSLATE_NOOP("Cleaner", "The home folder belongs to another user. Nothing was cleaned."));
+  if (lock == RunLock::State::Busy) return words(QT_TRANSLATE_NOOP("Cleaner", "Another cleanup is already running."));
+  if (lock == RunLock::State::Unavailable)
+    return words(
+        QT_TRANSLATE_NOOP("Cleaner", "It can't be told whether another cleanup is running. Nothing was cleaned."));
+  return {};
+}
+
+/// The log comes before the snapshot of open files, so that it is among them.
+void CleanRun::openLog() {
+  const QDateTime now = m_world.now ? m_world.now() : QDateTime::currentDateTime();
+  if (!isDry()) {
+    m_report.logPath = CleanLog::pathFor(now);
+    m_log.openFile(m_report.logPath);
+  }
+  m_judge.emplace(m_order.exclusions, m_world.sources, [this](const QString& path) { return m_log.isOwnFile(path); });
+  if (!isDry()) m_judge->addOpen(m_report.logPath);
+  m_log.head(now, m_order.moveToTrash, m_totalBytes);
+  m_log.flush();
+}
+
+void CleanRun::cleanCategory(const CategoryResult& result) {
+  m_log.category(result.def.title, result.bytes);
+  if (result.def.usesRecycleBin) {
+    emptyRecycleBin(result);
+    return;
+  }
+  for (const CleanItem& item : result.items) {
+    if (m_stopped) return;
+    cleanItem(result, item);
+  }
+  m_report.cleanedIds.append(result.def.id);
+}
+
+void CleanRun::emptyRecycleBin(const CategoryResult& result) {
+  const QString name = platform::trashName();
+  m_progress(m_doneBytes, m_totalBytes, name);
+  const bool emptied = isDry() || (m_world.emptyRecycleBin ? m_world.emptyRecycleBin() : platform::emptyRecycleBin());
+  if (emptied) {
+    m_report.freedBytes += result.bytes;
+    m_report.removedFiles += result.files;
+    m_log.emptied(name);
+  } else {
+    skip(name, name, SkipReason::CouldNotEmpty);
+  }
+  m_report.cleanedIds.append(result.def.id);
+  m_doneBytes += result.bytes;
+}
+
+void CleanRun::cleanItem(const CategoryResult& result, const CleanItem& item) {
+  m_progress(m_doneBytes, m_totalBytes, QDir::toNativeSeparators(item.path));
+  m_doneBytes += item.bytes;
+  // What can't be undone is said to be deleted, whatever the setting: emptying the Trash into the Trash frees nothing.
+  const bool toTrash = m_order.moveToTrash && result.def.safety != Permanent;
+  const CleanWork& work = m_works.emplace_back(workFor(item, result.def, toTrash));
+  if (mayBegin(work)) remove(work);
+}
+
+bool CleanRun::mayBegin(const CleanWork& work) {
+  const QString& path = work.item->path;
+  const Guard::Verdict verdict = m_judge->askItem(work);
+  if (verdict == Guard::Verdict::Excluded) {
+    m_log.excluded(path);
+    return false;
+  }
+  if (verdict == Guard::Verdict::ProtectedData) {
+    skip(path, path, SkipReason::ProtectedData);
+    return false;
+  }
+  const QString app = m_judge->runningOwner(work);
+  if (app.isEmpty()) return true;
+  m_log.running(path, app);
+  if (!m_report.runningApps.contains(app)) m_report.runningApps.append(app);
+  return false;
+}
+
+void CleanRun::remove(const CleanWork& work) {
+  m_work = &work;
+  removal::Remover& remover = removerFor(work);
+  const fs::Totals before = remover.wouldStay();
+  const removal::Target target{.path = work.place.path, .realPath = work.place.realPath};
+  if (work.item->wholeRoot)
+    remover.removeChildren(target);
+  else
+    remover.remove(target);
+  const fs::Totals after = remover.wouldStay();
+  m_done.push_back({&work, {after.bytes - before.bytes, after.files - before.files, 0}});
+}
+
+removal::Remover& CleanRun::removerFor(const CleanWork& work) {
+  std::optional<removal::Remover>& remover = work.toTrash ? m_trasher : m_deleter;
+  if (!remover)
+    remover.emplace(removal::Options{.toTrash = work.toTrash, .dryRun = isDry()},
+                    removal::Handlers{
+                        .judge = [this](const removal::Node& node) { return m_judge->judge(*m_work, node); },
+                        .kept = [this](const removal::Node& node, removal::Kept kept) { onKept(node, kept); },
+                        .busy = [this](const removal::Stay& stay) { onBusy(stay); },
+                    });
+  return *remover;
+}
+
+void CleanRun::onKept(const removal::Node& node, removal::Kept kept) {
+  if (kept == removal::Kept::Excluded)
+    m_log.excluded(node);
+  else
+    skip(sampleOf(node), node, reasonFor(kept));
+}
+
+void CleanRun::onBusy(const removal::Stay& stay) {
+  const Retry& retry = m_retries.emplace_back(Retry{.stay = stay, .work = m_work});
+  m_log.busy(stay.node, retry.error);
+}
+
+void CleanRun::skip(const QString& sample, const LoggedPath& path, SkipReason reason, qint64 error) {
+  ++m_report.skipped;
+  if (m_report.skippedSamples.size() < kSamples) m_report.skippedSamples.append(QDir::toNativeSeparators(sample));
+  m_log.skipped(path, reason, error);
+}
+
+void CleanRun::retry() {
+  for (int attempt = 1; attempt <= kAttempts && !m_retries.empty() && !m_stopped && !isDry(); ++attempt) {
+    sleep(attempt * kFirstWait);
+    retryRound();
+  }
+  for (const Retry& retry : m_retries) {
+    skip(sampleOf(retry.stay.node), retry.stay.node, SkipReason::InUse, retry.error);
+    if (retry.work->def->needsAdmin && !platform::isElevated()) m_report.needsAdmin = true;
+  }
+}
+
+void CleanRun::retryRound() {
+  std::vector<Retry> stayed;
+  for (Retry& retry : std::exchange(m_retries, {})) {
+    m_work = retry.work;
+    if (removerFor(*m_work).retry(&retry.stay) == removal::Remover::Retry::Stayed) stayed.push_back(std::move(retry));
+  }
+  m_retries = std::move(stayed);
+}
+
+void CleanRun::sleep(std::chrono::milliseconds time) const {
+  if (m_world.sleep) {
+    m_world.sleep(time);
+    return;
+  }
+  constexpr std::chrono::milliseconds kSlice = 20ms;
+  for (; time > 0ms && !m_stopped; time -= kSlice)
+    QThread::msleep(static_cast<unsigned long>(std::min(time, kSlice).count()));
+}
+
+void CleanRun::measure() {
+  m_log.emptyLine();
+  for (const Done& done : m_done) measureItem(done);
+}
+
+void CleanRun::measureItem(const Done& done) {
+  const CleanItem& item = *done.work->item;
+  const QString& realPath = done.work->place.realPath;
+  const bool isGone = !isDry() && !item.wholeRoot && !fs::exists(realPath);
+  const fs::Totals left = isDry() ? done.wouldStay : isGone ? fs::Totals() : fs::measure(realPath, kNever);
+  const qint64 freed = std::max<qint64>(0, item.bytes - left.bytes);
+  m_report.freedBytes += freed;
+  m_report.removedFiles += std::max<qint64>(0, item.files - left.files);
+  m_log.removed(done.work->toTrash, item.path, freed);
+  if (isGone && done.work->def->id == u"trash")
+    trash::forget(realPath.section(u'/', 0, -2), names::encode(realPath.section(u'/', -1)));
+}
+
+void CleanRun::end() {
+  m_log.summary(m_report.freedBytes, m_report.removedFiles, m_report.skipped);
+  m_log.flush();
+  if (isDry()) m_report.dryRunLog = m_log.text();
+}

@@ -1,0 +1,81 @@
+/// One run of a clean, from its first question to the last line of its log.
+#pragma once
+
+#include "app/records.h"
+#include "core/fs.h"
+#include "core/removal.h"
+#include "engines/CleanJudge.h"
+#include "engines/CleanLog.h"
+#include "engines/Cleaner.h"
+
+#include <atomic>
+#include <deque>
+#include <functional>
+#include <optional>
+#include <vector>
+
+/// Lives on the worker thread, for one run() alone. Removes or moves files, unless it is dry.
+class CleanRun {
+ public:
+  struct Order {
+    QList<CategoryResult> results;
+    bool moveToTrash = false;
+    QList<QString> exclusions;
+    Cleaner::Run kind = Cleaner::Run::ForReal;
+  };
+  using Progress = std::function<void(qint64 done, qint64 total, const QString& path)>;
+
+  /// @param stopped  once raised, the item in hand is finished and nothing more is begun
+  CleanRun(Order order, const CleanerWorld& world, const std::atomic<bool>& stopped, Progress progress);
+
+  [[nodiscard]] CleanReport run();
+
+ private:
+  /// A node that stayed, waiting for another attempt.
+  struct Retry {
+    removal::Stay stay;
+    const CleanWork* work = nullptr;
+    qint64 error = 0; ///< code for the log; 0: none is told
+  };
+  /// An item that the run got to, for the measuring pass.
+  struct Done {
+    const CleanWork* work = nullptr;
+    fs::Totals wouldStay; ///< of a dry run
+  };
+
+  [[nodiscard]] bool isDry() const { return m_order.kind == Cleaner::Run::Dry; }
+  [[nodiscard]] static QString refusalFor(RunLock::State lock);
+  void openLog();
+  void cleanCategory(const CategoryResult& result);
+  void emptyRecycleBin(const CategoryResult& result);
+  void cleanItem(const CategoryResult& result, const CleanItem& item);
+  [[nodiscard]] bool mayBegin(const CleanWork& work);
+  void remove(const CleanWork& work);
+  void retry();
+  void retryRound();
+  void measure();
+  void measureItem(const Done& done);
+  void end();
+
+  [[nodiscard]] removal::Remover& removerFor(const CleanWork& work);
+  void onKept(const removal::Node& node, removal::Kept kept);
+  void onBusy(const removal::Stay& stay);
+  void skip(const QString& sample, const LoggedPath& path, SkipReason reason, qint64 error = 0);
+  void sleep(std::chrono::milliseconds time) const;
+
+  const Order m_order;
+  const CleanerWorld& m_world;
+  const std::atomic<bool>& m_stopped;
+  const Progress m_progress;
+  CleanReport m_report;
+  CleanLog m_log;
+  std::optional<CleanJudge> m_judge;
+  std::optional<removal::Remover> m_trasher;
+  std::optional<removal::Remover> m_deleter;
+  std::deque<CleanWork> m_works;     ///< stays where it is: retries and the measuring pass point into it
+  const CleanWork* m_work = nullptr; ///< in hand
+  std::vector<Retry> m_retries;
+  std::vector<Done> m_done;
+  qint64 m_doneBytes = 0;
+  qint64 m_totalBytes = 0;
+};
