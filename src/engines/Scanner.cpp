@@ -24,7 +24,7 @@ constexpr std::chrono::milliseconds kBetweenProgress{60};
 struct Scan {
   Guard guard;
   appguard::RunningApps apps;
-  appguard::Sources sources;
+  const ScannerWorld& world;
   std::optional<categories::Admission> admission; ///< read when the first entry asks for it
   const std::atomic<bool>& cancelled;
   std::function<void(qint64, qint64, const QString&)> report;
@@ -32,7 +32,7 @@ struct Scan {
   qint64 files = 0;       ///< visited so far
 
   const categories::Admission& admissionNow() {
-    if (!admission) admission = categories::Admission::now(sources.procRoot);
+    if (!admission) admission = categories::Admission::now(world.sources.procRoot);
     return *admission;
   }
 };
@@ -135,7 +135,8 @@ class CategoryScan {
   CategoryResult recycleBin() {
     qint64 bytes = 0;
     qint64 count = 0;
-    const bool known = platform::queryRecycleBin(&bytes, &count);
+    const auto& stand = m_scan.world.queryRecycleBin;
+    const bool known = stand ? stand(&bytes, &count) : platform::queryRecycleBin(&bytes, &count);
     m_scan.files += count;
     if (!known || bytes < 1) return m_result;
     m_result.bytes = bytes;
@@ -158,7 +159,7 @@ class CategoryScan {
 
 } // namespace
 
-Scanner::Scanner(QObject* parent, appguard::Sources sources) : QObject(parent), m_sources(std::move(sources)) {}
+Scanner::Scanner(QObject* parent, ScannerWorld world) : QObject(parent), m_world(std::move(world)) {}
 
 Scanner::~Scanner() = default;
 
@@ -171,11 +172,11 @@ void Scanner::cancel() { m_job.cancel(); }
 bool Scanner::isRunning() const { return m_job.isRunning(); }
 
 void Scanner::run(const QList<QString>& exclusions, const QStringList& only) {
-  const QList<CategoryDef> defs = categories::forThisPlatform();
+  const QList<CategoryDef> defs = m_world.catalogue ? m_world.catalogue() : categories::forThisPlatform();
   emit started(defs);
   Scan scan{.guard = Guard(exclusions),
-            .apps = appguard::runningApps(m_sources),
-            .sources = m_sources,
+            .apps = appguard::runningApps(m_world.sources),
+            .world = m_world,
             .admission = {},
             .cancelled = m_job.cancelled(),
             .report = [this](qint64 bytes, qint64 files, const QString& path) { emit progress(bytes, files, path); }};

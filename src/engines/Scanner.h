@@ -7,12 +7,20 @@
 
 #include <QObject>
 
+#include <functional>
+
+/// What a scan takes from the outside world, for tests to bend.
+struct ScannerWorld {
+  appguard::Sources sources;                             ///< of running apps, locks and mounts
+  std::function<QList<CategoryDef>()> catalogue;         ///< empty: categories::forThisPlatform
+  std::function<bool(qint64*, qint64*)> queryRecycleBin; ///< empty: the system's
+};
+
 class Scanner : public QObject {
   Q_OBJECT
 
  public:
-  /// @param sources  where running apps, locks and mounts are read; for tests
-  explicit Scanner(QObject* parent = nullptr, appguard::Sources sources = {});
+  explicit Scanner(QObject* parent = nullptr, ScannerWorld world = {});
   ~Scanner() override;
 
   /// Starts a scan with these exclusion rules; does nothing while one runs.
@@ -36,6 +44,6 @@ class Scanner : public QObject {
  private:
   void run(const QList<QString>& exclusions, const QStringList& only);
 
-  appguard::Sources m_sources;
+  ScannerWorld m_world;
   Job m_job;
 };

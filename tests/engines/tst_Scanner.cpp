@@ -1,0 +1,687 @@
+// The scan: what becomes an item, what is told when, and how it ends early.
+#include "app/records.h"
+#include "core/fs.h"
+#include "engines/ProcStandIn.h"
+#include "engines/ScanRun.h"
+#include "engines/Unprivileged.h"
+#include "engines/categories.h"
+#include "support/FixtureHome.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QSemaphore>
+#include <QTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kTemp = 0;
+constexpr int kAppCache = 1;
+
+qint64 bytesOf(const QString& path) {
+  const std::atomic<bool> never{false};
+  return fs::measure(path, never).bytes;
+}
+
+/// A catalogue of one category with these roots.
+CategoryDef categoryOf(const QString& id, const QList<ScanRoot>& roots) {
+  CategoryDef def;
+  def.id = id;
+  def.roots = roots;
+  return def;
+}
+
+ScanRoot rootOf(const QString& path, const QString& label = {}) {
+  ScanRoot root;
+  root.path = path;
+  root.label = label;
+  return root;
+}
+
+} // namespace
+
+class tst_Scanner : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase() { records::registerMetaTypes(); }
+  void init() {
+    qputenv("TARNWICK_HOST", "linux");
+    m_home = std::make_unique<FixtureHome>();
+    m_proc = std::make_unique<ProcStandIn>(*m_home);
+  }
+  void cleanup() { qunsetenv("TARNWICK_HOST"); }
+
+  void emptyHomeGivesEightCategories();
+  void tellsInOrder();
+  void listedRoot_data();
+  void listedRoot();
+  void wholeRoot();
+  void largerFirst();
+  void emptyFilesCountButAreNoItem();
+  void modifiedIsTheNewest();
+  void installersByPattern_data();
+  void installersByPattern();
+  void exclusionsDropItems();
+  void exclusionsDropWholeRoots();
+  void protectedDataIsNoItem();
+  void protectedDataIsNoRoot();
+  void protectedLocationIsNoItem();
+  void unreadableRootIsDenied();
+  void ownersOfRunningApps_data();
+  void ownersOfRunningApps();
+  void noOwnersElsewhere();
+  void linkedRootKeepsTheUsersSpelling();
+  void linkedRootAsksBothSpellings_data();
+  void linkedRootAsksBothSpellings();
+  void nameThatIsNoTextIsNoItem();
+  void linksAreNotFollowed();
+  void onlyOwnWhereTheRootAsks();
+  void tempIsAdmittedEntryByEntry();
+  void tempOnMacTakesAll();
+  void trashAsksExclusionsOfTheItemAlone();
+  void only_data();
+  void only();
+  void recycleBin_data();
+  void recycleBin();
+  void secondStartChangesNothing();
+  void cancelBeforeTheFirst();
+  void cancelBetweenCategories();
+  void cancelInACategory();
+  void cancelIsQuick();
+  void destructionEndsTheScan();
+  void progressIsThrottled();
+
+ private:
+  [[nodiscard]] ScannerWorld world() const {
+    ScannerWorld bent;
+    bent.sources.procRoot = m_proc->root();
+    return bent;
+  }
+  [[nodiscard]] ScannerWorld worldWith(const QList<CategoryDef>& defs) const {
+    ScannerWorld bent = world();
+    bent.catalogue = [defs] { return defs; };
+    return bent;
+  }
+  void scan(ScanRun* run, const QStringList& exclusions = {}, const QStringList& only = {}) const {
+    Scanner scanner(nullptr, world());
+    run->run(&scanner, exclusions, only);
+  }
+  void scan(ScanRun* run, const QList<CategoryDef>& defs, const QStringList& exclusions = {}) const {
+    Scanner scanner(nullptr, worldWith(defs));
+    run->run(&scanner, exclusions);
+  }
+  void makeOld(const QString& path) const { FixtureHome::age(path, QDateTime::currentDateTime().addDays(-2)); }
+
+  std::unique_ptr<FixtureHome> m_home;
+  std::unique_ptr<ProcStandIn> m_proc;
+};
+
+void tst_Scanner::emptyHomeGivesEightCategories() {
+  ScanRun run;
+  scan(&run);
+  QCOMPARE(run.results.size(), 8);
+  QVERIFY(!run.cancelled);
+  for (const CategoryResult& result : run.results) {
+    if (result.def.id == u"trash" || result.def.id == u"logs") continue; // the machine's own may show
+    QCOMPARE(result.bytes, 0);
+    QVERIFY(result.items.isEmpty());
+    QVERIFY(!result.accessDenied);
+  }
+}
+
+void tst_Scanner::tellsInOrder() {
+  m_home->file(u".cache/mine/a"_s, 8192);
+  m_home->file(u".cache/thumbnails/b"_s, 4096);
+  ScanRun run;
+  scan(&run);
+  QStringList expected = {u"started"_s};
+  for (int i = 0; i < 8; ++i) expected << u"start %1"_s.arg(i) << u"finish %1"_s.arg(i) << u"progress"_s;
+  QCOMPARE(run.order, expected << u"finished"_s);
+  QCOMPARE(run.defs.size(), 8);
+  QCOMPARE(run.told.size(), 8);
+  qint64 bytes = 0;
+  qint64 files = 0;
+  for (int i = 0; i < 8; ++i) {
+    QCOMPARE(run.told[i].def.id, run.results[i].def.id);
+    QCOMPARE(run.told[i].bytes, run.results[i].bytes);
+    bytes += run.results[i].bytes;
+    files += run.results[i].files;
+    QCOMPARE(run.progress[i].bytes, bytes);
+    QCOMPARE(run.progress[i].files, files);
+  }
+}
+
+void tst_Scanner::listedRoot_data() {
+  QTest::addColumn<QByteArray>("host");
+  QTest::addColumn<QString>("folder");
+  QTest::addColumn<QString>("id");
+  QTest::newRow("mac logs") << QByteArray("mac") << u"Library/Logs"_s << u"logs"_s;
+  QTest::newRow("mac trash") << QByteArray("mac") << u".Trash"_s << u"trash"_s;
+  QTest::newRow("linux trash") << QByteArray("linux") << u".local/share/Trash/files"_s << u"trash"_s;
+}
+
+// Each child is an item, a folder with all that lies in it.
+void tst_Scanner::listedRoot() {
+  QFETCH(QByteArray, host);
+  QFETCH(QString, folder);
+  QFETCH(QString, id);
+  qputenv("TARNWICK_HOST", host);
+  const QString file = m_home->file(folder + "/one.log"_L1, 4096);
+  m_home->file(folder + "/app/two.log"_L1, 8192);
+  m_home->file(folder + "/app/sub/three.log"_L1, 8192);
+  ScanRun run;
+  scan(&run, {}, {id});
+  const CategoryResult result = run.category(id);
+  QList<CleanItem> own;
+  for (const CleanItem& item : result.items)
+    if (item.path.startsWith(m_home->path())) own << item;
+  QCOMPARE(own.size(), 2);
+  QCOMPARE(own[0].path, m_home->path(folder + "/app"_L1));
+  QCOMPARE(own[0].name, u"app"_s);
+  QCOMPARE(own[0].bytes, 16384);
+  QCOMPARE(own[0].files, 2);
+  QVERIFY(!own[0].wholeRoot);
+  QCOMPARE(own[1].path, file);
+  QCOMPARE(own[1].name, u"one.log"_s);
+  QCOMPARE(own[1].bytes, 4096);
+  QCOMPARE(own[1].files, 1);
+}
+
+void tst_Scanner::wholeRoot() {
+  m_home->file(u".cache/mine/a"_s, 4096);
+  m_home->file(u".cache/mine/sub/b"_s, 4096);
+  ScanRun run;
+  scan(&run);
+  const CategoryResult result = run.category(u"appcache"_s);
+  QCOMPARE(result.items.size(), 1);
+  QCOMPARE(result.items[0].path, m_home->path(u".cache/mine"_s));
+  QCOMPARE(result.items[0].name, u"mine"_s);
+  QVERIFY(result.items[0].wholeRoot);
+  QCOMPARE(result.items[0].bytes, 8192);
+  QCOMPARE(result.items[0].files, 2);
+  QCOMPARE(result.bytes, 8192);
+  QCOMPARE(result.files, 2);
+}
+
+void tst_Scanner::largerFirst() {
+  for (const int kib : {8, 40, 4, 24, 12}) m_home->file(u".cache/app%1/data"_s.arg(kib), kib * 1024);
+  ScanRun run;
+  scan(&run);
+  QCOMPARE(run.names(u"appcache"_s), (QStringList{u"app40"_s, u"app24"_s, u"app12"_s, u"app8"_s, u"app4"_s}));
+}
+
+void tst_Scanner::emptyFilesCountButAreNoItem() {
+  m_home->file(u".cache/mine/empty"_s, 0);
+  const QString sparse = m_home->file(u".cache/other/sparse"_s, 0);
+  QCOMPARE(::truncate(sparse.toUtf8().constData(), 1 << 20), 0);
+  m_home->file(m_home->temp(u"nothing"_s), 0);
+  makeOld(m_home->temp(u"nothing"_s));
+  ScanRun run;
+  scan(&run);
+  QCOMPARE(run.category(u"appcache"_s).files, 2);
+  QCOMPARE(run.category(u"appcache"_s).bytes, 0);
+  QVERIFY(run.category(u"appcache"_s).items.isEmpty());
+  QCOMPARE(run.category(u"temp"_s).files, 1);
+  QVERIFY(run.category(u"temp"_s).items.isEmpty());
+}
+
+void tst_Scanner::modifiedIsTheNewest() {
+  const QDateTime old = QDateTime::fromSecsSinceEpoch(1'500'000'000);
+  const QDateTime newer = QDateTime::fromSecsSinceEpoch(1'600'000'000);
+  m_home->file(u".local/share/Trash/files/folder/old"_s);
+  const QString file = m_home->file(u".local/share/Trash/files/folder/newer"_s);
+  const QString folder = m_home->path(u".local/share/Trash/files/folder"_s);
+  FixtureHome::age(folder, old);
+  FixtureHome::age(file, newer);
+  ScanRun run;
+  scan(&run, {}, {u"trash"_s});
+  QCOMPARE(run.category(u"trash"_s).items[0].modified, newer.toMSecsSinceEpoch());
+  // The folder's own time counts where it is the later one.
+  const QDateTime newest = QDateTime::fromSecsSinceEpoch(1'700'000'000);
+  FixtureHome::age(folder, newest);
+  FixtureHome::age(file, old);
+  ScanRun again;
+  scan(&again, {}, {u"trash"_s});
+  QCOMPARE(again.category(u"trash"_s).items[0].modified, newest.toMSecsSinceEpoch());
+}
+
+void tst_Scanner::installersByPattern_data() {
+  QTest::addColumn<QByteArray>("host");
+  QTest::addColumn<QStringList>("expected");
+  QTest::newRow("mac") << QByteArray("mac") << QStringList{u"App.mpkg"_s, u"Folder.pkg"_s, u"a.dmg"_s, u"b.DMG"_s};
+  QTest::newRow("linux") << QByteArray("linux")
+                         << QStringList{u"c.deb"_s,        u"d.Deb"_s, u"e.rpm"_s, u"f.snap"_s, u"g.flatpak"_s,
+                                        u"h.flatpakref"_s, u"i.run"_s, u"j.iso"_s, u"k.img"_s};
+}
+
+// In any case of letters; a folder of such a name is one item.
+void tst_Scanner::installersByPattern() {
+  QFETCH(QByteArray, host);
+  QFETCH(QStringList, expected);
+  qputenv("TARNWICK_HOST", host);
+  for (const char* name :
+       {"a.dmg", "b.DMG", "App.mpkg", "Folder.pkg/sub/data", "c.deb", "d.Deb", "e.rpm", "f.snap", "g.flatpak",
+        "h.flatpakref", "i.run", "j.iso", "k.img", "notes.txt", "x.AppImage", "deb", "y.deb.part"})
+    m_home->file(u"Downloads/"_s + QString::fromLatin1(name));
+  ScanRun run;
+  scan(&run, {}, {u"update"_s});
+  QStringList names = run.names(u"update"_s);
+  names.sort();
+  QCOMPARE(names, expected);
+  QCOMPARE(run.category(u"update"_s).files, expected.size());
+}
+
+void tst_Scanner::exclusionsDropItems() {
+  m_home->file(u".local/share/Trash/files/keep.log"_s);
+  m_home->file(u".local/share/Trash/files/gone.txt"_s);
+  ScanRun run;
+  scan(&run, {u"*.log"_s}, {u"trash"_s});
+  QVERIFY(run.names(u"trash"_s).contains(u"gone.txt"_s));
+  QVERIFY(!run.names(u"trash"_s).contains(u"keep.log"_s));
+  ScanRun none;
+  scan(&none, {u"~/.local/share/Trash"_s}, {u"trash"_s});
+  QVERIFY(!none.names(u"trash"_s).contains(u"gone.txt"_s));
+}
+
+void tst_Scanner::exclusionsDropWholeRoots() {
+  m_home->file(u".cache/mine/a"_s);
+  m_home->file(u".cache/other/a"_s);
+  ScanRun run;
+  scan(&run, {u"~/.cache/mine"_s});
+  QCOMPARE(run.names(u"appcache"_s), QStringList{u"other"_s});
+}
+
+void tst_Scanner::protectedDataIsNoItem() {
+  m_home->file(u".local/share/Trash/files/1Password 7/vault"_s);
+  m_home->file(u".local/share/Trash/files/plain"_s);
+  ScanRun run;
+  scan(&run, {}, {u"trash"_s});
+  QVERIFY(run.names(u"trash"_s).contains(u"plain"_s));
+  QVERIFY(!run.names(u"trash"_s).contains(u"1Password 7"_s));
+}
+
+void tst_Scanner::protectedDataIsNoRoot() {
+  m_home->file(u".cache/bitwarden/a"_s);
+  m_home->file(u".cache/plain/a"_s);
+  ScanRun run;
+  scan(&run);
+  QCOMPARE(run.names(u"appcache"_s), QStringList{u"plain"_s});
+  QCOMPARE(run.category(u"appcache"_s).files, 1);
+}
+
+void tst_Scanner::protectedLocationIsNoItem() {
+  m_home->file(u"Documents/letter"_s);
+  m_home->file(u"other/file"_s);
+  ScanRun run;
+  scan(&run, QList<CategoryDef>{categoryOf(u"x"_s, {rootOf(m_home->path())})});
+  QVERIFY(run.names(u"x"_s).contains(u"other"_s));
+  QVERIFY(!run.names(u"x"_s).contains(u"Documents"_s));
+}
+
+void tst_Scanner::unreadableRootIsDenied() {
+  m_home->file(u".cache/mine/a"_s);
+  m_home->file(u".local/share/xorg/x.old"_s);
+  const Unprivileged user(*m_home);
+  const QByteArray closed = m_home->path(u".local/share/xorg"_s).toUtf8();
+  QCOMPARE(::chmod(closed.constData(), 0), 0);
+  ScanRun run;
+  scan(&run, {}, {u"logs"_s, u"appcache"_s});
+  ::chmod(closed.constData(), 0700);
+  QVERIFY(run.category(u"logs"_s).accessDenied);
+  QVERIFY(!run.names(u"logs"_s).contains(u"x.old"_s));
+  QVERIFY(!run.category(u"appcache"_s).accessDenied);
+  QCOMPARE(run.names(u"appcache"_s), QStringList{u"mine"_s});
+}
+
+void tst_Scanner::ownersOfRunningApps_data() {
+  QTest::addColumn<QString>("folder");
+  QTest::addColumn<QString>("id");
+  QTest::addColumn<QString>("executable");
+  QTest::addColumn<QString>("owner");
+  QTest::newRow("browser") << u".cache/google-chrome"_s << u"browser"_s << u"/opt/google/chrome/chrome"_s
+                           << u"Google Chrome"_s;
+  QTest::newRow("not running") << u".cache/google-chrome"_s << u"browser"_s << u"/usr/bin/other"_s << QString();
+  QTest::newRow("app") << u".cache/spotify"_s << u"appcache"_s << u"/usr/share/spotify/spotify"_s << u"Spotify"_s;
+  QTest::newRow("by name") << u".cache/someplayer"_s << u"appcache"_s << u"/usr/bin/someplayer"_s << u"someplayer"_s;
+}
+
+void tst_Scanner::ownersOfRunningApps() {
+  QFETCH(QString, folder);
+  QFETCH(QString, id);
+  QFETCH(QString, executable);
+  QFETCH(QString, owner);
+  m_home->file(folder + "/data"_L1);
+  m_proc->addProcess(812, u"/"_s, executable);
+  ScanRun run;
+  scan(&run);
+  QCOMPARE(run.category(id).items.size(), 1);
+  QCOMPARE(run.category(id).items[0].owner, owner);
+}
+
+void tst_Scanner::noOwnersElsewhere() {
+  m_home->file(u".local/share/Trash/files/firefox/data"_s);
+  m_proc->addProcess(812, u"/"_s, u"/usr/bin/firefox"_s);
+  ScanRun run;
+  scan(&run, {}, {u"trash"_s});
+  for (const CleanItem& item : run.category(u"trash"_s).items) QCOMPARE(item.owner, QString());
+}
+
+void tst_Scanner::linkedRootKeepsTheUsersSpelling() {
+  const QString real = m_home->folder(m_home->outside(u"volume"_s));
+  m_home->file(real + "/mine/a"_L1, 8192);
+  m_home->file(real + "/Trash/files/thrown"_L1, 4096);
+  m_home->link(u".cache"_s, real);
+  m_home->link(u".local/share/Trash"_s, real + "/Trash"_L1);
+  ScanRun run;
+  scan(&run, {}, {u"appcache"_s, u"trash"_s});
+  const QList<CleanItem> items = run.category(u"appcache"_s).items;
+  QCOMPARE(items.size(), 2); // "Trash" is a cache folder here, too
+  QCOMPARE(items[0].path, m_home->path(u".cache/mine"_s));
+  QCOMPARE(items[0].bytes, 8192);
+  const QList<CleanItem> thrown = run.category(u"trash"_s).items;
+  QVERIFY(std::any_of(thrown.begin(), thrown.end(), [&](const CleanItem& item) {
+    return item.path == m_home->path(u".local/share/Trash/files/thrown"_s) && item.bytes == 4096;
+  }));
+}
+
+void tst_Scanner::linkedRootAsksBothSpellings_data() {
+  QTest::addColumn<QString>("folder"); // where the cache really lies
+  QTest::addColumn<QString>("rule");
+  QTest::addColumn<bool>("found");
+  QTest::newRow("free") << u"volume"_s << u"nothing"_s << true;
+  QTest::newRow("the user's spelling") << u"volume"_s << u"~/.cache/mine"_s << false;
+  QTest::newRow("the real spelling") << u"volume"_s << u"volume"_s << false;
+  QTest::newRow("protected data under the real one") << u"nordvpn"_s << u"nothing"_s << false;
+}
+
+void tst_Scanner::linkedRootAsksBothSpellings() {
+  QFETCH(QString, folder);
+  QFETCH(QString, rule);
+  QFETCH(bool, found);
+  const QString real = m_home->folder(m_home->outside(folder));
+  m_home->file(real + "/mine/a"_L1);
+  m_home->link(u".cache"_s, real);
+  m_home->link(u".Trash"_s, real);
+  ScanRun run;
+  scan(&run, {rule}, {u"appcache"_s});
+  QCOMPARE(run.names(u"appcache"_s), found ? QStringList{u"mine"_s} : QStringList());
+}
+
+void tst_Scanner::nameThatIsNoTextIsNoItem() {
+  const QString folder = m_home->folder(u".local/share/Trash/files"_s);
+  m_home->file(u".local/share/Trash/files/plain"_s);
+  const QByteArray odd = folder.toUtf8() + "/odd\xff";
+  const int fd = ::open(odd.constData(), O_CREAT | O_WRONLY, 0600);
+  QCOMPARE(::write(fd, "x", 1), 1);
+  ::close(fd);
+  QCOMPARE(::mkdir((odd + "-folder").constData(), 0700), 0);
+  ScanRun run;
+  scan(&run, {}, {u"trash"_s});
+  QStringList own;
+  for (const CleanItem& item : run.category(u"trash"_s).items)
+    if (item.path.startsWith(folder)) own << item.name;
+  QCOMPARE(own, QStringList{u"plain"_s});
+}
+
+void tst_Scanner::linksAreNotFollowed() {
+  m_home->file(u"big/data"_s, 1 << 20);
+  m_home->link(u".cache/mine/link"_s, m_home->path(u"big"_s));
+  m_home->file(u".cache/mine/own"_s, 4096);
+  ScanRun run;
+  scan(&run);
+  QCOMPARE(run.category(u"appcache"_s).bytes, 4096);
+  QCOMPARE(run.category(u"appcache"_s).files, 2);
+}
+
+void tst_Scanner::onlyOwnWhereTheRootAsks() {
+  if (::geteuid() != 0) QSKIP("only root can make files of others");
+  m_home->file(u"crash/own.crash"_s);
+  const QString other = m_home->file(u"crash/other.crash"_s);
+  QCOMPARE(::chown(other.toUtf8().constData(), 65534, 65534), 0);
+  ScanRoot root = rootOf(m_home->path(u"crash"_s));
+  ScanRun all;
+  scan(&all, QList<CategoryDef>{categoryOf(u"x"_s, {root})});
+  QCOMPARE(all.names(u"x"_s).size(), 2);
+  root.ownOnly = true;
+  ScanRun own;
+  scan(&own, QList<CategoryDef>{categoryOf(u"x"_s, {root})});
+  QCOMPARE(own.names(u"x"_s), QStringList{u"own.crash"_s});
+}
+
+void tst_Scanner::tempIsAdmittedEntryByEntry() {
+  for (const char* name : {"old", "fresh", "ssh-agent", "used/file", "locked"})
+    m_home->file(m_home->temp(QString::fromLatin1(name)));
+  makeOld(m_home->temp());
+  FixtureHome::age(m_home->temp(u"fresh"_s), QDateTime::currentDateTime());
+  m_proc->addProcess(812, m_home->temp(u"used"_s));
+  fs::Entry locked;
+  QVERIFY(fs::stat(m_home->temp(u"locked"_s), &locked));
+  m_proc->addLock(locked.inode);
+  ScanRun run;
+  scan(&run, {}, {u"temp"_s});
+  QCOMPARE(run.names(u"temp"_s), QStringList{u"old"_s});
+  QCOMPARE(run.category(u"temp"_s).files, 1);
+}
+
+void tst_Scanner::tempOnMacTakesAll() {
+  qputenv("TARNWICK_HOST", "mac");
+  m_home->file(m_home->temp(u"fresh"_s));
+  m_home->file(m_home->temp(u"ssh-agent"_s));
+  ScanRun run;
+  scan(&run, {}, {u"temp"_s});
+  QStringList names = run.names(u"temp"_s);
+  names.sort();
+  QCOMPARE(names, (QStringList{u"fresh"_s, u"ssh-agent"_s}));
+}
+
+// A repository that was thrown away is an item, with all in it.
+void tst_Scanner::trashAsksExclusionsOfTheItemAlone() {
+  m_home->file(u".local/share/Trash/files/project/.git/objects/a"_s, 8192);
+  m_home->file(u".local/share/Trash/files/.git/objects/a"_s);
+  ScanRun run;
+  scan(&run, {u"**/.git"_s}, {u"trash"_s});
+  QVERIFY(run.names(u"trash"_s).contains(u"project"_s));
+  QVERIFY(!run.names(u"trash"_s).contains(u".git"_s));
+}
+
+void tst_Scanner::only_data() {
+  QTest::addColumn<QStringList>("ids");
+  QTest::addColumn<QStringList>("order");
+  QTest::newRow("one") << QStringList{u"thumbs"_s}
+                       << QStringList{u"started"_s, u"start 4"_s, u"finish 4"_s, u"progress"_s, u"finished"_s};
+  QTest::newRow("two, the other way round") << QStringList{u"thumbs"_s, u"appcache"_s}
+                                            << QStringList{u"started"_s, u"start 1"_s,  u"finish 1"_s, u"progress"_s,
+                                                           u"start 4"_s, u"finish 4"_s, u"progress"_s, u"finished"_s};
+  QTest::newRow("unknown") << QStringList{u"nothing"_s} << QStringList{u"started"_s, u"finished"_s};
+}
+
+void tst_Scanner::only() {
+  QFETCH(QStringList, ids);
+  QFETCH(QStringList, order);
+  m_home->file(u".cache/mine/a"_s);
+  m_home->file(u".cache/thumbnails/a"_s);
+  m_home->file(u".cache/pip/a"_s);
+  ScanRun run;
+  scan(&run, {}, ids);
+  QCOMPARE(run.order, order);
+  QCOMPARE(run.results.size(), 8);
+  for (int i = 0; i < 8; ++i) {
+    QCOMPARE(run.results[i].def.id, run.defs[i].id);
+    QCOMPARE(run.results[i].def.title, run.defs[i].title);
+    const bool found = ids.contains(run.results[i].def.id);
+    QCOMPARE(run.results[i].items.size(), found ? 1 : 0);
+    QCOMPARE(run.results[i].bytes, found ? 4096 : 0);
+  }
+}
+
+void tst_Scanner::recycleBin_data() {
+  QTest::addColumn<bool>("known");
+  QTest::addColumn<qint64>("bytes");
+  QTest::addColumn<int>("items");
+  QTest::newRow("full") << true << qint64{5000} << 1;
+  QTest::newRow("empty") << true << qint64{0} << 0;
+  QTest::newRow("unknown") << false << qint64{5000} << 0;
+}
+
+void tst_Scanner::recycleBin() {
+  QFETCH(bool, known);
+  QFETCH(qint64, bytes);
+  QFETCH(int, items);
+  CategoryDef def = categoryOf(u"trash"_s, {});
+  def.usesRecycleBin = true;
+  ScannerWorld bent = worldWith({def});
+  bent.queryRecycleBin = [&](qint64* outBytes, qint64* outCount) {
+    *outBytes = bytes;
+    *outCount = 7;
+    return known;
+  };
+  Scanner scanner(nullptr, bent);
+  ScanRun run;
+  run.run(&scanner);
+  const CategoryResult result = run.category(u"trash"_s);
+  QCOMPARE(result.items.size(), items);
+  QCOMPARE(result.bytes, items ? 5000 : 0);
+  QCOMPARE(result.files, items ? 7 : 0);
+  QCOMPARE(run.progress.last().files, 7);
+  if (items == 0) return;
+  QCOMPARE(result.items[0].path, QString());
+  QCOMPARE(result.items[0].name, u"Recycle Bin (all drives)"_s);
+  QVERIFY(!result.items[0].wholeRoot);
+}
+
+void tst_Scanner::secondStartChangesNothing() {
+  m_home->file(u".cache/mine/a"_s);
+  Scanner scanner(nullptr, world());
+  ScanRun run;
+  run.listen(&scanner);
+  // The first scan waits in its first category until the second start was tried.
+  QSemaphore started;
+  QSemaphore goOn;
+  connect(
+      &scanner, &Scanner::started, &scanner,
+      [&] {
+        started.release();
+        goOn.acquire();
+      },
+      Qt::DirectConnection);
+  scanner.start({});
+  started.acquire();
+  QVERIFY(scanner.isRunning());
+  scanner.start({u"mine"_s}, {u"temp"_s});
+  goOn.release();
+  run.wait(&scanner);
+  QCOMPARE(run.order.count(u"finished"_s), 1);
+  QCOMPARE(run.names(u"appcache"_s), QStringList{u"mine"_s});
+}
+
+void tst_Scanner::cancelBeforeTheFirst() {
+  Scanner scanner(nullptr, world());
+  connect(
+      &scanner, &Scanner::started, &scanner, [&] { scanner.cancel(); }, Qt::DirectConnection);
+  ScanRun run;
+  run.run(&scanner);
+  QCOMPARE(run.order, (QStringList{u"started"_s, u"finished"_s}));
+  QVERIFY(run.cancelled);
+  QVERIFY(run.results.isEmpty());
+  // The next scan starts afresh.
+  disconnect(&scanner, nullptr, &scanner, nullptr);
+  ScanRun again;
+  again.run(&scanner);
+  QVERIFY(!again.cancelled);
+  QCOMPARE(again.results.size(), 8);
+}
+
+void tst_Scanner::cancelBetweenCategories() {
+  m_home->file(u".cache/mine/a"_s);
+  Scanner scanner(nullptr, world());
+  connect(
+      &scanner, &Scanner::categoryFinished, &scanner,
+      [&](int index) {
+        if (index == kAppCache) scanner.cancel();
+      },
+      Qt::DirectConnection);
+  ScanRun run;
+  run.run(&scanner);
+  QVERIFY(run.cancelled);
+  QCOMPARE(run.results.size(), 2);
+  QCOMPARE(run.results[kTemp].def.id, u"temp"_s);
+  QCOMPARE(run.names(u"appcache"_s), QStringList{u"mine"_s});
+  QVERIFY(!run.order.contains(u"start 2"_s));
+}
+
+void tst_Scanner::cancelInACategory() {
+  m_home->file(u".cache/mine/a"_s);
+  Scanner scanner(nullptr, world());
+  connect(
+      &scanner, &Scanner::categoryStarted, &scanner,
+      [&](int index) {
+        if (index == kAppCache) scanner.cancel();
+      },
+      Qt::DirectConnection);
+  ScanRun run;
+  run.run(&scanner);
+  QVERIFY(run.cancelled);
+  QCOMPARE(run.results.size(), 1);
+  QVERIFY(run.order.contains(u"start 1"_s));
+  QVERIFY(!run.order.contains(u"finish 1"_s));
+}
+
+void tst_Scanner::cancelIsQuick() {
+  for (int folder = 0; folder < 300; ++folder)
+    for (int file = 0; file < 10; ++file) m_home->file(u".cache/mine/%1/%2"_s.arg(folder).arg(file), 1);
+  Scanner scanner(nullptr, world());
+  ScanRun run;
+  run.listen(&scanner);
+  QElapsedTimer timer;
+  connect(
+      &scanner, &Scanner::categoryStarted, &scanner,
+      [&](int index) {
+        if (index != kAppCache) return;
+        timer.start();
+        scanner.cancel();
+      },
+      Qt::DirectConnection);
+  connect(
+      &scanner, &Scanner::finished, &scanner, [&] { QVERIFY(timer.elapsed() < 50); }, Qt::DirectConnection);
+  scanner.start({});
+  run.wait(&scanner);
+}
+
+void tst_Scanner::destructionEndsTheScan() {
+  m_home->file(u".cache/mine/a"_s);
+  auto scanner = std::make_unique<Scanner>(nullptr, world());
+  ScanRun run;
+  run.listen(scanner.get());
+  QSemaphore started;
+  connect(
+      scanner.get(), &Scanner::started, scanner.get(), [&] { started.release(); }, Qt::DirectConnection);
+  scanner->start({});
+  started.acquire();
+  scanner.reset();
+  QVERIFY(run.isDone());
+}
+
+void tst_Scanner::progressIsThrottled() {
+  for (int file = 0; file < 5000; ++file) m_home->file(u".cache/mine/%1"_s.arg(file), 1);
+  QElapsedTimer timer;
+  timer.start();
+  ScanRun run;
+  scan(&run, {}, {u"appcache"_s});
+  const qint64 elapsedMs = timer.elapsed();
+  const auto within = std::count_if(run.progress.begin(), run.progress.end(),
+                                    [](const ScanRun::Progress& one) { return !one.path.isEmpty(); });
+  QVERIFY2(within <= elapsedMs / 60, qPrintable(u"%1 in %2 ms"_s.arg(within).arg(elapsedMs)));
+  QCOMPARE(run.progress.last().files, 5000);
+  QCOMPARE(run.progress.last().bytes, bytesOf(m_home->path(u".cache/mine"_s)));
+}
+
+QTEST_GUILESS_MAIN(tst_Scanner)
+#include "tst_Scanner.moc"

@@ -1,0 +1,534 @@
+// The catalogue: words, order and roots of both hosts, and when a folder is no root.
+#include "core/fs.h"
+#include "engines/ProcStandIn.h"
+#include "engines/categories.h"
+#include "support/FixtureHome.h"
+
+#include <QDir>
+#include <QTest>
+
+#include <algorithm>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const CategoryDef& category(const QList<CategoryDef>& defs, const QString& id) {
+  const auto found = std::find_if(defs.begin(), defs.end(), [&](const CategoryDef& def) { return def.id == id; });
+  if (found == defs.end()) qFatal("no category %s", qPrintable(id));
+  return *found;
+}
+
+const ScanRoot* rootAt(const QList<CategoryDef>& defs, const QString& id, const QString& path) {
+  const QList<ScanRoot>& roots = category(defs, id).roots;
+  const auto found = std::find_if(roots.begin(), roots.end(), [&](const ScanRoot& root) { return root.path == path; });
+  return found == roots.end() ? nullptr : &*found;
+}
+
+/// "path|label|patterns" of each root of a category, in order.
+QStringList rootsOf(const QList<CategoryDef>& defs, const QString& id) {
+  QStringList lines;
+  for (const ScanRoot& root : category(defs, id).roots)
+    lines << root.path + u'|' + root.label + u'|' + root.patterns.join(u' ');
+  return lines;
+}
+
+/// The same without an order.
+QStringList sortedRootsOf(const QList<CategoryDef>& defs, const QString& id) {
+  QStringList lines = rootsOf(defs, id);
+  lines.sort();
+  return lines;
+}
+
+QStringList sorted(QStringList lines) {
+  lines.sort();
+  return lines;
+}
+
+} // namespace
+
+class tst_categories : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    qunsetenv("TARNWICK_HOST");
+    m_home = std::make_unique<FixtureHome>();
+  }
+  void cleanup() {
+    qunsetenv("TARNWICK_HOST");
+    qunsetenv("XDG_CACHE_HOME");
+    qunsetenv("XDG_CONFIG_HOME");
+    qunsetenv("XDG_DATA_HOME");
+  }
+
+  void safetyLabels();
+  void hostChoosesTheTable();
+  void words_data();
+  void words();
+  void emptyHome_data();
+  void emptyHome();
+  void macRoots();
+  void macAppCaches();
+  void macThumbsFollowTheTemporaryFolder();
+  void linuxLabelledRoots_data();
+  void linuxLabelledRoots();
+  void linuxPatternRoots();
+  void linuxTemp();
+  void linuxAppCachesLeaveOthersAlone();
+  void linuxLeftAlone_data();
+  void linuxLeftAlone();
+  void linuxBrowsers();
+  void linuxPackagedBrowsers();
+  void linuxPackagedCaches();
+  void linuxPackagedCacheIsSharedOut();
+  void linuxMountsAreLeftAlone();
+  void linuxTrashes();
+  void linuxPlacesFollowTheVariables();
+  void badVariablesDoNotCount();
+  void noHomeNoRoots();
+  void linkedRootKnowsItsRealPath_data();
+  void linkedRootKnowsItsRealPath();
+  void linkToAProtectedFolderIsNoRoot();
+  void linkInsideACacheIsNoRoot();
+  void fileIsNoRoot();
+  void mountPoints();
+
+ private:
+  [[nodiscard]] QString at(const QString& relative) const { return m_home->path(relative); }
+
+  std::unique_ptr<FixtureHome> m_home;
+};
+
+void tst_categories::safetyLabels() {
+  QCOMPARE(categories::safetyLabel(Safe), u"Safe"_s);
+  QCOMPARE(categories::safetyLabel(Review), u"Review"_s);
+  QCOMPARE(categories::safetyLabel(Permanent), u"Permanent"_s);
+  QCOMPARE(categories::safetyLabel(static_cast<Safety>(3)), QString());
+  QCOMPARE(categories::safetyLabel(static_cast<Safety>(-1)), QString());
+}
+
+void tst_categories::hostChoosesTheTable() {
+  qputenv("TARNWICK_HOST", "mac");
+  QCOMPARE(category(categories::forThisPlatform(), u"thumbs"_s).title, u"QuickLook cache"_s);
+  qputenv("TARNWICK_HOST", "linux");
+  QCOMPARE(category(categories::forThisPlatform(), u"thumbs"_s).title, u"Thumbnail cache"_s);
+}
+
+void tst_categories::words_data() {
+  QTest::addColumn<int>("index");
+  QTest::addColumn<QStringList>("both"); // id, icon, colour
+  QTest::addColumn<int>("safety");
+  QTest::addColumn<bool>("macFullDiskAccess");
+  QTest::addColumn<QStringList>("mac"); // title, hint, blurb
+  QTest::addColumn<QStringList>("linux");
+
+  const QString temp =
+      u"Scratch files that apps and the system create while working. They are not needed once the app closes."_s;
+  const QString apps =
+      u"Data apps keep to load faster. Apps rebuild these automatically the next time they need them."_s;
+  const QString browser =
+      u"Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched."_s;
+  const QString logs = u"Diagnostic logs and crash reports. Useful only when troubleshooting a recent problem."_s;
+  const QString thumbs = u"Preview images of your files. They are regenerated the next time you open a folder."_s;
+  const QString dev =
+      u"Package manager caches and build output. Removing them is safe, but the next build or install will be slower."_s;
+  const QString trash = u"Items you have already deleted. Emptying cannot be undone."_s;
+  QTest::newRow("temp") << 0 << QStringList{u"temp"_s, u"clock"_s, u"#64748b"_s} << 0 << false
+                        << QStringList{u"Temporary files"_s, u"$TMPDIR"_s, temp}
+                        << QStringList{u"Temporary files"_s, u"$TMPDIR"_s, temp};
+  QTest::newRow("appcache") << 1 << QStringList{u"appcache"_s, u"box"_s, u"#6366f1"_s} << 0 << false
+                            << QStringList{u"App caches"_s, u"~/Library/Caches"_s, apps}
+                            << QStringList{u"App caches"_s, u"~/.cache"_s, apps};
+  QTest::newRow("browser") << 2 << QStringList{u"browser"_s, u"globe"_s, u"#0ea5e9"_s} << 0 << true
+                           << QStringList{u"Browser caches"_s, u"Safari, Chrome, Edge, Brave, Firefox"_s, browser}
+                           << QStringList{u"Browser caches"_s, u"Firefox, Chrome, Chromium, Brave, Edge"_s, browser};
+  QTest::newRow("logs") << 3 << QStringList{u"logs"_s, u"file"_s, u"#78716c"_s} << 0 << false
+                        << QStringList{u"Logs & crash reports"_s, u"~/Library/Logs, DiagnosticReports"_s, logs}
+                        << QStringList{u"Logs & crash reports"_s, u"Session logs, crash reports"_s, logs};
+  QTest::newRow("thumbs") << 4 << QStringList{u"thumbs"_s, u"image"_s, u"#ec4899"_s} << 0 << false
+                          << QStringList{u"QuickLook cache"_s, u"com.apple.QuickLook.thumbnailcache"_s, thumbs}
+                          << QStringList{u"Thumbnail cache"_s, u"~/.cache/thumbnails"_s, thumbs};
+  QTest::newRow("update")
+      << 5 << QStringList{u"update"_s, u"download"_s, u"#f59e0b"_s} << 1 << false
+      << QStringList{u"Old installers"_s, u".dmg and .pkg in Downloads"_s,
+                     u"Disk images and installer packages in your Downloads folder. Review in case you still need an installer."_s}
+      << QStringList{
+             u"Old installers"_s, u".deb, .rpm and disc images in Downloads"_s,
+             u"Software packages and disc images in your Downloads folder. Review in case you still need one of them."_s};
+  QTest::newRow("dev") << 6 << QStringList{u"dev"_s, u"code"_s, u"#8b5cf6"_s} << 1 << false
+                       << QStringList{u"Developer caches"_s, u"Xcode, simulators, Homebrew, npm, pip"_s, dev}
+                       << QStringList{u"Developer caches"_s, u"pip, npm, Cargo, Gradle, Go, ccache"_s, dev};
+  QTest::newRow("trash") << 7 << QStringList{u"trash"_s, u"trash"_s, u"#ef4444"_s} << 2 << true
+                         << QStringList{u"Trash"_s, u"~/.Trash"_s, trash}
+                         << QStringList{u"Trash"_s, u"~/.local/share/Trash"_s, trash};
+}
+
+void tst_categories::words() {
+  QFETCH(int, index);
+  QFETCH(QStringList, both);
+  QFETCH(int, safety);
+  QFETCH(bool, macFullDiskAccess);
+  QFETCH(QStringList, mac);
+  QFETCH(QStringList, linux);
+  const auto check = [&](const QList<CategoryDef>& defs, const QStringList& words, bool fullDiskAccess) {
+    QCOMPARE(defs.size(), 8);
+    const CategoryDef& def = defs[index];
+    QCOMPARE((QStringList{def.id, def.icon, def.colour.name()}), both);
+    QCOMPARE(int(def.safety), safety);
+    QCOMPARE((QStringList{def.title, def.locationHint, def.blurb}), words);
+    QCOMPARE(def.needsFullDiskAccess, fullDiskAccess);
+    QVERIFY(!def.needsAdmin);
+    QVERIFY(!def.usesRecycleBin);
+  };
+  check(categories::forMac(), mac, macFullDiskAccess);
+  check(categories::forLinux(), linux, false);
+}
+
+void tst_categories::emptyHome_data() {
+  QTest::addColumn<bool>("mac");
+  QTest::newRow("mac") << true;
+  QTest::newRow("linux") << false;
+}
+
+// A category whose folders are all missing keeps its place.
+void tst_categories::emptyHome() {
+  QFETCH(bool, mac);
+  const QList<CategoryDef> defs = mac ? categories::forMac() : categories::forLinux();
+  QCOMPARE(defs.size(), 8);
+  for (const CategoryDef& def : defs) {
+    if (def.id == u"temp") continue;
+    for (const ScanRoot& root : def.roots) // the machine's own crash reports and volumes may show
+      QVERIFY2(!root.path.startsWith(m_home->outside()), qPrintable(root.path));
+  }
+  QCOMPARE(rootsOf(defs, u"temp"_s), QStringList{m_home->temp() + "||"_L1});
+}
+
+void tst_categories::macRoots() {
+  for (const char* path :
+       {"Library/Caches/com.apple.Safari", "Library/Caches/Google/Chrome", "Library/Caches/com.microsoft.edgemac",
+        "Library/Caches/BraveSoftware", "Library/Caches/Firefox/Profiles/abc.default/cache2",
+        "Library/Caches/Firefox/Profiles/no-cache-yet", "Library/Logs", "Downloads",
+        "Library/Developer/Xcode/DerivedData", "Library/Developer/CoreSimulator/Caches", "Library/Caches/Homebrew",
+        ".npm/_cacache", "Library/Caches/pip", "Library/Caches/Yarn", "Library/Caches/go-build", ".gradle/caches",
+        ".Trash"})
+    m_home->folder(QString::fromLatin1(path));
+  const QList<CategoryDef> defs = categories::forMac();
+  QCOMPARE(rootsOf(defs, u"appcache"_s), QStringList());
+  QCOMPARE(rootsOf(defs, u"browser"_s),
+           (QStringList{at(u"Library/Caches/com.apple.Safari|Safari|"_s),
+                        at(u"Library/Caches/Google/Chrome|Google Chrome|"_s),
+                        at(u"Library/Caches/com.microsoft.edgemac|Microsoft Edge|"_s),
+                        at(u"Library/Caches/BraveSoftware|Brave|"_s),
+                        at(u"Library/Caches/Firefox/Profiles/abc.default/cache2|Firefox · abc.default|"_s)}));
+  QCOMPARE(rootsOf(defs, u"logs"_s), QStringList{at(u"Library/Logs||"_s)});
+  QCOMPARE(rootsOf(defs, u"update"_s), QStringList{at(u"Downloads||*.dmg *.pkg *.mpkg"_s)});
+  QCOMPARE(rootsOf(defs, u"dev"_s),
+           (QStringList{at(u"Library/Developer/Xcode/DerivedData|Xcode DerivedData|"_s),
+                        at(u"Library/Developer/CoreSimulator/Caches|Simulator caches|"_s),
+                        at(u"Library/Caches/Homebrew|Homebrew downloads|"_s), at(u".npm/_cacache|npm cache|"_s),
+                        at(u"Library/Caches/pip|pip cache|"_s), at(u"Library/Caches/Yarn|Yarn cache|"_s),
+                        at(u"Library/Caches/go-build|Go build cache|"_s), at(u".gradle/caches|Gradle caches|"_s)}));
+  QCOMPARE(rootsOf(defs, u"trash"_s), QStringList{at(u".Trash||"_s)});
+}
+
+void tst_categories::macAppCaches() {
+  for (const char* name : {"com.apple.Safari", "com.apple.anything", "Google", "Firefox", "com.microsoft.edgemac",
+                           "BraveSoftware", "Homebrew", "pip", "Yarn", "go-build", "CloudKit", "COM.APPLE.Thing",
+                           "com.example.Editor", "net.thing", ".a.b", "a.", "Plain", "a.b."})
+    m_home->folder(u"Library/Caches/"_s + QString::fromLatin1(name));
+  m_home->file(u"Library/Caches/loose.db"_s);
+  m_home->link(u"Library/Caches/linked"_s, m_home->folder(u"elsewhere"_s));
+  const auto line = [&](const QString& name, const QString& label) {
+    return at(u"Library/Caches/"_s + name) + u'|' + label + u'|';
+  };
+  QCOMPARE(sortedRootsOf(categories::forMac(), u"appcache"_s),
+           sorted({line(u"COM.APPLE.Thing"_s, u"Thing"_s), line(u"com.example.Editor"_s, u"Editor"_s),
+                   line(u"net.thing"_s, u"net.thing"_s), line(u".a.b"_s, u"b"_s), line(u"a."_s, u"a."_s),
+                   line(u"Plain"_s, u"Plain"_s), line(u"a.b."_s, u"a.b."_s)}));
+}
+
+void tst_categories::macThumbsFollowTheTemporaryFolder() {
+  QCOMPARE(rootsOf(categories::forMac(), u"thumbs"_s), QStringList());
+  const QString folder = m_home->folder(m_home->temp(u"../C/com.apple.QuickLook.thumbnailcache"_s));
+  QCOMPARE(rootsOf(categories::forMac(), u"thumbs"_s), QStringList{folder + "|QuickLook thumbnails|"_L1});
+  qputenv("TMPDIR", m_home->folder(m_home->temp(u"deeper/down"_s)).toUtf8());
+  QCOMPARE(rootsOf(categories::forMac(), u"thumbs"_s), QStringList());
+}
+
+void tst_categories::linuxLabelledRoots_data() {
+  QTest::addColumn<QString>("id");
+  QTest::addColumn<QString>("label");
+  const auto row = [](const char* path, const char* id, const char* label) {
+    QTest::newRow(path) << QString::fromLatin1(id) << QString::fromUtf8(label);
+  };
+  row(".config/Code/logs", "logs", "Code");
+  row(".config/VSCodium/logs", "logs", "VSCodium");
+  row(".config/Slack/logs", "logs", "Slack");
+  row(".config/discord/logs", "logs", "discord");
+  row(".config/obs-studio/logs", "logs", "obs-studio");
+  row(".cache/thumbnails", "thumbs", "Thumbnails");
+  row(".thumbnails", "thumbs", "Thumbnails");
+  row(".cache/pip", "dev", "pip cache");
+  row(".cache/uv", "dev", "uv cache");
+  row(".cache/yarn", "dev", "Yarn cache");
+  row(".cache/pnpm", "dev", "pnpm cache");
+  row(".cache/go-build", "dev", "Go build cache");
+  row(".cache/ccache", "dev", "ccache cache");
+  row(".cache/sccache", "dev", "sccache cache");
+  row(".cache/node-gyp", "dev", "node-gyp cache");
+  row(".cache/electron", "dev", "Electron cache");
+  row(".cache/ms-playwright", "dev", "Playwright cache");
+  row(".cache/Cypress", "dev", "Cypress cache");
+  row(".cache/pre-commit", "dev", "pre-commit cache");
+  row(".cache/composer", "dev", "Composer cache");
+  row(".cache/bazel", "dev", "Bazel cache");
+  row(".cache/deno/npm", "dev", "Deno npm cache");
+  row(".cache/deno/deps", "dev", "Deno dependencies cache");
+  row(".cache/deno/gen", "dev", "Deno build cache");
+  row(".cache/huggingface", "dev", "Hugging Face cache");
+  row(".cache/torch", "dev", "Torch cache");
+  row(".npm/_cacache", "dev", "npm cache");
+  row(".cargo/registry/cache", "dev", "Cargo registry cache");
+  row(".cargo/registry/src", "dev", "Cargo sources cache");
+  row(".gradle/caches", "dev", "Gradle caches");
+  row(".ccache", "dev", "ccache cache");
+  row("go/pkg/mod/cache/download", "dev", "Go module cache");
+  row(".bun/install/cache", "dev", "Bun cache");
+  row(".cache/mozilla/firefox/abc.default/cache2", "browser", "Firefox · abc.default");
+  row(".cache/google-chrome", "browser", "Google Chrome");
+  row(".cache/google-chrome-beta", "browser", "Google Chrome Beta");
+  row(".cache/chromium", "browser", "Chromium");
+  row(".cache/BraveSoftware", "browser", "Brave");
+  row(".cache/microsoft-edge", "browser", "Microsoft Edge");
+  row(".cache/vivaldi", "browser", "Vivaldi");
+  row(".cache/opera", "browser", "Opera");
+  row(".cache/some-app", "appcache", "some-app");
+}
+
+// Each folder is a root of one category alone.
+void tst_categories::linuxLabelledRoots() {
+  QFETCH(QString, id);
+  QFETCH(QString, label);
+  const QString path = m_home->folder(QString::fromLatin1(QTest::currentDataTag()));
+  const QList<CategoryDef> defs = categories::forLinux();
+  QStringList holders;
+  for (const CategoryDef& def : defs)
+    for (const ScanRoot& root : def.roots)
+      if (root.path.startsWith(m_home->path())) holders << def.id + u'|' + root.path + u'|' + root.label;
+  QCOMPARE(holders, QStringList{id + u'|' + path + u'|' + label});
+}
+
+void tst_categories::linuxPatternRoots() {
+  m_home->folder(u".local/share/xorg"_s);
+  m_home->folder(u"Downloads"_s);
+  const QList<CategoryDef> defs = categories::forLinux();
+  QStringList logs = rootsOf(defs, u"logs"_s);
+  logs.removeAll(u"/var/crash||*.crash"_s); // stands there or doesn't
+  QCOMPARE(logs, (QStringList{at({}) + "||.xsession-errors*"_L1, at(u".local/share/xorg||*.old"_s)}));
+  QCOMPARE(rootsOf(defs, u"update"_s),
+           QStringList{at(u"Downloads||*.deb *.rpm *.snap *.flatpak *.flatpakref *.run *.iso *.img"_s)});
+  const ScanRoot* crash = rootAt(defs, u"logs"_s, u"/var/crash"_s);
+  QCOMPARE(crash != nullptr, QDir(u"/var/crash"_s).exists());
+  if (crash) QVERIFY(crash->ownOnly);
+  QVERIFY(!rootAt(defs, u"update"_s, at(u"Downloads"_s))->ownOnly);
+}
+
+void tst_categories::linuxTemp() {
+  QCOMPARE(rootsOf(categories::forLinux(), u"temp"_s), QStringList{m_home->temp() + "||"_L1});
+  // The temporary folder must not be a folder of the user's, or hold one.
+  for (const QString& path : {m_home->path(), m_home->path(u".."_s), QString(u"/"_s)}) {
+    qputenv("TMPDIR", path.toUtf8());
+    QCOMPARE(rootsOf(categories::forLinux(), u"temp"_s), QStringList());
+    QCOMPARE(rootsOf(categories::forMac(), u"temp"_s), QStringList());
+  }
+}
+
+void tst_categories::linuxAppCachesLeaveOthersAlone() {
+  for (const char* name : {"mozilla", "google-chrome", "google-chrome-beta", "chromium", "BraveSoftware",
+                           "microsoft-edge", "vivaldi", "opera", "thumbnails", "pip", "deno", "huggingface", "mine"})
+    m_home->folder(u".cache/"_s + QString::fromLatin1(name));
+  m_home->file(u".cache/loose.db"_s);
+  QCOMPARE(rootsOf(categories::forLinux(), u"appcache"_s), QStringList{at(u".cache/mine|mine|"_s)});
+}
+
+void tst_categories::linuxLeftAlone_data() {
+  for (const char* name : {"keepassxc", "rclone",   "obexd",    "pypoetry", "evolution", "tracker3",   "ibus",
+                           "fcitx",     "fcitx5",   "dconf",    "gvfs",     "gvfsd",     "containers", "JetBrains",
+                           "sessions",  "zsh",      "bash",     "vim",      "nvim",      "emacs",      "onedriver",
+                           "xournalpp", "inkscape", "audacity", "FreeCAD",  "duplicity", "borg",       "restic"})
+    QTest::newRow(name);
+}
+
+void tst_categories::linuxLeftAlone() {
+  const QString name = QString::fromLatin1(QTest::currentDataTag());
+  QVERIFY(categories::holdsMoreThanCache(name));
+  QVERIFY(!categories::holdsMoreThanCache(u"x"_s + name));
+  m_home->folder(u".cache/"_s + name);
+  m_home->folder(u".cache/mine"_s);
+  QCOMPARE(rootsOf(categories::forLinux(), u"appcache"_s), QStringList{at(u".cache/mine|mine|"_s)});
+  // In a package's cache root its neighbours are still counted.
+  m_home->folder(u".var/app/org.example.Writer/cache/"_s + name);
+  m_home->folder(u".var/app/org.example.Writer/cache/tmp"_s);
+  QCOMPARE(sortedRootsOf(categories::forLinux(), u"appcache"_s),
+           sorted({at(u".cache/mine|mine|"_s), at(u".var/app/org.example.Writer/cache/tmp|Writer · tmp|"_s)}));
+}
+
+void tst_categories::linuxBrowsers() {
+  m_home->folder(u".cache/mozilla/firefox/one/cache2"_s);
+  m_home->folder(u".cache/mozilla/firefox/two/startupCache"_s);
+  m_home->folder(u".cache/opera"_s);
+  QCOMPARE(rootsOf(categories::forLinux(), u"browser"_s),
+           (QStringList{at(u".cache/mozilla/firefox/one/cache2|Firefox · one|"_s), at(u".cache/opera|Opera|"_s)}));
+}
+
+void tst_categories::linuxPackagedBrowsers() {
+  m_home->folder(u"snap/firefox/common/.cache/mozilla/firefox/p/cache2"_s);
+  m_home->folder(u"snap/chromium/common/.cache/chromium"_s);
+  m_home->folder(u".var/app/org.mozilla.firefox/cache/mozilla/firefox/p/cache2"_s);
+  m_home->folder(u".var/app/com.google.Chrome/cache/google-chrome"_s);
+  m_home->folder(u".var/app/org.chromium.Chromium/cache/chromium"_s);
+  m_home->folder(u".var/app/com.brave.Browser/cache/BraveSoftware"_s);
+  m_home->folder(u".var/app/com.microsoft.Edge/cache/microsoft-edge"_s);
+  const QList<CategoryDef> defs = categories::forLinux();
+  QCOMPARE(sortedRootsOf(defs, u"browser"_s),
+           sorted({at(u"snap/firefox/common/.cache/mozilla/firefox/p/cache2|Firefox · p (snap)|"_s),
+                   at(u"snap/chromium/common/.cache/chromium|Chromium (snap)|"_s),
+                   at(u".var/app/org.mozilla.firefox/cache/mozilla/firefox/p/cache2|Firefox · p (Flatpak)|"_s),
+                   at(u".var/app/com.google.Chrome/cache/google-chrome|Google Chrome (Flatpak)|"_s),
+                   at(u".var/app/org.chromium.Chromium/cache/chromium|Chromium (Flatpak)|"_s),
+                   at(u".var/app/com.brave.Browser/cache/BraveSoftware|Brave (Flatpak)|"_s),
+                   at(u".var/app/com.microsoft.Edge/cache/microsoft-edge|Microsoft Edge (Flatpak)|"_s)}));
+  // What the browser category counts isn't counted again.
+  QCOMPARE(rootsOf(defs, u"appcache"_s), QStringList());
+}
+
+void tst_categories::linuxPackagedCaches() {
+  m_home->folder(u".var/app/org.gnome.Maps/cache/tiles"_s);
+  m_home->folder(u".var/app/org.other.Chat/cache"_s);
+  m_home->folder(u"snap/notes/common/.cache/pip"_s);
+  m_home->folder(u"snap/bare/common"_s);
+  QCOMPARE(sortedRootsOf(categories::forLinux(), u"appcache"_s),
+           sorted({at(u".var/app/org.gnome.Maps/cache|Maps|"_s), at(u".var/app/org.other.Chat/cache|Chat|"_s),
+                   at(u"snap/notes/common/.cache|notes|"_s)}));
+}
+
+void tst_categories::linuxPackagedCacheIsSharedOut() {
+  m_home->folder(u".var/app/org.mozilla.firefox/cache/mozilla/firefox/p/cache2"_s);
+  m_home->folder(u".var/app/org.mozilla.firefox/cache/fontconfig"_s);
+  QCOMPARE(rootsOf(categories::forLinux(), u"appcache"_s),
+           QStringList{at(u".var/app/org.mozilla.firefox/cache/fontconfig|firefox · fontconfig|"_s)});
+}
+
+void tst_categories::linuxMountsAreLeftAlone() {
+  const QString mounted = m_home->folder(u".cache/big disk"_s);
+  m_home->folder(u".cache/small"_s);
+  const QString inPackage = m_home->folder(u".var/app/org.example.Writer/cache/mounted"_s);
+  m_home->folder(u".var/app/org.example.Writer/cache/own"_s);
+  ProcStandIn proc(*m_home);
+  proc.addMount(mounted.toUtf8().replace(" ", "\\040"));
+  proc.addMount(inPackage.toUtf8());
+  QCOMPARE(sortedRootsOf(categories::forLinux(proc.root()), u"appcache"_s),
+           sorted({at(u".cache/small|small|"_s), at(u".var/app/org.example.Writer/cache/own|Writer · own|"_s)}));
+}
+
+void tst_categories::linuxTrashes() {
+  const QString files = m_home->folder(u".local/share/Trash/files"_s);
+  QStringList roots = rootsOf(categories::forLinux(), u"trash"_s);
+  QCOMPARE(roots.count(files + "||"_L1), 1);
+  QCOMPARE(roots.first(), files + "||"_L1);
+}
+
+void tst_categories::linuxPlacesFollowTheVariables() {
+  const QString cache = m_home->folder(m_home->outside(u"xdg/cache"_s));
+  const QString config = m_home->folder(m_home->outside(u"xdg/config"_s));
+  const QString data = m_home->folder(m_home->outside(u"xdg/data"_s));
+  qputenv("XDG_CACHE_HOME", cache.toUtf8());
+  qputenv("XDG_CONFIG_HOME", config.toUtf8());
+  qputenv("XDG_DATA_HOME", data.toUtf8());
+  for (const QString& path : {cache + "/pip"_L1, cache + "/mine"_L1, config + "/Code/logs"_L1, data + "/Trash/files"_L1,
+                              data + "/xorg"_L1, at(u".cache/not-here"_s)})
+    m_home->folder(path);
+  const QList<CategoryDef> defs = categories::forLinux();
+  QCOMPARE(rootsOf(defs, u"appcache"_s), QStringList{cache + "/mine|mine|"_L1});
+  QCOMPARE(rootsOf(defs, u"dev"_s), QStringList{cache + "/pip|pip cache|"_L1});
+  QVERIFY(rootAt(defs, u"logs"_s, config + "/Code/logs"_L1));
+  QVERIFY(rootAt(defs, u"logs"_s, data + "/xorg"_L1));
+  QCOMPARE(rootsOf(defs, u"trash"_s).first(), data + "/Trash/files||"_L1);
+}
+
+void tst_categories::badVariablesDoNotCount() {
+  m_home->folder(u".cache/mine"_s);
+  m_home->folder(u"private"_s);
+  for (const QByteArray& value : {QByteArray("/"), QByteArray("relative/cache"), at({}).toUtf8(), at(u".."_s).toUtf8(),
+                                  at(u"Documents"_s).toUtf8()}) {
+    qputenv("XDG_CACHE_HOME", value);
+    QCOMPARE(rootsOf(categories::forLinux(), u"appcache"_s), QStringList{at(u".cache/mine|mine|"_s)});
+  }
+}
+
+// What the home folder would be is never guessed: "/" gives the password database's, and that isn't ours.
+void tst_categories::noHomeNoRoots() {
+  m_home->folder(u".cache/mine"_s);
+  for (const QByteArray& value : {QByteArray("/"), QByteArray("relative"), QByteArray()}) {
+    qputenv("HOME", value);
+    for (const QList<CategoryDef>& defs : {categories::forMac(), categories::forLinux()})
+      for (const CategoryDef& def : defs)
+        for (const ScanRoot& root : def.roots) {
+          QVERIFY2(QDir::isAbsolutePath(root.path), qPrintable(root.path));
+          QVERIFY2(root.path != u"/" && !root.path.startsWith(u"/."), qPrintable(root.path));
+          QVERIFY2(def.id == u"temp" || !root.path.startsWith(m_home->outside()), qPrintable(root.path));
+        }
+  }
+}
+
+void tst_categories::linkedRootKnowsItsRealPath_data() { emptyHome_data(); }
+
+void tst_categories::linkedRootKnowsItsRealPath() {
+  QFETCH(bool, mac);
+  const QString real = m_home->folder(m_home->outside(u"volume/cache"_s));
+  m_home->folder(real + "/mine"_L1);
+  m_home->link(mac ? u"Library/Caches"_s : u".cache"_s, real);
+  m_home->folder(u".gradle/caches"_s);
+  const QList<CategoryDef> defs = mac ? categories::forMac() : categories::forLinux();
+  const ScanRoot* root = rootAt(defs, u"appcache"_s, at(mac ? u"Library/Caches/mine"_s : u".cache/mine"_s));
+  QVERIFY(root);
+  QCOMPARE(root->realPath, real + "/mine"_L1);
+  QCOMPARE(rootAt(defs, u"dev"_s, at(u".gradle/caches"_s))->realPath, QString());
+}
+
+void tst_categories::linkToAProtectedFolderIsNoRoot() {
+  m_home->folder(u"Documents"_s);
+  m_home->folder(u".ccache"_s);
+  m_home->link(u".thumbnails"_s, m_home->path(u"Documents"_s));
+  m_home->link(u".npm/_cacache"_s, m_home->path());
+  m_home->link(u".gradle/caches"_s, u"/"_s);
+  m_home->link(u".bun/install/cache"_s, m_home->path(u".."_s));
+  m_home->link(u".cargo/registry/src"_s, u"/usr/share"_s);
+  const QList<CategoryDef> defs = categories::forLinux();
+  QCOMPARE(rootsOf(defs, u"thumbs"_s), QStringList());
+  QCOMPARE(rootsOf(defs, u"dev"_s), QStringList{at(u".ccache|ccache cache|"_s)});
+}
+
+void tst_categories::linkInsideACacheIsNoRoot() {
+  m_home->link(u".cache/linked"_s, m_home->folder(u"elsewhere"_s));
+  QCOMPARE(rootsOf(categories::forLinux(), u"appcache"_s), QStringList());
+}
+
+void tst_categories::fileIsNoRoot() {
+  m_home->file(u".thumbnails"_s);
+  m_home->file(u".Trash"_s);
+  QCOMPARE(rootsOf(categories::forLinux(), u"thumbs"_s), QStringList());
+  QCOMPARE(rootsOf(categories::forMac(), u"trash"_s), QStringList());
+}
+
+void tst_categories::mountPoints() {
+  ProcStandIn proc(*m_home);
+  proc.addMount("/media/me/My\\040Disk\\134x");
+  QCOMPARE(categories::mountPoints(proc.root()), (QSet<QString>{u"/"_s, u"/media/me/My Disk\\x"_s}));
+  QCOMPARE(categories::mountPoints(m_home->outside(u"nothing"_s)), QSet<QString>());
+}
+
+QTEST_GUILESS_MAIN(tst_categories)
+#include "tst_categories.moc"
