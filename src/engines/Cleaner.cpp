@@ -31,3 +31,5 @@ QString Cleaner::logDir() {
   if (platform::host() == platform::Host::Mac) return places::home() + u"/Library/Logs/Tarnwick"_s;
   return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + u"/logs"_s;
 }
+
+#include "moc_Cleaner.cpp"

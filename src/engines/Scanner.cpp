@@ -196,3 +196,5 @@ void Scanner::run(const QList<QString>& exclusions, const QStringList& only) {
   }
   emit finished(results, scan.cancelled);
 }
+
+#include "moc_Scanner.cpp"

@@ -57,6 +57,7 @@ class tst_categories : public QObject {
     m_home = std::make_unique<FixtureHome>();
   }
   void cleanup() {
+    m_home.reset();
     qunsetenv("TARNWICK_HOST");
     qunsetenv("XDG_CACHE_HOME");
     qunsetenv("XDG_CONFIG_HOME");
@@ -106,7 +107,6 @@ void tst_categories::safetyLabels() {
   QCOMPARE(categories::safetyLabel(Review), u"Review"_s);
   QCOMPARE(categories::safetyLabel(Permanent), u"Permanent"_s);
   QCOMPARE(categories::safetyLabel(static_cast<Safety>(3)), QString());
-  QCOMPARE(categories::safetyLabel(static_cast<Safety>(-1)), QString());
 }
 
 void tst_categories::hostChoosesTheTable() {
@@ -200,7 +200,7 @@ void tst_categories::emptyHome() {
   for (const CategoryDef& def : defs) {
     if (def.id == u"temp") continue;
     for (const ScanRoot& root : def.roots) // the machine's own crash reports and volumes may show
-      QVERIFY2(!root.path.startsWith(m_home->outside()), qPrintable(root.path));
+      QVERIFY2(root.path == m_home->path() || !root.path.startsWith(m_home->outside()), qPrintable(root.path));
   }
   QCOMPARE(rootsOf(defs, u"temp"_s), QStringList{m_home->temp() + "||"_L1});
 }
@@ -316,7 +316,7 @@ void tst_categories::linuxLabelledRoots() {
   QStringList holders;
   for (const CategoryDef& def : defs)
     for (const ScanRoot& root : def.roots)
-      if (root.path.startsWith(m_home->path())) holders << def.id + u'|' + root.path + u'|' + root.label;
+      if (root.path.startsWith(m_home->path() + u'/')) holders << def.id + u'|' + root.path + u'|' + root.label;
   QCOMPARE(holders, QStringList{id + u'|' + path + u'|' + label});
 }
 
@@ -354,15 +354,16 @@ void tst_categories::linuxAppCachesLeaveOthersAlone() {
 }
 
 void tst_categories::linuxLeftAlone_data() {
+  QTest::addColumn<QString>("name");
   for (const char* name : {"keepassxc", "rclone",   "obexd",    "pypoetry", "evolution", "tracker3",   "ibus",
                            "fcitx",     "fcitx5",   "dconf",    "gvfs",     "gvfsd",     "containers", "JetBrains",
                            "sessions",  "zsh",      "bash",     "vim",      "nvim",      "emacs",      "onedriver",
                            "xournalpp", "inkscape", "audacity", "FreeCAD",  "duplicity", "borg",       "restic"})
-    QTest::newRow(name);
+    QTest::newRow(name) << QString::fromLatin1(name);
 }
 
 void tst_categories::linuxLeftAlone() {
-  const QString name = QString::fromLatin1(QTest::currentDataTag());
+  QFETCH(QString, name);
   QVERIFY(categories::holdsMoreThanCache(name));
   QVERIFY(!categories::holdsMoreThanCache(u"x"_s + name));
   m_home->folder(u".cache/"_s + name);
