@@ -75,8 +75,7 @@ CleanRun::CleanRun(Order order, const CleanerWorld& world, const std::atomic<boo
 CleanReport CleanRun::run() {
   for (const CategoryResult& result : m_order.results) m_totalBytes += result.bytes;
   std::optional<RunLock> lock;
-  if (!isDry()) lock.emplace(m_world.lockPath);
-  m_report.refusal = refusalFor(lock ? lock->state() : RunLock::State::Held);
+  m_report.refusal = refusal(&lock);
   if (m_report.refusal.isEmpty()) {
     openLog();
     for (const CategoryResult& result : m_order.results) {
@@ -92,14 +91,21 @@ CleanReport CleanRun::run() {
   return m_report;
 }
 
-QString CleanRun::refusalFor(RunLock::State lock) {
+QString CleanRun::refusal(std::optional<RunLock>* lock) const {
   const auto words = [](const char* text) { return QCoreApplication::translate("Cleaner", text); };
   if (!places::homeIsOwn())
     return words(QT_TRANSLATE_NOOP("Cleaner", "The home folder belongs to another user. Nothing was cleaned."));
-  if (lock == RunLock::State::Busy) return words(QT_TRANSLATE_NOOP("Cleaner", "Another cleanup is already running."));
-  if (lock == RunLock::State::Unavailable)
+  if (isDry()) return {};
+  lock->emplace(m_world.lockPath);
+  switch ((*lock)->state()) {
+  case RunLock::State::Held:
+    break;
+  case RunLock::State::Busy:
+    return words(QT_TRANSLATE_NOOP("Cleaner", "Another cleanup is already running."));
+  case RunLock::State::Unavailable:
     return words(
-        QT_TRANSLATE_NOOP("Cleaner", "It can't be told whether another cleanup is running. Nothing was cleaned."));
+        QT_TRANSLATE_NOOP("Cleaner", "There is no telling whether another cleanup is running. Nothing was cleaned."));
+  }
   return {};
 }
 
@@ -173,6 +179,7 @@ bool CleanRun::mayBegin(const CleanWork& work) {
 
 void CleanRun::remove(const CleanWork& work) {
   m_work = &work;
+  m_itemRefused = false;
   removal::Remover& remover = removerFor(work);
   const fs::Totals before = remover.wouldStay();
   const removal::Target target{.path = work.place.path, .realPath = work.place.realPath};
@@ -181,7 +188,9 @@ void CleanRun::remove(const CleanWork& work) {
   else
     remover.remove(target);
   const fs::Totals after = remover.wouldStay();
-  m_done.push_back({&work, {after.bytes - before.bytes, after.files - before.files, 0}});
+  m_done.push_back({&work, m_itemRefused
+                               ? fs::Totals{work.item->bytes, work.item->files, 0}
+                               : fs::Totals{after.bytes - before.bytes, after.files - before.files, 0}});
 }
 
 removal::Remover& CleanRun::removerFor(const CleanWork& work) {
@@ -204,6 +213,7 @@ void CleanRun::onKept(const removal::Node& node, removal::Kept kept) {
 }
 
 void CleanRun::onBusy(const removal::Stay& stay) {
+  if (stay.node.path.size() == m_work->place.path.size()) m_itemRefused = true;
   const Retry& retry = m_retries.emplace_back(Retry{.stay = stay, .work = m_work});
   m_log.busy(stay.node, retry.error);
 }
@@ -251,15 +261,24 @@ void CleanRun::measure() {
 
 void CleanRun::measureItem(const Done& done) {
   const CleanItem& item = *done.work->item;
-  const QString& realPath = done.work->place.realPath;
-  const bool isGone = !isDry() && !item.wholeRoot && !fs::exists(realPath);
-  const fs::Totals left = isDry() ? done.wouldStay : isGone ? fs::Totals() : fs::measure(realPath, kNever);
+  const fs::Totals left = isDry() ? done.wouldStay : measureLeft(*done.work);
   const qint64 freed = std::max<qint64>(0, item.bytes - left.bytes);
   m_report.freedBytes += freed;
   m_report.removedFiles += std::max<qint64>(0, item.files - left.files);
   m_log.removed(done.work->toTrash, item.path, freed);
-  if (isGone && done.work->def->id == u"trash")
-    trash::forget(realPath.section(u'/', 0, -2), names::encode(realPath.section(u'/', -1)));
+}
+
+/// What an item holds now. All of it where that can't be told, so that nothing counts as freed that may have stayed.
+fs::Totals CleanRun::measureLeft(const CleanWork& work) {
+  const CleanItem& item = *work.item;
+  const QString& path = work.place.realPath;
+  if (!item.wholeRoot && !fs::exists(path)) {
+    if (work.def->id == u"trash") trash::forget(path.section(u'/', 0, -2), names::encode(path.section(u'/', -1)));
+    return {};
+  }
+  fs::Entry entry;
+  const bool isKnown = fs::stat(path, &entry) ? !entry.isDir || fs::isReadable(path) : !fs::exists(path);
+  return isKnown ? fs::measure(path, kNever) : fs::Totals{item.bytes, item.files, 0};
 }
 
 void CleanRun::end() {

@@ -44,7 +44,8 @@ class CleanRun {
   };
 
   [[nodiscard]] bool isDry() const { return m_order.kind == Cleaner::Run::Dry; }
-  [[nodiscard]] static QString refusalFor(RunLock::State lock);
+  /// Why the run must not begin, in words; takes the lock that a run needs.
+  [[nodiscard]] QString refusal(std::optional<RunLock>* lock) const;
   void openLog();
   void cleanCategory(const CategoryResult& result);
   void emptyRecycleBin(const CategoryResult& result);
@@ -55,6 +56,7 @@ class CleanRun {
   void retryRound();
   void measure();
   void measureItem(const Done& done);
+  [[nodiscard]] static fs::Totals measureLeft(const CleanWork& work);
   void end();
 
   [[nodiscard]] removal::Remover& removerFor(const CleanWork& work);
@@ -74,6 +76,7 @@ class CleanRun {
   std::optional<removal::Remover> m_deleter;
   std::deque<CleanWork> m_works;     ///< stays where it is: retries and the measuring pass point into it
   const CleanWork* m_work = nullptr; ///< in hand
+  bool m_itemRefused = false;        ///< the item in hand itself, as a whole
   std::vector<Retry> m_retries;
   std::vector<Done> m_done;
   qint64 m_doneBytes = 0;
