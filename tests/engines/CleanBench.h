@@ -84,7 +84,9 @@ class CleanBench {
   void wait(Cleaner* cleaner) {
     QTRY_VERIFY_WITH_TIMEOUT(finishedCount > 0 && !cleaner->isRunning(), 60000);
     QFile file(report.logPath);
-    log = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).split(QLatin1Char('\n')) : QStringList();
+    log = !report.logPath.isEmpty() && file.open(QIODevice::ReadOnly)
+              ? QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'))
+              : QStringList();
   }
   void run(const QList<CategoryResult>& results, bool moveToTrash = false, const QStringList& exclusions = {},
            Cleaner::Run kind = Cleaner::Run::ForReal) {

@@ -112,7 +112,7 @@ void tst_CleanLog::head() {
 
 void tst_CleanLog::everyKindOfLine() {
   CleanLog log;
-  log.head(QDateTime(QDate(2024, 5, 6), QTime(7, 8, 9)), false, 1500000);
+  log.head(QDateTime(QDate(2024, 5, 6), QTime(7, 8, 9)), false, 1500000000);
   log.category(u"App caches"_s, 999);
   log.excluded(u"/a/b"_s);
   log.running(u"/a/b"_s, u"Firefox"_s);
@@ -128,7 +128,7 @@ void tst_CleanLog::everyKindOfLine() {
   QCOMPARE(log.text().split(u'\n'), (QStringList{
                                         u"Tarnwick cleanup 2024-05-06T07:08:09"_s,
                                         u"Mode: delete permanently"_s,
-                                        u"Selected: 1.5 MB"_s,
+                                        u"Selected: 1.5 GB"_s,
                                         QString(),
                                         u"== App caches (1 KB)"_s,
                                         u"EXCLUDED /a/b"_s,
@@ -140,7 +140,7 @@ void tst_CleanLog::everyKindOfLine() {
                                         QString(),
                                         u"TRASHED  /a/b  4 KB"_s,
                                         u"DELETED  /a/b  0 KB"_s,
-                                        u"Freed 1.23 GB, removed 1234567 files, skipped 1000."_s,
+                                        u"Freed 1.2 GB, removed 1234567 files, skipped 1000."_s,
                                         QString(),
                                     }));
 }

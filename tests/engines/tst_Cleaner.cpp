@@ -1,15 +1,11 @@
-// The course of a clean: order, counts, retries, measuring, how it ends early, and when it isn't begun.
+// The course of a clean: what goes, what is counted and told, and what a dry run tells of it.
 #include "app/records.h"
-#include "core/fmt.h"
 #include "core/runlock.h"
 #include "engines/CleanBench.h"
 #include "engines/ScanRun.h"
 #include "engines/Scanner.h"
-#include "engines/Unprivileged.h"
 
 #include <QDir>
-#include <QSemaphore>
-#include <QStandardPaths>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -45,24 +41,9 @@ class tst_Cleaner : public QObject {
   void namesThatAreNoTextGoByTheirBytes();
   void whatStaysIsNotFreed();
   void samplesStopAtFive();
-  void retriesAfterGrowingWaits();
-  void retrySucceedsAndPrunes();
-  void retryThatFindsItGone();
-  void retryAsksAgain();
-  void unreachableIsNotGone();
-  void needsAdmin_data();
-  void needsAdmin();
   void recycleBin_data();
   void recycleBin();
   void progressCountsEverything();
-  void stopFinishesTheItem();
-  void stopEndsTheRetries();
-  void destructionEndsTheRun();
-  void secondStartChangesNothing();
-  void refusedWhileAnotherRuns();
-  void refusedWithoutALock();
-  void refusedInAForeignHome();
-  void lockIsFreeAfterwards();
   void dryRunTouchesNothing();
   void dryRunTellsWhatStays_data();
   void dryRunTellsWhatStays();
@@ -72,16 +53,6 @@ class tst_Cleaner : public QObject {
   void emptyOrder();
 
  private:
-  /// A file whose folder doesn't let it go. For a user without privileges.
-  QString stuckFile(const QString& folder) {
-    const QString path = m_bench->home.file(folder + "/stuck"_L1);
-    m_stuckFolder = QFile::encodeName(m_bench->home.path(folder));
-    return path;
-  }
-  void stick() const { QCOMPARE(::chmod(m_stuckFolder.constData(), 0500), 0); }
-  void unstick() const { ::chmod(m_stuckFolder.constData(), 0700); }
-
-  QByteArray m_stuckFolder;
   std::unique_ptr<CleanBench> m_bench;
 };
 
@@ -244,122 +215,6 @@ void tst_Cleaner::samplesStopAtFive() {
   QCOMPARE(m_bench->lines("SKIPPED").size(), 7);
 }
 
-void tst_Cleaner::retriesAfterGrowingWaits() {
-  const QString stuck = stuckFile(u"a/folder"_s);
-  const QString other = m_bench->home.file(u"b/other"_s);
-  const Unprivileged user(m_bench->home);
-  stick();
-  m_bench->run({CleanBench::category(u"x"_s, {CleanBench::item(stuck)}),
-                CleanBench::category(u"y"_s, {CleanBench::item(other)})});
-  unstick();
-  QCOMPARE(m_bench->waits, (QList<int>{500, 1000, 1500}));
-  QVERIFY(CleanBench::isThere(stuck));
-  QCOMPARE(m_bench->report.skipped, 1);
-  QCOMPARE(m_bench->report.skippedSamples, QStringList{stuck});
-  QCOMPARE(m_bench->report.freedBytes, 4096); // the other one's
-  QCOMPARE(m_bench->report.cleanedIds, (QStringList{u"x"_s, u"y"_s}));
-  // The failed attempt stands in its category, what became of it after the last one.
-  QCOMPARE(m_bench->log.mid(4), (QStringList{
-                                    u"== X (4 KB)"_s,
-                                    u"BUSY     %1  (error 0, will retry)"_s.arg(stuck),
-                                    u"== Y (4 KB)"_s,
-                                    u"SKIPPED  %1  (in use or access denied)"_s.arg(stuck),
-                                    QString(),
-                                    u"DELETED  %1  0 KB"_s.arg(stuck),
-                                    u"DELETED  %1  4 KB"_s.arg(other),
-                                    u"Freed 4 KB, removed 1 files, skipped 1."_s,
-                                    QString(),
-                                }));
-}
-
-void tst_Cleaner::retrySucceedsAndPrunes() {
-  const QString stuck = stuckFile(u"a/root/sub/deep"_s);
-  const QString root = m_bench->home.path(u"a/root"_s);
-  const Unprivileged user(m_bench->home);
-  stick();
-  m_bench->whileWaiting = [this] {
-    if (m_bench->waits.size() == 2) unstick();
-  };
-  m_bench->run({CleanBench::category(u"x"_s, {CleanBench::item(root, true)})});
-  unstick();
-  QCOMPARE(m_bench->waits, (QList<int>{500, 1000}));
-  QVERIFY(!CleanBench::isThere(m_bench->home.path(u"a/root/sub"_s)));
-  QVERIFY(CleanBench::isThere(root));
-  QCOMPARE(m_bench->report.skipped, 0);
-  QCOMPARE(m_bench->report.freedBytes, 4096);
-  QCOMPARE(m_bench->lines("BUSY").size(), 1);
-  QCOMPARE(m_bench->lines("SKIPPED"), QStringList());
-}
-
-void tst_Cleaner::retryThatFindsItGone() {
-  const QString stuck = stuckFile(u"a/folder"_s);
-  const Unprivileged user(m_bench->home);
-  stick();
-  m_bench->whileWaiting = [this, stuck] {
-    unstick();
-    QFile::remove(stuck);
-  };
-  m_bench->run({CleanBench::category(u"x"_s, {CleanBench::item(m_bench->home.path(u"a/folder"_s))})});
-  QCOMPARE(m_bench->waits, QList<int>{500});
-  QCOMPARE(m_bench->report.skipped, 0);
-  QVERIFY(!CleanBench::isThere(m_bench->home.path(u"a/folder"_s)));
-  QVERIFY(CleanBench::isThere(m_bench->home.path(u"a"_s)));
-}
-
-// What became old business meanwhile is asked anew: here the file was swapped for a link into a protected folder.
-void tst_Cleaner::retryAsksAgain() {
-  const QString stuck = stuckFile(u"a/folder"_s);
-  const QString precious = m_bench->home.file(u"precious/stuck"_s);
-  const Unprivileged user(m_bench->home);
-  stick();
-  m_bench->whileWaiting = [this] {
-    unstick();
-    QDir().rename(m_bench->home.path(u"a/folder"_s), m_bench->home.path(u"a/was"_s));
-    m_bench->home.link(u"a/folder"_s, m_bench->home.path(u"precious"_s));
-  };
-  m_bench->run({CleanBench::category(u"x"_s, {CleanBench::item(stuck)})});
-  m_stuckFolder = QFile::encodeName(m_bench->home.path(u"a/was"_s));
-  unstick();
-  QVERIFY(CleanBench::isThere(precious));
-  QVERIFY(CleanBench::isThere(m_bench->home.path(u"a/was/stuck"_s)));
-}
-
-// Only "no such file" means gone: what can't be looked at stayed, and isn't freed.
-void tst_Cleaner::unreachableIsNotGone() {
-  const QString stuck = stuckFile(u"a/folder"_s);
-  const Unprivileged user(m_bench->home);
-  const CleanItem item = CleanBench::item(stuck);
-  QCOMPARE(::chmod(m_stuckFolder.constData(), 0), 0);
-  m_bench->run({CleanBench::category(u"x"_s, {item})});
-  unstick();
-  QVERIFY(CleanBench::isThere(stuck));
-  QCOMPARE(m_bench->lines("BUSY").size(), 1);
-  QCOMPARE(m_bench->lines("SKIPPED"), QStringList{u"SKIPPED  %1  (in use or access denied)"_s.arg(stuck)});
-  QCOMPARE(m_bench->report.freedBytes, 0);
-  QCOMPARE(m_bench->report.removedFiles, 0);
-}
-
-void tst_Cleaner::needsAdmin_data() {
-  QTest::addColumn<bool>("category");
-  QTest::addColumn<bool>("stays");
-  QTest::newRow("stays") << true << true;
-  QTest::newRow("goes") << true << false;
-  QTest::newRow("another category") << false << true;
-}
-
-void tst_Cleaner::needsAdmin() {
-  QFETCH(bool, category);
-  QFETCH(bool, stays);
-  const QString stuck = stuckFile(u"a/folder"_s);
-  const Unprivileged user(m_bench->home);
-  if (stays) stick();
-  CategoryResult result = CleanBench::category(u"x"_s, {CleanBench::item(stuck)});
-  result.def.needsAdmin = category;
-  m_bench->run({result});
-  unstick();
-  QCOMPARE(m_bench->report.needsAdmin, category && stays);
-}
-
 void tst_Cleaner::recycleBin_data() {
   QTest::addColumn<bool>("emptied");
   QTest::newRow("emptied") << true;
@@ -403,134 +258,6 @@ void tst_Cleaner::progressCountsEverything() {
   QCOMPARE((QStringList{told[0].path, told[1].path, told[2].path, told[3].path}),
            (QStringList{one.path, excluded.path, three.path, QString()}));
   for (const auto& step : told) QCOMPARE(step.total, 24576);
-}
-
-void tst_Cleaner::stopFinishesTheItem() {
-  const QString first = m_bench->home.file(u"a/first"_s);
-  const QString second = m_bench->home.folder(u"a/second"_s);
-  m_bench->home.file(u"a/second/one"_s);
-  m_bench->home.file(u"a/second/two"_s);
-  const QString third = m_bench->home.file(u"a/third"_s);
-  const QString fourth = m_bench->home.file(u"a/fourth"_s);
-  Cleaner cleaner(nullptr, m_bench->world);
-  m_bench->onProgress = [&](const QString& path) {
-    if (path == second) cleaner.stop();
-  };
-  m_bench->start(&cleaner, {CleanBench::category(u"x"_s, {CleanBench::item(first)}),
-                            CleanBench::category(u"y"_s, {CleanBench::item(second), CleanBench::item(third)}),
-                            CleanBench::category(u"z"_s, {CleanBench::item(fourth)})});
-  m_bench->wait(&cleaner);
-  QVERIFY(!CleanBench::isThere(first));
-  QVERIFY(!CleanBench::isThere(second));
-  QVERIFY(CleanBench::isThere(third));
-  QVERIFY(CleanBench::isThere(fourth));
-  QCOMPARE(m_bench->report.cleanedIds, QStringList{u"x"_s});
-  QCOMPARE(m_bench->report.freedBytes, 3 * 4096);
-  QCOMPARE(m_bench->report.removedFiles, 3);
-  QCOMPARE(m_bench->progress.last().done, m_bench->progress.last().total);
-  QCOMPARE(m_bench->lines("DELETED").size(), 2);
-  QCOMPARE(m_bench->lines("==").size(), 2);
-  QCOMPARE(m_bench->lines("Freed"), QStringList{u"Freed 12 KB, removed 3 files, skipped 0."_s});
-}
-
-// The measuring pass isn't cut short, so that nothing counts as freed that stayed.
-void tst_Cleaner::stopEndsTheRetries() {
-  const QString stuck = stuckFile(u"a/folder"_s);
-  const QString root = m_bench->home.path(u"a"_s);
-  const Unprivileged user(m_bench->home);
-  stick();
-  Cleaner cleaner(nullptr, m_bench->world);
-  m_bench->whileWaiting = [&] { cleaner.stop(); };
-  m_bench->start(&cleaner, {CleanBench::category(u"x"_s, {CleanBench::item(root, true)})});
-  m_bench->wait(&cleaner);
-  unstick();
-  QCOMPARE(m_bench->waits, QList<int>{500});
-  QCOMPARE(m_bench->lines("SKIPPED").size(), 1);
-  QCOMPARE(m_bench->report.cleanedIds, QStringList{u"x"_s});
-  QCOMPARE(m_bench->report.freedBytes, 0);
-  QVERIFY(CleanBench::isThere(stuck));
-}
-
-void tst_Cleaner::destructionEndsTheRun() {
-  const QString first = m_bench->home.file(u"a/first"_s);
-  const QString second = m_bench->home.file(u"a/second"_s);
-  auto cleaner = std::make_unique<Cleaner>(nullptr, m_bench->world);
-  QSemaphore begun;
-  QSemaphore goOn;
-  m_bench->onProgress = [&](const QString& path) {
-    if (path != first) return;
-    begun.release();
-    goOn.acquire();
-  };
-  m_bench->start(cleaner.get(), {CleanBench::category(u"x"_s, {CleanBench::item(first), CleanBench::item(second)})});
-  begun.acquire();
-  cleaner->stop();
-  goOn.release();
-  cleaner.reset();
-  QCOMPARE(m_bench->finishedCount, 1);
-  QVERIFY(!CleanBench::isThere(first));
-  QVERIFY(CleanBench::isThere(second));
-}
-
-void tst_Cleaner::secondStartChangesNothing() {
-  const QString first = m_bench->home.file(u"a/first"_s);
-  const QString second = m_bench->home.file(u"a/second"_s);
-  Cleaner cleaner(nullptr, m_bench->world);
-  QSemaphore begun;
-  QSemaphore goOn;
-  m_bench->onProgress = [&](const QString& path) {
-    if (path != first) return;
-    begun.release();
-    goOn.acquire();
-  };
-  m_bench->start(&cleaner, {CleanBench::category(u"x"_s, {CleanBench::item(first)})});
-  begun.acquire();
-  QVERIFY(cleaner.isRunning());
-  cleaner.start({CleanBench::category(u"x"_s, {CleanBench::item(second)})}, false, {});
-  goOn.release();
-  m_bench->wait(&cleaner);
-  QVERIFY(CleanBench::isThere(second));
-}
-
-void tst_Cleaner::refusedWhileAnotherRuns() {
-  const QString file = m_bench->home.file(u"a/file"_s);
-  const RunLock other(m_bench->world.lockPath);
-  m_bench->run({CleanBench::category(u"x"_s, {CleanBench::item(file)})});
-  QCOMPARE(m_bench->report.refusal, u"Another cleanup is already running."_s);
-  QVERIFY(CleanBench::isThere(file));
-  QCOMPARE(m_bench->report.logPath, QString());
-  QVERIFY(!CleanBench::isThere(Cleaner::logDir()));
-  QCOMPARE(m_bench->report.cleanedIds, QStringList());
-  QCOMPARE(m_bench->finishedCount, 1);
-  QCOMPARE(m_bench->progress.size(), 1);
-  QCOMPARE(m_bench->progress.last().done, m_bench->progress.last().total);
-}
-
-void tst_Cleaner::refusedWithoutALock() {
-  const QString file = m_bench->home.file(u"a/file"_s);
-  m_bench->world.lockPath = m_bench->home.outside(u"no/such/folder/lock"_s);
-  m_bench->run({CleanBench::category(u"x"_s, {CleanBench::item(file)})});
-  QCOMPARE(m_bench->report.refusal, u"There is no telling whether another cleanup is running. Nothing was cleaned."_s);
-  QVERIFY(CleanBench::isThere(file));
-}
-
-void tst_Cleaner::refusedInAForeignHome() {
-  if (::geteuid() != 0) QSKIP("only root can give a folder away");
-  const QString file = m_bench->home.file(u"a/file"_s);
-  QCOMPARE(::chown(QFile::encodeName(m_bench->home.path()).constData(), 65534, 65534), 0);
-  for (const auto kind : {Cleaner::Run::ForReal, Cleaner::Run::Dry}) {
-    m_bench->run({CleanBench::category(u"x"_s, {CleanBench::item(file)})}, false, {}, kind);
-    QCOMPARE(m_bench->report.refusal, u"The home folder belongs to another user. Nothing was cleaned."_s);
-    QVERIFY(CleanBench::isThere(file));
-    QVERIFY(!CleanBench::isThere(m_bench->world.lockPath));
-    QCOMPARE(m_bench->finishedCount, 1);
-  }
-}
-
-void tst_Cleaner::lockIsFreeAfterwards() {
-  m_bench->run({});
-  QCOMPARE(m_bench->report.refusal, QString());
-  QCOMPARE(RunLock(m_bench->world.lockPath).state(), RunLock::State::Held);
 }
 
 void tst_Cleaner::dryRunTouchesNothing() {
