@@ -156,7 +156,7 @@ void CleanRun::cleanItem(const CategoryResult& result, const CleanItem& item) {
   // What can't be undone is said to be deleted, whatever the setting: emptying the Trash into the Trash frees nothing.
   const bool toTrash = m_order.moveToTrash && result.def.safety != Permanent;
   const CleanWork& work = m_works.emplace_back(workFor(item, result.def, toTrash));
-  if (mayBegin(work)) remove(work);
+  if (mayBegin(work)) carryOut(work);
 }
 
 bool CleanRun::mayBegin(const CleanWork& work) {
@@ -177,7 +177,7 @@ bool CleanRun::mayBegin(const CleanWork& work) {
   return false;
 }
 
-void CleanRun::remove(const CleanWork& work) {
+void CleanRun::carryOut(const CleanWork& work) {
   m_work = &work;
   m_itemRefused = false;
   removal::Remover& remover = removerFor(work);

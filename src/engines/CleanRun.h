@@ -51,7 +51,7 @@ class CleanRun {
   void emptyRecycleBin(const CategoryResult& result);
   void cleanItem(const CategoryResult& result, const CleanItem& item);
   [[nodiscard]] bool mayBegin(const CleanWork& work);
-  void remove(const CleanWork& work);
+  void carryOut(const CleanWork& work);
   void retry();
   void retryRound();
   void measure();
