@@ -1,5 +1,8 @@
 // The application's style sheet: what the stock widgets look like. A template with tokens, and what they stand for in
 // the look in force.
+//
+// The selectors go by the properties role, kind and size. Every QWidget has a size already, a QSize that takes no text:
+// a class that is to be found by [size="lg"] declares a property of that name over it.
 
 #include "ui/Theme.h"
 

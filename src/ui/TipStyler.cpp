@@ -2,6 +2,7 @@
 
 #include "ui/Theme.h"
 #include "ui/paint.h"
+#include "ui/popup.h"
 
 #include <QCursor>
 #include <QEvent>
@@ -44,6 +45,11 @@ void dropOwnMargin(QLabel* tip) {
   tip->resize(tip->sizeHint() + QSize(1, 0));
 }
 
+void prepare(QLabel* tip) {
+  dropOwnMargin(tip);
+  ui::trimWithoutCompositor(tip, bubble(tip), kRadius);
+}
+
 // Puts the bubble, not its transparent margin, where Qt meant the tip to be.
 void place(QLabel* tip) {
   if (tip->property(kPlaced).toPoint() == tip->pos() && tip->property(kPlaced).isValid()) return;
@@ -59,6 +65,7 @@ void paintBubble(QLabel* tip) {
   const Theme& theme = Theme::get();
   const QRectF body = bubble(tip);
   QPainter painter(tip);
+  if (!tip->mask().isEmpty()) painter.fillRect(body, theme.surface);
   painter.setRenderHint(QPainter::Antialiasing);
   ui::paint::shadow(&painter, body,
                     {.layers = kShadowMargin,
@@ -77,7 +84,7 @@ bool TipStyler::eventFilter(QObject* watched, QEvent* event) {
     if (QLabel* tip = asTip(watched)) makeTranslucent(tip);
     break;
   case QEvent::Show:
-    if (QLabel* tip = asTip(watched)) dropOwnMargin(tip);
+    if (QLabel* tip = asTip(watched)) prepare(tip);
     break;
   case QEvent::Move:
     if (QLabel* tip = asTip(watched)) place(tip);

@@ -192,7 +192,6 @@ void installAccessibility() {
 }
 
 void accessibleValueChanged(QWidget* widget) {
-  if (!QAccessible::isActive()) return;
   const auto* value = dynamic_cast<AccessibleValue*>(widget);
   if (!value) return;
   const double fraction = value->valueFraction();
@@ -201,7 +200,6 @@ void accessibleValueChanged(QWidget* widget) {
 }
 
 void accessibleItemsChanged(QWidget* widget, int current) {
-  if (!QAccessible::isActive()) return;
   const auto* parts = dynamic_cast<ItemsInterface*>(QAccessible::queryAccessibleInterface(widget));
   if (!parts) return;
   parts->shrink(parts->childCount());

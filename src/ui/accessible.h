@@ -54,9 +54,9 @@ class AccessibleItems {
 /// Makes the interfaces known to Qt. Once, when the first control is made or the program starts; more calls do nothing.
 void installAccessibility();
 
-/// Tells assistive tools that the value of @p widget has changed; nothing if nobody listens.
+/// Tells assistive tools, if there are any, that the value of @p widget has changed.
 void accessibleValueChanged(QWidget* widget);
-/// Tells assistive tools that the parts of @p widget, or their states, have changed; nothing if nobody listens.
+/// Tells assistive tools, if there are any, that the parts of @p widget, or their states, have changed.
 /// @param current  the part that the change is about and that the keyboard works now; -1 for none
 void accessibleItemsChanged(QWidget* widget, int current);
 

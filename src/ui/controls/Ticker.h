@@ -18,7 +18,7 @@ class Ticker : public QObject {
   /// What a beat is for: sweeps and orbits stand still when the desktop asks for reduced motion, values still move.
   enum class Motion { Decorative, Value };
 
-  /// @param tick  called on every beat, on the user-interface thread
+  /// @param tick  called on every beat, on the user-interface thread; it may delete its widget later, but not at once
   Ticker(QWidget* widget, std::function<void()> tick, Motion motion = Motion::Decorative);
 
   /// Wants beats from now on, or no more. Beats come only while the widget is visible.

@@ -1,0 +1,150 @@
+#include "ui/paint.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QTest>
+
+using namespace ui::paint;
+
+namespace {
+
+template <typename Paint>
+QImage painted(const QSize& size, Paint&& paint) {
+  QImage image(size, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  paint(&painter);
+  return image;
+}
+
+} // namespace
+
+class TestPaint : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void alphaIsReplaced();
+  void hairlineIsHalfAPixelInside();
+  void pens();
+  void hairlineBorderIsCrisp();
+  void roundedRectWithoutOutline();
+  void shadowLayers_data();
+  void shadowLayers();
+  void shadowPaintsNothingWithoutLayers();
+  void arcs_data();
+  void arcs();
+  void arcIsDrawnClockwiseFromTheTop();
+};
+
+void TestPaint::alphaIsReplaced() {
+  QCOMPARE(withAlpha(QColor(1, 2, 3, 200), 40), QColor(1, 2, 3, 40));
+  QCOMPARE(withAlpha(QColor(1, 2, 3), 0), QColor(1, 2, 3, 0));
+  QCOMPARE(withAlphaF(QColor(1, 2, 3, 200), 0.5).alpha(), 128);
+  QCOMPARE(withAlphaF(QColor(1, 2, 3), 1).rgba(), QColor(1, 2, 3).rgba());
+}
+
+void TestPaint::hairlineIsHalfAPixelInside() { QCOMPARE(hairline(QRectF(10, 20, 30, 40)), QRectF(10.5, 20.5, 29, 39)); }
+
+void TestPaint::pens() {
+  const QPen plain = pen(Qt::red);
+  QCOMPARE(plain.widthF(), 1.0);
+  QCOMPARE(plain.style(), Qt::SolidLine);
+  QCOMPARE(plain.capStyle(), Qt::SquareCap);
+  QCOMPARE(plain.joinStyle(), Qt::BevelJoin);
+  QCOMPARE(plain.color(), QColor(Qt::red));
+  const QPen round = roundPen(Qt::red, 2.5);
+  QCOMPARE(round.widthF(), 2.5);
+  QCOMPARE(round.capStyle(), Qt::RoundCap);
+  QCOMPARE(round.joinStyle(), Qt::RoundJoin);
+}
+
+void TestPaint::hairlineBorderIsCrisp() {
+  const QImage image = painted({20, 20}, [](QPainter* painter) {
+    roundedRect(painter, hairline(QRectF(0, 0, 20, 20)), 4, Qt::white, pen(Qt::red));
+  });
+  QCOMPARE(image.pixelColor(10, 0), QColor(Qt::red));
+  QCOMPARE(image.pixelColor(10, 1), QColor(Qt::white));
+  QCOMPARE(image.pixelColor(19, 10), QColor(Qt::red));
+  QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
+}
+
+void TestPaint::roundedRectWithoutOutline() {
+  const QImage image =
+      painted({20, 20}, [](QPainter* painter) { roundedRect(painter, QRectF(2, 2, 16, 16), 4, Qt::blue); });
+  QCOMPARE(image.pixelColor(2, 10), QColor(Qt::blue));
+  QCOMPARE(image.pixelColor(1, 10).alpha(), 0);
+}
+
+// The tool tip's and the popup's: 8 layers of 40 or 18 two pixels down, 14 layers of 46 or 26 four pixels down.
+void TestPaint::shadowLayers_data() {
+  QTest::addColumn<int>("layers");
+  QTest::addColumn<int>("peak");
+  QTest::addColumn<int>("offset");
+  QTest::newRow("tip, dark") << 8 << 40 << 2;
+  QTest::newRow("tip, light") << 8 << 18 << 2;
+  QTest::newRow("popup, dark") << 14 << 46 << 4;
+  QTest::newRow("popup, light") << 14 << 26 << 4;
+}
+
+void TestPaint::shadowLayers() {
+  QFETCH(int, layers);
+  QFETCH(int, peak);
+  QFETCH(int, offset);
+  const QRectF body(30, 30, 60, 60);
+  const Shadow options{.layers = layers, .offsetY = double(offset), .radius = 8, .colour = Qt::black, .peak = peak};
+  const QImage image = painted({120, 130}, [&](QPainter* painter) { shadow(painter, body, options); });
+  // From the middle of the lower edge down, a pixel is under all layers that grow beyond it.
+  for (int below = 0; below < layers + offset + 3; ++below) {
+    double clear = 1;
+    for (int k = 1; k <= layers; ++k) {
+      const double fade = 1 - double(k) / layers;
+      if (offset + k > below) clear *= 1 - int(peak * fade * fade) / 255.0;
+    }
+    const int wanted = qRound((1 - clear) * 255);
+    const int is = image.pixelColor(60, 90 + below).alpha();
+    QVERIFY2(qAbs(is - wanted) <= 2, qPrintable(QStringLiteral("%1 below: %2, not %3").arg(below).arg(is).arg(wanted)));
+  }
+}
+
+void TestPaint::shadowPaintsNothingWithoutLayers() {
+  const QImage image =
+      painted({40, 40}, [](QPainter* painter) { shadow(painter, QRectF(10, 10, 20, 20), {.layers = 0, .peak = 200}); });
+  QCOMPARE(image.pixelColor(20, 20).alpha(), 0);
+}
+
+void TestPaint::arcs_data() {
+  QTest::addColumn<double>("start");
+  QTest::addColumn<double>("span");
+  QTest::addColumn<int>("startAngle");
+  QTest::addColumn<int>("spanAngle");
+  QTest::newRow("whole turn") << 0.0 << 1.0 << 1440 << -5760;
+  QTest::newRow("first quarter") << 0.0 << 0.25 << 1440 << -1440;
+  QTest::newRow("from 3 o'clock") << 0.25 << 0.5 << 0 << -2880;
+  QTest::newRow("from 9 o'clock") << 0.75 << 0.25 << -2880 << -1440;
+  QTest::newRow("nothing") << 0.5 << 0.0 << -1440 << 0;
+  QTest::newRow("truncated, not rounded") << 0.00017 << 0.00017 << 1439 << 0;
+}
+
+void TestPaint::arcs() {
+  QFETCH(double, start);
+  QFETCH(double, span);
+  const ArcAngles angles = arcInTurns(start, span);
+  QTEST(angles.start, "startAngle");
+  QTEST(angles.span, "spanAngle");
+}
+
+void TestPaint::arcIsDrawnClockwiseFromTheTop() {
+  const QImage image = painted({100, 100}, [](QPainter* painter) {
+    painter->setPen(QPen(Qt::black, 6));
+    const ArcAngles quarter = arcInTurns(0, 0.25);
+    painter->drawArc(QRectF(10, 10, 80, 80), quarter.start, quarter.span);
+  });
+  QVERIFY(image.pixelColor(78, 22).alpha() > 200); // half past one
+  QCOMPARE(image.pixelColor(22, 22).alpha(), 0);
+  QCOMPARE(image.pixelColor(78, 78).alpha(), 0);
+}
+
+QTEST_APPLESS_MAIN(TestPaint)
+
+#include "tst_paint.moc"
