@@ -84,6 +84,12 @@ class Contents(unittest.TestCase):
         for entry in (trash / "files").iterdir():
             self.assertTrue((trash / "info" / (entry.name + ".trashinfo")).read_text().startswith("[Trash Info]\nPath="))
 
+    def test_its_settings_keep_a_clean_inside(self):
+        for home in self.homes.values():
+            settings = (pathlib.Path(home.env["XDG_CONFIG_HOME"]) / "Tarnwick/Tarnwick.conf").read_text()
+            for rule in ("**/.git", "/var/crash", f"/**/.Trash-{os.getuid()}"):
+                self.assertIn(rule, settings)
+
     def test_the_size_is_bearable(self):
         for files in self.files.values():
             self.assertTrue(100e6 < sum(s.st_blocks * 512 for s in files.values()) < 300e6)
