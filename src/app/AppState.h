@@ -106,6 +106,9 @@ class AppState : public QObject {
   /// What a clean gets: the ticked categories that hold something, less the unticked items, in the order of results.
   [[nodiscard]] QList<CategoryResult> selectedResults() const;
   [[nodiscard]] qint64 selectedBytes() const;
+  /// What of it a clean to the Trash leaves where it is, because no Trash can be made on its volume. Categories that
+  /// are always deleted don't count. Reads the disk, once a folder.
+  [[nodiscard]] qint64 selectedBytesWithoutTrash() const;
   [[nodiscard]] bool selectionNeedsAdmin() const;
   [[nodiscard]] bool selectionNeedsFullDiskAccess() const;
 

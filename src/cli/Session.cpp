@@ -1,0 +1,76 @@
+#include "cli/Session.h"
+
+#include "cli/output.h"
+#include "cli/terminal.h"
+#include "cli/words.h"
+
+#include <QEventLoop>
+#include <QSocketNotifier>
+
+#include <array>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace cli {
+namespace {
+
+/// Takes what standard input has to give into @p line. False at its end.
+bool readInput(QByteArray* line) {
+  std::array<char, 256> bytes{};
+  const ssize_t count = ::read(terminal::kInput, bytes.data(), bytes.size());
+  if (count > 0) line->append(bytes.data(), count);
+  return count > 0;
+}
+
+bool meansYes(const QByteArray& line) {
+  const QByteArray word = line.trimmed().toLower();
+  return word == "y" || word == "yes";
+}
+
+} // namespace
+
+qint64 Session::scan(const RunOptions& options) {
+  m_state.startScan(options);
+  waitWhile(AppState::Scanning, Words::tr("cancelling…"), &AppState::cancelScan);
+  return m_state.scanTimer.elapsed();
+}
+
+void Session::clean(const RunOptions& options) {
+  m_state.clean(options);
+  waitWhile(AppState::Cleaning, Words::tr("finishing this item, then stopping…"), &AppState::stopClean);
+}
+
+void Session::waitWhile(AppState::Phase phase, const QString& noteOfStopping, void (AppState::*stop)()) {
+  if (m_state.phase != phase) return;
+  QEventLoop loop;
+  connect(&m_state, &AppState::phaseChanged, &loop, &QEventLoop::quit);
+  connect(&m_interrupts, &Interrupts::interrupted, &loop, [&] {
+    m_progress.setNote(noteOfStopping);
+    (m_state.*stop)();
+  });
+  m_progress.show();
+  loop.exec();
+  m_progress.hide();
+}
+
+Session::Answer Session::ask(const QString& question, int fd) {
+  Output out(fd);
+  out.write(question + u' ');
+  QByteArray line;
+  QEventLoop loop;
+  QSocketNotifier input(terminal::kInput, QSocketNotifier::Read);
+  connect(&input, &QSocketNotifier::activated, &loop, [&] {
+    if (!readInput(&line) || line.contains('\n')) loop.quit();
+  });
+  connect(&m_interrupts, &Interrupts::interrupted, &loop, [&] {
+    line.clear();
+    loop.quit();
+  });
+  if (!interrupted()) loop.exec();
+  if (!line.contains('\n')) out.write(u"\n"_s);
+  return meansYes(line) && line.contains('\n') ? Answer::Yes : Answer::No;
+}
+
+} // namespace cli

@@ -1,0 +1,39 @@
+/// A scan and a clean as steps that one waits for, with progress and with Ctrl-C.
+#pragma once
+
+#include "app/AppState.h"
+#include "cli/Interrupts.h"
+#include "cli/Progress.h"
+
+namespace cli {
+
+class Session : public QObject {
+  Q_OBJECT
+
+ public:
+  enum class Answer { Yes, No };
+
+  Session() = default;
+
+  /// Returns when the scan is over; Ctrl-C cancels it.
+  /// @return how long it took, in ms
+  qint64 scan(const RunOptions& options);
+  /// Cleans what is selected, and returns when the report is there. Ctrl-C lets it finish its item.
+  void clean(const RunOptions& options);
+  /// Shows @p question on the terminal at @p fd and waits for a line of standard input. Only "y" and "yes" are a yes;
+  /// Ctrl-C and the end of the input are a no.
+  [[nodiscard]] Answer ask(const QString& question, int fd);
+
+  /// Whether the user has asked to stop.
+  [[nodiscard]] bool interrupted() const { return m_interrupts.raised(); }
+  [[nodiscard]] AppState& state() { return m_state; }
+
+ private:
+  void waitWhile(AppState::Phase phase, const QString& noteOfStopping, void (AppState::*stop)());
+
+  AppState m_state;
+  Interrupts m_interrupts;
+  Progress m_progress{m_state};
+};
+
+} // namespace cli

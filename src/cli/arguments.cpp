@@ -1,0 +1,200 @@
+#include "cli/arguments.h"
+
+#include "app/identity.h"
+#include "cli/words.h"
+#include "core/names.h"
+
+#include <QCommandLineParser>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace cli {
+namespace {
+
+struct VerbRow {
+  Verb verb;
+  const char* name;
+  const char* usage;
+  const char* summary;
+};
+
+constexpr std::array kVerbs = {
+    VerbRow{Verb::Scan, "scan", "scan [--only ID[,ID]] [--exclude RULE] [--json]",
+            QT_TRANSLATE_NOOP("Cli", "Measures what could be cleaned, and changes nothing.")},
+    VerbRow{Verb::Clean, "clean",
+            "clean [--only ID[,ID]] [--exclude RULE] [--delete|--trash] [--dry-run] [--yes] [--json]",
+            QT_TRANSLATE_NOOP("Cli", "Scans, shows what would go, asks, and cleans it.")},
+};
+
+enum Takers { kScan = 1, kClean = 2, kBoth = kScan | kClean };
+
+struct OptionRow {
+  const char* name;
+  const char* value; ///< null: the option takes none
+  int takers;
+  const char* text;
+};
+
+constexpr std::array kOptions = {
+    OptionRow{"only", "ID[,ID]", kBoth,
+              QT_TRANSLATE_NOOP("Cli", "look only at these categories; a clean then takes all of them, also those that "
+                                       "are never cleaned unasked")},
+    OptionRow{
+        "exclude", "RULE", kBoth,
+        QT_TRANSLATE_NOOP("Cli", "never touch what this rule names, beside the rules in the settings; repeatable")},
+    OptionRow{"delete", nullptr, kClean, QT_TRANSLATE_NOOP("Cli", "delete for good, whatever the settings say")},
+    OptionRow{"trash", nullptr, kClean, QT_TRANSLATE_NOOP("Cli", "move to the Trash, whatever the settings say")},
+    OptionRow{"dry-run", nullptr, kClean,
+              QT_TRANSLATE_NOOP("Cli", "touch nothing; list what would go and what would stay, and why")},
+    OptionRow{"yes", nullptr, kClean, QT_TRANSLATE_NOOP("Cli", "don't ask")},
+    OptionRow{"json", nullptr, kBoth, QT_TRANSLATE_NOOP("Cli", "one JSON object on standard output")},
+};
+
+constexpr qsizetype kHelpColumn = 20;
+constexpr qsizetype kHelpWidth = 78;
+const QString kProgram = u"tarnwick-cli"_s;
+
+int takerOf(Verb verb) { return verb == Verb::Scan ? kScan : kClean; }
+
+const VerbRow* findVerb(const QString& name) {
+  const auto found =
+      std::find_if(kVerbs.begin(), kVerbs.end(), [&](const VerbRow& row) { return name == QLatin1String(row.name); });
+  return found == kVerbs.end() ? nullptr : &*found;
+}
+
+/// A line of help: the left part, then the text from a common column on, broken between words.
+QString helpLine(const QString& left, const QString& text) {
+  QString line = (u"  "_s + left).leftJustified(kHelpColumn);
+  qsizetype column = line.size();
+  for (const QString& word : text.split(u' ')) {
+    if (column + 1 + word.size() > kHelpWidth) {
+      line += u'\n' + QString(kHelpColumn, u' ');
+      column = kHelpColumn;
+    }
+    line += u' ' + word;
+    column += 1 + word.size();
+  }
+  return line + u'\n';
+}
+
+QString commonHelp() {
+  return helpLine(u"-h, --help"_s, Words::tr("show this help")) +
+         helpLine(u"-v, --version"_s, Words::tr("show the version"));
+}
+
+QString generalHelp() {
+  QString text = Words::tr("Usage: %1").arg(kProgram + u" COMMAND [OPTIONS]\n\n"_s) + Words::tr("Commands:") + u'\n';
+  for (const VerbRow& row : kVerbs) text += helpLine(QLatin1String(row.name), Words::tr(row.summary));
+  text += u'\n' + Words::tr("Options:") + u'\n' + commonHelp() + u'\n';
+  return text + Words::tr("Say \"%1\" to learn about one.").arg(kProgram + u" COMMAND --help"_s) + u'\n';
+}
+
+QString helpOf(const VerbRow& verb, const QStringList& categoryIds) {
+  QString text = Words::tr("Usage: %1").arg(kProgram + u' ' + QLatin1String(verb.usage)) + u"\n\n"_s +
+                 Words::tr(verb.summary) + u"\n\n"_s + Words::tr("Options:") + u'\n';
+  for (const OptionRow& row : kOptions) {
+    if (!(row.takers & takerOf(verb.verb))) continue;
+    const QString value = row.value ? u' ' + QLatin1String(row.value) : QString();
+    text += helpLine(u"--"_s + QLatin1String(row.name) + value, Words::tr(row.text));
+  }
+  return text + commonHelp() + u'\n' + Words::tr("Categories: %1").arg(categoryIds.join(u", "_s)) + u'\n';
+}
+
+void addOptions(QCommandLineParser* parser) {
+  parser->addOption(QCommandLineOption(QStringList{u"h"_s, u"help"_s}));
+  parser->addOption(QCommandLineOption(QStringList{u"v"_s, u"version"_s}));
+  for (const OptionRow& row : kOptions) {
+    QCommandLineOption option(QLatin1String(row.name));
+    if (row.value) option.setValueName(QLatin1String(row.value));
+    parser->addOption(option);
+  }
+}
+
+QString quoted(const QString& text) { return u'\'' + names::escaped(text) + u'\''; }
+
+QString dashed(const QString& name) { return (name.size() == 1 ? u"-"_s : u"--"_s) + name; }
+
+/// Why the command line can't be read at all; empty if it can.
+QString misread(const QCommandLineParser& parser, bool understood) {
+  const QStringList unknown = parser.unknownOptionNames();
+  if (!unknown.isEmpty()) return Words::tr("there is no option %1").arg(quoted(dashed(unknown.first())));
+  return understood ? QString() : names::escaped(parser.errorText());
+}
+
+/// Why the words beside the options make no command; empty if they do, or if there are none.
+QString misworded(const QStringList& words) {
+  if (words.isEmpty()) return {};
+  if (!findVerb(words.first()))
+    return Words::tr("there is no command %1, only \"scan\" and \"clean\"").arg(quoted(words.first()));
+  if (words.size() > 1) return Words::tr("%1 is one word too many").arg(quoted(words.at(1)));
+  return {};
+}
+
+/// Why these options don't go with this verb, or with each other; empty if they do.
+QString mismatched(const QCommandLineParser& parser, const VerbRow& verb) {
+  for (const OptionRow& row : kOptions)
+    if (parser.isSet(QLatin1String(row.name)) && !(row.takers & takerOf(verb.verb)))
+      return Words::tr("\"%1\" takes no --%2").arg(QLatin1String(verb.name), QLatin1String(row.name));
+  if (parser.isSet(u"delete"_s) && parser.isSet(u"trash"_s))
+    return Words::tr("--delete and --trash exclude each other");
+  return {};
+}
+
+/// Reads the ids into @p only. An empty list would mean everything, so a variable that a script forgot is an error.
+QString readOnly(const QStringList& values, const QStringList& categoryIds, QStringList* only) {
+  for (const QString& value : values) {
+    for (const QString& part : value.split(u',')) {
+      const QString id = part.trimmed();
+      if (id.isEmpty()) return Words::tr("--only wants ids of categories: %1").arg(categoryIds.join(u", "_s));
+      if (!categoryIds.contains(id))
+        return Words::tr("there is no category %1, only %2").arg(quoted(id), categoryIds.join(u", "_s));
+      if (!only->contains(id)) *only << id;
+    }
+  }
+  return {};
+}
+
+QString readExclude(const QStringList& values, QStringList* exclude) {
+  for (const QString& value : values) {
+    if (value.trimmed().isEmpty()) return Words::tr("--exclude wants a rule");
+    *exclude << value;
+  }
+  return {};
+}
+
+Parsed readCommand(const QCommandLineParser& parser, const VerbRow& verb, const QStringList& categoryIds) {
+  Command command;
+  command.verb = verb.verb;
+  command.json = parser.isSet(u"json"_s);
+  command.dryRun = parser.isSet(u"dry-run"_s);
+  command.yes = parser.isSet(u"yes"_s);
+  if (parser.isSet(u"delete"_s)) command.moveToTrash = false;
+  if (parser.isSet(u"trash"_s)) command.moveToTrash = true;
+  QString error = mismatched(parser, verb);
+  if (error.isEmpty()) error = readOnly(parser.values(u"only"_s), categoryIds, &command.only);
+  if (error.isEmpty()) error = readExclude(parser.values(u"exclude"_s), &command.exclude);
+  if (!error.isEmpty()) return {Parsed::Outcome::Error, error, {}};
+  return {Parsed::Outcome::Run, {}, command};
+}
+
+} // namespace
+
+Parsed parse(const QStringList& arguments, const QStringList& categoryIds) {
+  QCommandLineParser parser;
+  addOptions(&parser);
+  const bool understood = parser.parse(arguments);
+  const QStringList words = parser.positionalArguments();
+  for (const QString& error : {misread(parser, understood), misworded(words)})
+    if (!error.isEmpty()) return {Parsed::Outcome::Error, error, {}};
+  const VerbRow* verb = words.isEmpty() ? nullptr : findVerb(words.first());
+  if (parser.isSet(u"help"_s)) return {Parsed::Outcome::Show, verb ? helpOf(*verb, categoryIds) : generalHelp(), {}};
+  if (parser.isSet(u"version"_s)) return {Parsed::Outcome::Show, kProgram + u' ' + identity::kVersion + u'\n', {}};
+  if (!verb) return {Parsed::Outcome::Usage, generalHelp(), {}};
+  return readCommand(parser, *verb, categoryIds);
+}
+
+} // namespace cli

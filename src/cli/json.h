@@ -1,0 +1,26 @@
+/// The two objects that scripts read. Their keys are a promise: none goes, none changes its meaning.
+#pragma once
+
+#include "app/records.h"
+
+#include <QString>
+
+namespace cli::json {
+
+struct Scan {
+  QList<CategoryResult> categories; ///< in catalogue order
+  bool cancelled = false;
+  qint64 elapsedMs = 0;
+};
+
+struct Clean {
+  CleanReport report;
+  bool dryRun = false;
+  bool toTrash = true;
+};
+
+/// One object on a line of its own.
+[[nodiscard]] QString text(const Scan& scan);
+[[nodiscard]] QString text(const Clean& clean);
+
+} // namespace cli::json
