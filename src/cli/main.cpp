@@ -44,8 +44,8 @@ int answer(const cli::Parsed& parsed, cli::Output* out) {
 } // namespace
 
 int main(int argc, char** argv) {
+  cli::prepareDescriptors();
   const auto application = makeApplication(argc, argv);
-  cli::ignoreBrokenPipes();
   identity::apply();
   records::registerMetaTypes();
   i18n::install(application.get());

@@ -6,13 +6,21 @@
 #include <csignal>
 #include <cstring>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace cli {
 
-void ignoreBrokenPipes() { std::signal(SIGPIPE, SIG_IGN); }
+void prepareDescriptors() {
+  std::signal(SIGPIPE, SIG_IGN);
+  for (const int fd : {terminal::kInput, terminal::kOutput, terminal::kErrors}) {
+    if (::fcntl(fd, F_GETFD) != -1) continue;
+    // The other way round, so that using it is still an error; the lowest free number is this one.
+    [[maybe_unused]] const int same = ::open("/dev/null", fd == terminal::kInput ? O_WRONLY : O_RDONLY);
+  }
+}
 
 void Output::write(const QString& text) {
   const QByteArray bytes = text.toUtf8();

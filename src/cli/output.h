@@ -5,8 +5,9 @@
 
 namespace cli {
 
-/// Makes a reader that went away an error of the write, instead of the end of the program.
-void ignoreBrokenPipes();
+/// Makes a reader that went away an error of the write instead of the end of the program, and keeps the numbers of the
+/// standard descriptors from files that are opened later, where the caller closed one. Before anything else.
+void prepareDescriptors();
 
 /// Writes to a descriptor, everything at once, and remembers what went wrong first.
 class Output {

@@ -1,0 +1,284 @@
+// ctest: RESOURCE_LOCK clean
+// The program on a terminal: the question, progress, colours, widths, and Ctrl-C.
+#include "support/CliRun.h"
+#include "support/Pty.h"
+#include "support/SampleHome.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray kCtrlC = "\x03";
+const QByteArray kCtrlD = "\x04";
+const QByteArray kQuestion = "[y/N]";
+
+QByteArray contents(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class tst_cli_terminal : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init();
+  void cleanup();
+
+  void asks_data();
+  void asks();
+  void questionsByMode_data();
+  void questionsByMode();
+  void ctrlCAtTheQuestion();
+  void hangUpAtTheQuestion();
+  void yesAsksNothing();
+  void dryRunAsksNothing();
+  void questionGoesWhereTheUserSees();
+  void jsonIsAskedAboutOnStandardError();
+  void nowhereToAsk();
+  void nobodyToAnswer();
+  void progressOfAScan();
+  void noProgressOffTheTerminal();
+  void progressAndCtrlC();
+  void colours_data();
+  void colours();
+  void widths_data();
+  void widths();
+
+ private:
+  [[nodiscard]] bool there(const QString& relative) const { return QFileInfo::exists(m_home->path(relative)); }
+
+  std::unique_ptr<FixtureHome> m_home;
+};
+
+void tst_cli_terminal::init() {
+  m_home = std::make_unique<FixtureHome>();
+  qputenv("TARNWICK_HOST", "linux");
+  qputenv("TERM", "xterm-256color");
+  qunsetenv("NO_COLOR");
+  fillSampleHome(*m_home);
+}
+
+void tst_cli_terminal::cleanup() {
+  qunsetenv("TARNWICK_HOST");
+  m_home.reset();
+}
+
+void tst_cli_terminal::asks_data() {
+  QTest::addColumn<QByteArray>("keys");
+  QTest::addColumn<bool>("cleans");
+  QTest::newRow("y") << QByteArray("y\n") << true;
+  QTest::newRow("Y") << QByteArray("Y\n") << true;
+  QTest::newRow("yes") << QByteArray(" Yes \n") << true;
+  QTest::newRow("n") << QByteArray("n\n") << false;
+  QTest::newRow("just Enter") << QByteArray("\n") << false;
+  QTest::newRow("another word") << QByteArray("yesterday\n") << false;
+  QTest::newRow("the end") << kCtrlD << false;
+  QTest::newRow("y without Enter, then the end twice") << QByteArray("y" + kCtrlD + kCtrlD) << false;
+}
+
+void tst_cli_terminal::asks() {
+  QFETCH(QByteArray, keys);
+  QFETCH(bool, cleans);
+  const auto before = wholeTree(*m_home);
+  Pty pty({u"clean"_s, u"--delete"_s});
+  QVERIFY(pty.shows(kQuestion));
+  QVERIFY(pty.shown().contains("App caches"));
+  QVERIFY(pty.shown().contains("deleted for good"));
+  QVERIFY(there(u".cache/acme-notes/index"_s));
+  pty.type(keys);
+  QCOMPARE(pty.finish(), 0);
+  QCOMPARE(!there(u".cache/acme-notes/index"_s), cleans);
+  QCOMPARE(pty.shown().contains("Freed"), cleans);
+  QCOMPARE(pty.shown().contains("Nothing was cleaned."), !cleans);
+  if (!cleans) QCOMPARE(wholeTree(*m_home), before);
+}
+
+void tst_cli_terminal::questionsByMode_data() {
+  QTest::addColumn<QStringList>("further");
+  QTest::addColumn<QString>("pattern");
+  QTest::newRow("trash") << QStringList{u"--trash"_s} << u"Move [\\d.]+ KB to the Trash\\? "_s;
+  QTest::newRow("default") << QStringList{} << u"Move [\\d.]+ KB to the Trash\\? "_s;
+  QTest::newRow("delete") << QStringList{u"--delete"_s} << u"Delete [\\d.]+ KB for good\\? "_s;
+  QTest::newRow("permanent") << QStringList{u"--trash"_s, u"--only"_s, u"trash"_s}
+                             << u"Delete [\\d.]+ KB for good\\? "_s;
+  QTest::newRow("both") << QStringList{u"--trash"_s, u"--only"_s, u"trash,dev"_s}
+                        << u"Delete [\\d.]+ KB for good and move [\\d.]+ KB to the Trash\\? "_s;
+}
+
+void tst_cli_terminal::questionsByMode() {
+  QFETCH(QStringList, further);
+  QFETCH(QString, pattern);
+  Pty pty(QStringList{u"clean"_s} + further);
+  QVERIFY(pty.shows(kQuestion));
+  const QString shown = QString::fromUtf8(pty.shown());
+  QVERIFY2(QRegularExpression(pattern).match(shown).hasMatch(), qPrintable(shown));
+  pty.type("n\n");
+  QCOMPARE(pty.finish(), 0);
+}
+
+void tst_cli_terminal::ctrlCAtTheQuestion() {
+  const auto before = wholeTree(*m_home);
+  Pty pty({u"clean"_s, u"--delete"_s});
+  QVERIFY(pty.shows(kQuestion));
+  pty.type("y" + kCtrlC);
+  QCOMPARE(pty.finish(), 130);
+  QCOMPARE(wholeTree(*m_home), before);
+}
+
+void tst_cli_terminal::hangUpAtTheQuestion() {
+  const auto before = wholeTree(*m_home);
+  const QString out = m_home->outside(u"out"_s);
+  Pty pty({u"clean"_s, u"--delete"_s, u"--json"_s}, {.outTo = out});
+  QVERIFY(pty.shows(kQuestion));
+  pty.hangUp();
+  QCOMPARE(pty.finish(), 130);
+  QFile::remove(out);
+  QCOMPARE(wholeTree(*m_home).keys(), before.keys());
+}
+
+void tst_cli_terminal::yesAsksNothing() {
+  Pty pty({u"clean"_s, u"--delete"_s, u"--yes"_s});
+  QCOMPARE(pty.finish(), 0);
+  QVERIFY(!pty.shown().contains(kQuestion));
+  QVERIFY(pty.shown().contains("deleted for good"));
+  QVERIFY(!there(u".cache/acme-notes/index"_s));
+}
+
+void tst_cli_terminal::dryRunAsksNothing() {
+  const auto before = wholeTree(*m_home);
+  Pty pty({u"clean"_s, u"--delete"_s, u"--dry-run"_s});
+  QCOMPARE(pty.finish(), 0);
+  QVERIFY(!pty.shown().contains(kQuestion));
+  QCOMPARE(wholeTree(*m_home), before);
+}
+
+void tst_cli_terminal::questionGoesWhereTheUserSees() {
+  const QString out = m_home->outside(u"out"_s);
+  Pty pty({u"clean"_s, u"--delete"_s}, {.outTo = out});
+  QVERIFY(pty.shows(kQuestion));
+  QVERIFY(pty.shown().contains("App caches"));
+  pty.type("y\n");
+  QCOMPARE(pty.finish(), 0);
+  QVERIFY(contents(out).startsWith("Freed "));
+}
+
+void tst_cli_terminal::jsonIsAskedAboutOnStandardError() {
+  const QString err = m_home->outside(u"err"_s);
+  Pty asked({u"clean"_s, u"--delete"_s, u"--json"_s}, {.outTo = err});
+  QVERIFY(asked.shows(kQuestion));
+  asked.type("n\n");
+  QCOMPARE(asked.finish(), 0);
+  const QJsonObject report = QJsonDocument::fromJson(contents(err)).object();
+  QCOMPARE(report[u"freedBytes"_s].toInteger(-1), 0);
+
+  Pty unasked({u"clean"_s, u"--delete"_s, u"--json"_s}, {.errTo = err}); // standard output belongs to the object
+  QCOMPARE(unasked.finish(), 2);
+  QCOMPARE(unasked.shown(), QByteArray());
+  QVERIFY(there(u".cache/acme-notes/index"_s));
+}
+
+void tst_cli_terminal::nowhereToAsk() {
+  const QString out = m_home->outside(u"out"_s);
+  const QString err = m_home->outside(u"err"_s);
+  Pty pty({u"clean"_s, u"--delete"_s}, {.outTo = out, .errTo = err});
+  QCOMPARE(pty.finish(), 2);
+  QCOMPARE(contents(out), QByteArray());
+  QVERIFY(contents(err).startsWith("tarnwick-cli: "));
+}
+
+void tst_cli_terminal::nobodyToAnswer() {
+  Pty pty({u"clean"_s, u"--delete"_s}, {.inFromNothing = true});
+  QCOMPARE(pty.finish(), 2);
+  QVERIFY(pty.shown().contains("--yes"));
+  QVERIFY(there(u".cache/acme-notes/index"_s));
+}
+
+void tst_cli_terminal::progressOfAScan() {
+  constexpr int kManyFolders = 30'000;
+  makeFolders(m_home->folder(u".cache/acme-notes/many\x1b[31m"_s), kManyFolders, 1);
+  const QString out = m_home->outside(u"out"_s);
+  Pty pty({u"scan"_s, u"--json"_s}, {.outTo = out});
+  QVERIFY(pty.shows("App caches  "));
+  QCOMPARE(pty.finish(), 0);
+  const QRegularExpression line(u"\r\x1b\\[KApp caches  [\\d.,]+ .B  [\\d,]+ files  0:0\\d  "_s);
+  QVERIFY2(line.match(QString::fromUtf8(pty.shown())).hasMatch(), pty.shown().constData());
+  QVERIFY(!pty.shown().contains("\x1b[31m")); // no path speaks to the terminal
+  QVERIFY(pty.shown().endsWith("\r\x1b[K"));
+  for (const QByteArray& drawn : pty.shown().split('\r')) QVERIFY(QString::fromUtf8(drawn).size() <= 99 + 3);
+  QVERIFY(QJsonDocument::fromJson(contents(out)).isObject());
+}
+
+void tst_cli_terminal::noProgressOffTheTerminal() {
+  const QString err = m_home->outside(u"err"_s);
+  Pty pty({u"scan"_s}, {.errTo = err});
+  QCOMPARE(pty.finish(), 0);
+  QVERIFY(!pty.shown().contains("\x1b[K"));
+  QCOMPARE(contents(err), QByteArray());
+}
+
+void tst_cli_terminal::progressAndCtrlC() {
+  constexpr int kItems = 3'000;
+  constexpr int kFilesEach = 8;
+  makeFolders(m_home->folder(u".local/share/Trash/files"_s), kItems, kFilesEach);
+  Pty pty({u"clean"_s, u"--yes"_s, u"--only"_s, u"trash"_s});
+  QVERIFY(pty.shows("Cleaning  "));
+  QVERIFY(pty.shows("/folder-"));
+  pty.type(kCtrlC);
+  QCOMPARE(pty.finish(), 130);
+  QVERIFY2(pty.shown().contains("then stopping"), pty.shown().constData());
+  QVERIFY(pty.shown().contains("Freed "));
+  QVERIFY(pty.shown().contains("Log: "));
+}
+
+void tst_cli_terminal::colours_data() {
+  QTest::addColumn<QByteArray>("term");
+  QTest::addColumn<QByteArray>("noColor");
+  QTest::addColumn<bool>("coloured");
+  QTest::newRow("usual") << QByteArray("xterm") << QByteArray() << true;
+  QTest::newRow("NO_COLOR") << QByteArray("xterm") << QByteArray("1") << false;
+  QTest::newRow("dumb") << QByteArray("dumb") << QByteArray() << false;
+}
+
+void tst_cli_terminal::colours() {
+  QFETCH(QByteArray, term);
+  QFETCH(QByteArray, noColor);
+  QFETCH(bool, coloured);
+  qputenv("TERM", term);
+  qputenv("NO_COLOR", noColor);
+  Pty pty({u"scan"_s});
+  QCOMPARE(pty.finish(), 0);
+  QCOMPARE(pty.shown().contains("\x1b[32mSafe\x1b[0m"), coloured);
+  QCOMPARE(pty.shown().contains("\x1b[31mPermanent\x1b[0m"), coloured);
+  if (term == "dumb") QVERIFY(!pty.shown().contains('\x1b'));
+}
+
+void tst_cli_terminal::widths_data() {
+  QTest::addColumn<int>("columns");
+  QTest::addColumn<bool>("bars");
+  QTest::newRow("narrow") << 62 << false;
+  QTest::newRow("usual") << 80 << false;
+  QTest::newRow("wide") << 120 << true;
+}
+
+void tst_cli_terminal::widths() {
+  QFETCH(int, columns);
+  QFETCH(bool, bars);
+  qputenv("NO_COLOR", "1");
+  const QString err = m_home->outside(u"err"_s);
+  Pty pty({u"scan"_s}, {.columns = columns, .errTo = err});
+  QCOMPARE(pty.finish(), 0);
+  const QString shown = QString::fromUtf8(pty.shown());
+  for (const QString& line : shown.split(u"\r\n"_s)) QVERIFY2(line.size() <= columns, qPrintable(line));
+  QCOMPARE(shown.contains(u'█'), bars);
+}
+
+QTEST_GUILESS_MAIN(tst_cli_terminal)
+#include "tst_cli_terminal.moc"

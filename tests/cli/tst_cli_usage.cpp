@@ -1,0 +1,208 @@
+// What the program makes of its arguments: help, version, and words for every mistake.
+#include "support/CliRun.h"
+#include "support/SampleHome.h"
+
+#include <QTest>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+class tst_cli_usage : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void version_data();
+  void version();
+  void help_data();
+  void help();
+  void noVerb();
+  void mistakes_data();
+  void mistakes();
+  void mistakesTouchNothing();
+  void noTerminalNoYes();
+  void quietWhateverTheLocale();
+  void outputThatGoesNowhere_data();
+  void outputThatGoesNowhere();
+  void readerThatWentAway();
+  void closedDescriptors();
+
+ private:
+  FixtureHome m_home;
+};
+
+void tst_cli_usage::version_data() {
+  QTest::addColumn<QStringList>("arguments");
+  QTest::newRow("long") << QStringList{u"--version"_s};
+  QTest::newRow("short") << QStringList{u"-v"_s};
+  QTest::newRow("of a verb") << QStringList{u"clean"_s, u"--version"_s};
+}
+
+void tst_cli_usage::version() {
+  QFETCH(QStringList, arguments);
+  const CliRun run = runCli(arguments);
+  QCOMPARE(run.code, 0);
+  QCOMPARE(run.out, QByteArray("tarnwick-cli 1.0.0\n"));
+  QCOMPARE(run.err, QByteArray());
+}
+
+void tst_cli_usage::help_data() {
+  QTest::addColumn<QStringList>("arguments");
+  QTest::addColumn<QStringList>("mentions");
+  QTest::addColumn<QStringList>("hides");
+  QTest::newRow("all") << QStringList{u"--help"_s} << QStringList{u"scan"_s, u"clean"_s, u"--version"_s}
+                       << QStringList{u"--yes"_s};
+  QTest::newRow("short") << QStringList{u"-h"_s} << QStringList{u"scan"_s} << QStringList{u"--yes"_s};
+  QTest::newRow("scan") << QStringList{u"scan"_s, u"--help"_s}
+                        << QStringList{u"scan"_s, u"--only ID[,ID]"_s, u"--exclude RULE"_s, u"--json"_s,
+                                       u"temp, appcache, browser, logs, thumbs, update, dev, trash"_s}
+                        << QStringList{u"--yes"_s, u"--delete"_s, u"--trash"_s, u"--dry-run"_s};
+  QTest::newRow("clean") << QStringList{u"--help"_s, u"clean"_s}
+                         << QStringList{u"--only"_s,   u"--exclude"_s, u"--json"_s,   u"--yes"_s,
+                                        u"--delete"_s, u"--trash"_s,   u"--dry-run"_s}
+                         << QStringList{};
+}
+
+void tst_cli_usage::help() {
+  QFETCH(QStringList, arguments);
+  QFETCH(QStringList, mentions);
+  QFETCH(QStringList, hides);
+  const CliRun run = runCli(arguments);
+  QCOMPARE(run.code, 0);
+  QCOMPARE(run.err, QByteArray());
+  QVERIFY(run.out.startsWith("Usage: tarnwick-cli "));
+  for (const QString& word : mentions) QVERIFY2(run.out.contains(word.toUtf8()), qPrintable(word));
+  for (const QString& word : hides) QVERIFY2(!run.out.contains(word.toUtf8()), qPrintable(word));
+  for (const QByteArray& line : run.out.split('\n')) QVERIFY2(line.size() <= 100, line.constData());
+}
+
+void tst_cli_usage::noVerb() {
+  const CliRun run = runCli({});
+  QCOMPARE(run.code, 2);
+  QCOMPARE(run.out, QByteArray());
+  QCOMPARE(run.err, runCli({u"--help"_s}).out);
+}
+
+void tst_cli_usage::mistakes_data() {
+  QTest::addColumn<QStringList>("arguments");
+  QTest::addColumn<QString>("names");
+  const auto row = [](const char* arguments, const char* names) {
+    QTest::newRow(arguments) << QString::fromLatin1(arguments).split(u' ') << QString::fromLatin1(names);
+  };
+  row("wash", "'wash'");
+  row("scan clean", "'clean'");
+  row("scan --bogus", "'--bogus'");
+  row("--bogus", "'--bogus'");
+  row("scan -x", "'-x'");
+  row("scan --only", "--only");
+  row("scan --only nonsense", "'nonsense'");
+  row("scan --only nonsense", "temp, appcache, browser, logs, thumbs, update, dev, trash");
+  row("scan --only temp,nonsense", "'nonsense'");
+  row("scan --only temp,,logs", "--only");
+  row("scan --only=", "--only");
+  row("clean --yes --only=", "--only");
+  row("scan --only TEMP", "'TEMP'");
+  row("scan --exclude", "--exclude");
+  row("scan --exclude=", "--exclude");
+  row("scan --json=yes", "--json");
+  row("scan --yes", "--yes");
+  row("scan --delete", "--delete");
+  row("scan --trash", "--trash");
+  row("scan --dry-run", "--dry-run");
+  row("clean --delete --trash --yes", "--delete");
+}
+
+void tst_cli_usage::mistakes() {
+  QFETCH(QStringList, arguments);
+  QFETCH(QString, names);
+  const CliRun run = runCli(arguments);
+  QCOMPARE(run.code, 2);
+  QCOMPARE(run.out, QByteArray());
+  QVERIFY2(run.err.startsWith("tarnwick-cli: "), run.err.constData());
+  QCOMPARE(run.err.count('\n'), 1);
+  QVERIFY2(run.err.contains(names.toUtf8()), run.err.constData());
+}
+
+void tst_cli_usage::mistakesTouchNothing() {
+  fillSampleHome(m_home);
+  const auto before = wholeTree(m_home);
+  QCOMPARE(runCli({u"clean"_s, u"--yes"_s, u"--delete"_s, u"--only"_s, u""_s}).code, 2);
+  QCOMPARE(runCli({u"clean"_s, u"--yes"_s, u"--delete"_s, u"--exclude"_s, u"  "_s}).code, 2);
+  QCOMPARE(runCli({u"clean"_s, u"--yes"_s, u"--dleete"_s}).code, 2);
+  const CliRun escaped = runCli({u"clean"_s, u"--yes"_s, u"\x1b[31m"_s});
+  QVERIFY(!escaped.err.contains('\x1b'));
+  QCOMPARE(wholeTree(m_home), before);
+}
+
+void tst_cli_usage::noTerminalNoYes() {
+  fillSampleHome(m_home);
+  const auto before = wholeTree(m_home);
+  for (const QStringList& further : {QStringList{}, QStringList{u"--json"_s}, QStringList{u"--delete"_s}}) {
+    const CliRun run = runCli(QStringList{u"clean"_s} + further);
+    QCOMPARE(run.code, 2);
+    QCOMPARE(run.out, QByteArray());
+    QVERIFY(run.err.startsWith("tarnwick-cli: "));
+    QVERIFY(run.err.contains("--yes"));
+  }
+  QCOMPARE(wholeTree(m_home), before);
+}
+
+void tst_cli_usage::quietWhateverTheLocale() {
+  QProcess process;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(u"LC_ALL"_s, u"C"_s);
+  process.setProcessEnvironment(environment);
+  process.start(cliProgram(), {u"--version"_s});
+  const CliRun run = finish(&process);
+  QCOMPARE(run.code, 0);
+  QCOMPARE(run.err, QByteArray());
+}
+
+void tst_cli_usage::outputThatGoesNowhere_data() {
+  QTest::addColumn<QStringList>("arguments");
+  QTest::newRow("version") << QStringList{u"--version"_s};
+  QTest::newRow("scan") << QStringList{u"scan"_s};
+  QTest::newRow("scan --json") << QStringList{u"scan"_s, u"--json"_s};
+}
+
+void tst_cli_usage::outputThatGoesNowhere() {
+  QFETCH(QStringList, arguments);
+  QProcess process;
+  process.setStandardOutputFile(u"/dev/full"_s);
+  process.start(cliProgram(), arguments);
+  const CliRun run = finish(&process);
+  QCOMPARE(run.code, 1);
+  QVERIFY2(run.err.startsWith("tarnwick-cli: "), run.err.constData());
+  QVERIFY2(run.err.contains("No space left on device"), run.err.constData());
+}
+
+void tst_cli_usage::readerThatWentAway() {
+  int ends[2] = {-1, -1};
+  QCOMPARE(::pipe(ends), 0);
+  ::close(ends[0]);
+  QProcess process;
+  process.setChildProcessModifier([&] { ::dup2(ends[1], STDOUT_FILENO); });
+  process.start(cliProgram(), {u"scan"_s});
+  const CliRun run = finish(&process);
+  ::close(ends[1]);
+  QCOMPARE(run.code, 1);
+  QVERIFY2(run.err.contains("Broken pipe"), run.err.constData());
+}
+
+void tst_cli_usage::closedDescriptors() {
+  fillSampleHome(m_home);
+  const auto before = wholeTree(m_home);
+  QProcess process;
+  process.setChildProcessModifier([] {
+    ::close(STDIN_FILENO);
+    ::close(STDOUT_FILENO);
+  });
+  process.start(cliProgram(), {u"clean"_s, u"--yes"_s, u"--delete"_s});
+  const CliRun run = finish(&process);
+  QCOMPARE(run.code, 1);
+  QVERIFY2(run.err.contains("Bad file descriptor"), run.err.constData());
+  QCOMPARE(wholeTree(m_home), before); // what can't be shown isn't done
+}
+
+QTEST_GUILESS_MAIN(tst_cli_usage)
+#include "tst_cli_usage.moc"
