@@ -23,10 +23,9 @@ struct VerbRow {
 };
 
 constexpr std::array kVerbs = {
-    VerbRow{Verb::Scan, "scan", "scan [--only ID[,ID]] [--exclude RULE] [--json]",
+    VerbRow{Verb::Scan, "scan", "[--only ID[,ID]] [--exclude RULE] [--json]",
             QT_TRANSLATE_NOOP("Cli", "Measures what could be cleaned, and changes nothing.")},
-    VerbRow{Verb::Clean, "clean",
-            "clean [--only ID[,ID]] [--exclude RULE] [--delete|--trash] [--dry-run] [--yes] [--json]",
+    VerbRow{Verb::Clean, "clean", "[--only ID[,ID]] [--exclude RULE] [--delete|--trash] [--dry-run] [--yes] [--json]",
             QT_TRANSLATE_NOOP("Cli", "Scans, shows what would go, asks, and cleans it.")},
 };
 
@@ -66,14 +65,14 @@ const VerbRow* findVerb(const QString& name) {
   return found == kVerbs.end() ? nullptr : &*found;
 }
 
-/// A line of help: the left part, then the text from a common column on, broken between words.
-QString helpLine(const QString& left, const QString& text) {
-  QString line = (u"  "_s + left).leftJustified(kHelpColumn);
+/// A line of help: the left part, then the text from @p indent on, broken between words.
+QString helpLine(const QString& left, const QString& text, qsizetype indent = kHelpColumn) {
+  QString line = left.leftJustified(indent);
   qsizetype column = line.size();
   for (const QString& word : text.split(u' ')) {
     if (column + 1 + word.size() > kHelpWidth) {
-      line += u'\n' + QString(kHelpColumn, u' ');
-      column = kHelpColumn;
+      line += u'\n' + QString(indent, u' ');
+      column = indent;
     }
     line += u' ' + word;
     column += 1 + word.size();
@@ -82,24 +81,25 @@ QString helpLine(const QString& left, const QString& text) {
 }
 
 QString commonHelp() {
-  return helpLine(u"-h, --help"_s, Words::tr("show this help")) +
-         helpLine(u"-v, --version"_s, Words::tr("show the version"));
+  return helpLine(u"  -h, --help"_s, Words::tr("show this help")) +
+         helpLine(u"  -v, --version"_s, Words::tr("show the version"));
 }
 
 QString generalHelp() {
   QString text = Words::tr("Usage: %1").arg(kProgram + u" COMMAND [OPTIONS]\n\n"_s) + Words::tr("Commands:") + u'\n';
-  for (const VerbRow& row : kVerbs) text += helpLine(QLatin1String(row.name), Words::tr(row.summary));
+  for (const VerbRow& row : kVerbs) text += helpLine(u"  "_s + QLatin1String(row.name), Words::tr(row.summary));
   text += u'\n' + Words::tr("Options:") + u'\n' + commonHelp() + u'\n';
   return text + Words::tr("Say \"%1\" to learn about one.").arg(kProgram + u" COMMAND --help"_s) + u'\n';
 }
 
 QString helpOf(const VerbRow& verb, const QStringList& categoryIds) {
-  QString text = Words::tr("Usage: %1").arg(kProgram + u' ' + QLatin1String(verb.usage)) + u"\n\n"_s +
-                 Words::tr(verb.summary) + u"\n\n"_s + Words::tr("Options:") + u'\n';
+  const QString head = Words::tr("Usage: %1").arg(kProgram + u' ' + QLatin1String(verb.name));
+  QString text = helpLine(head, QLatin1String(verb.usage), head.size()) + u'\n' + Words::tr(verb.summary) + u"\n\n"_s +
+                 Words::tr("Options:") + u'\n';
   for (const OptionRow& row : kOptions) {
     if (!(row.takers & takerOf(verb.verb))) continue;
     const QString value = row.value ? u' ' + QLatin1String(row.value) : QString();
-    text += helpLine(u"--"_s + QLatin1String(row.name) + value, Words::tr(row.text));
+    text += helpLine(u"  --"_s + QLatin1String(row.name) + value, Words::tr(row.text));
   }
   return text + commonHelp() + u'\n' + Words::tr("Categories: %1").arg(categoryIds.join(u", "_s)) + u'\n';
 }

@@ -499,7 +499,7 @@ void tst_AppState::dryRun() {
 }
 
 void tst_AppState::stopClean() {
-  constexpr int kItems = 2000;
+  constexpr int kItems = 300;
   for (int i = 0; i < kItems; ++i) m_home->file(u"Downloads/many-%1.deb"_s.arg(i), 10);
   scan();
   m_state->selectAll(false);

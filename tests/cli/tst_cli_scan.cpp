@@ -21,6 +21,8 @@ namespace {
 const QStringList kIds{u"temp"_s,   u"appcache"_s, u"browser"_s, u"logs"_s,
                        u"thumbs"_s, u"update"_s,   u"dev"_s,     u"trash"_s};
 
+constexpr int kManyItems = 200;
+
 QStringList keys(const QJsonObject& object) { return object.keys(); }
 
 QJsonObject category(const QJsonObject& scan, const QString& id) {
@@ -228,6 +230,7 @@ void tst_cli_scan::tableOfSome() {
 }
 
 void tst_cli_scan::tableOfNothing() {
+  m_home.reset();
   m_home = std::make_unique<FixtureHome>();
   const CliRun run = runCli({u"scan"_s});
   QCOMPARE(run.code, 0);
@@ -276,10 +279,9 @@ void tst_cli_scan::interrupted_data() {
 
 void tst_cli_scan::interrupted() {
   QFETCH(int, signal);
-  constexpr int kManyFolders = 30'000;
-  makeFolders(m_home->folder(u".cache/acme-notes/many"_s), kManyFolders, 0);
+  addManyItems(*m_home, kManyItems);
   QProcess process;
-  startCli(&process, {u"scan"_s, u"--json"_s});
+  startCli(&process, QStringList{u"scan"_s, u"--json"_s} + slowRules());
   ::kill(static_cast<pid_t>(process.processId()), signal);
   const CliRun run = finish(&process);
   QCOMPARE(run.code, 130);
@@ -296,10 +298,9 @@ void tst_cli_scan::interrupted() {
 }
 
 void tst_cli_scan::interruptedWithoutJson() {
-  constexpr int kManyFolders = 30'000;
-  makeFolders(m_home->folder(u".cache/acme-notes/many"_s), kManyFolders, 0);
+  addManyItems(*m_home, kManyItems);
   QProcess process;
-  startCli(&process, {u"scan"_s});
+  startCli(&process, QStringList{u"scan"_s} + slowRules());
   ::kill(static_cast<pid_t>(process.processId()), SIGINT);
   const CliRun run = finish(&process);
   QCOMPARE(run.code, 130);

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kOldDays = 3;
+constexpr int kOldDays = 3; // older than what may still be in use
 
 void walk(const QByteArray& path, const std::function<void(const QByteArray&, const struct stat&)>& visit) {
   struct stat status {};
@@ -76,16 +76,13 @@ QMap<QByteArray, QByteArray> wholeTree(const FixtureHome& home) {
   return tree;
 }
 
-void makeFolders(const QString& below, int count, int filesEach) {
-  const QByteArray root = QFile::encodeName(below);
-  const QByteArray text(100, 'x');
-  for (int i = 0; i < count; ++i) {
-    const QByteArray folder = root + "/folder-" + QByteArray::number(i);
-    if (::mkdir(folder.constData(), 0700) != 0) qFatal("cannot make %s", folder.constData());
-    for (int k = 0; k < filesEach; ++k) {
-      const int fd = ::open((folder + '/' + QByteArray::number(k)).constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-      if (::write(fd, text.constData(), static_cast<size_t>(text.size())) != text.size()) qFatal("cannot write");
-      ::close(fd);
-    }
-  }
+void addManyItems(const FixtureHome& home, int count) {
+  for (int i = 0; i < count; ++i) home.file(u"Downloads/many-%1.deb"_s.arg(i), 100);
+}
+
+QStringList slowRules() {
+  constexpr int kRules = 3'000;
+  QStringList options;
+  for (int i = 0; i < kRules; ++i) options << u"--exclude=/*a*e*o*%1*"_s.arg(kRules + i);
+  return options;
 }

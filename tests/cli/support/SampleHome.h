@@ -4,6 +4,7 @@
 #include "support/FixtureHome.h"
 
 #include <QMap>
+#include <QStringList>
 
 /// Fills @p home as a Linux desktop would look to the program.
 void fillSampleHome(const FixtureHome& home);
@@ -12,5 +13,9 @@ void fillSampleHome(const FixtureHome& home);
 /// The settings of the test itself are left out.
 [[nodiscard]] QMap<QByteArray, QByteArray> wholeTree(const FixtureHome& home);
 
-/// Makes @p count folders with @p filesEach small files in each, below an existing folder.
-void makeFolders(const QString& below, int count, int filesEach);
+/// Adds many old installers to the sample home, each an item.
+void addManyItems(const FixtureHome& home, int count);
+
+/// Options that make the program think hard about every path, so that a test can step in while it runs: rules that
+/// match nothing and are slow to tell it.
+[[nodiscard]] QStringList slowRules();
