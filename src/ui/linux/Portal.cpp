@@ -77,6 +77,8 @@ Portal::Portal(QObject* parent) : QObject(parent), m_bus(u"none"_s) {
   if (!hasSessionBus()) return;
   m_bus = QDBusConnection::sessionBus();
   if (!m_bus.isConnected()) return;
+  // The connection looks the slot's types up by their names, and refuses those that nobody has registered so far.
+  qRegisterMetaType<QDBusVariant>();
   m_bus.connect(kService, kPath, kInterface, u"SettingChanged"_s, this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
   m_watcher.setConnection(m_bus);

@@ -1,0 +1,66 @@
+/// Servers of a desktop that a test starts for itself: a session bus, a screen of X11. They end with their objects.
+#pragma once
+
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QStandardPaths>
+#include <QString>
+
+namespace servers {
+
+/// A program that tells on a line of its own when, and where, it can be reached.
+class Server {
+ public:
+  Server() = default;
+  Server(const Server&) = delete;
+  Server& operator=(const Server&) = delete;
+  ~Server() {
+    m_process.terminate();
+    if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(3000)) {
+      m_process.kill();
+      m_process.waitForFinished(3000);
+    }
+  }
+
+  /// Starts @p program and waits for its first line. False if it isn't installed or says nothing in ten seconds.
+  bool start(const QString& program, const QStringList& arguments) {
+    if (QStandardPaths::findExecutable(program).isEmpty()) return false;
+    m_process.start(program, arguments);
+    while (!m_process.canReadLine())
+      if (!m_process.waitForReadyRead(10000)) return false;
+    m_answer = QString::fromUtf8(m_process.readLine()).trimmed();
+    return !m_answer.isEmpty();
+  }
+
+  /// What it said.
+  [[nodiscard]] QString answer() const { return m_answer; }
+
+ private:
+  QProcess m_process;
+  QString m_answer;
+};
+
+/// A message bus without services; its answer is its address.
+inline bool startBus(Server* server) {
+  return server->start(QStringLiteral("dbus-daemon"),
+                       {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1")});
+}
+
+/// A screen that nobody sees, without a window manager and without a compositor; its answer is its number.
+inline bool startScreen(Server* server) {
+  return server->start(QStringLiteral("Xvfb"),
+                       {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                        QStringLiteral("0"), QStringLiteral("1280x1024x24"), QStringLiteral("-nolisten"),
+                        QStringLiteral("tcp")});
+}
+
+/// The environment of a program on that screen.
+inline QProcessEnvironment onScreen(const Server& screen) {
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":") + screen.answer());
+  environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+  environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+  return environment;
+}
+
+} // namespace servers
