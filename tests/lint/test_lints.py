@@ -195,6 +195,84 @@ class Shape(LintCase):
         self.assert_found("tests/core/tst_a.cpp:1")
 
 
+class Colours(LintCase):
+    lint = "colours"
+
+    BAD = [
+        'const QColor c(u"#6366f1"_s);',
+        'label->setStyleSheet(u"color: #fff;"_s);',
+        'auto c = QColor("#80ffffff");',
+        "constexpr QRgb kIndigo = 0xff6366f1;",
+        "const auto c = QColor(0x6366f1);",
+        "const QColor c = QColor(99, 102, 241);",
+        "const QColor c = QColor(99, 102, 241, 130);",
+        "const QColor c{99, 102, 241};",
+        "auto d = QColor{99, 102, 241};",
+        "auto c = QColor::fromRgb(99, 102, 241);",
+        "auto c = QColor::fromRgbF(0.5f, 0.1f, 0.2f);",
+        "auto c = qRgba(1, 2, 3, 4);",
+        "painter->setPen(Qt::red);",
+        "painter->setPen(Qt::darkGray);",
+        "auto c = QColor(\"#6366f1\");  // hue: no constant",
+    ]
+    GOOD = [
+        "painter->setPen(theme.accent);",
+        "painter->setPen(Qt::white);",
+        "painter->setBrush(Qt::transparent);",
+        "// the same as #6366f1, or QColor(99, 102, 241)",
+        "constexpr QRgb kIndigo = 0xff6366f1;  // hue: the orb's first arc",
+        "constexpr QRgb kHues[] = {  // hue: of the kinds of files",
+        "    0xff6366f1,",
+        "    0xff22d3ee,",
+        "};",
+        'auto text = u"&#8230; and #hash and issue #12"_s;',
+        "auto c = QColor(red, green, blue);",
+        "int mask = 0xff;",
+        "auto c = withAlpha(theme.text, 60);",
+    ]
+
+    def test_every_way_to_a_colour_of_its_own_is_found(self):
+        self.write("src/ui/controls/Bad.cpp", "\n".join(self.BAD))
+        self.assert_found(*[f"src/ui/controls/Bad.cpp:{line}" for line in range(1, len(self.BAD) + 1)])
+
+    def test_what_comes_from_the_theme_or_is_a_named_hue_is_let_be(self):
+        self.write("src/ui/controls/Good.cpp", "\n".join(self.GOOD))
+        self.assert_clean()
+
+    def test_a_table_of_hues_ends_where_it_closes(self):
+        self.write("src/ui/a.cpp", "constexpr A kHues[] = {  // hue: all\n  {0xff6366f1},\n};\nauto x = 0xff6366f1;\n")
+        self.assert_found("src/ui/a.cpp:4")
+
+    def test_the_theme_and_what_lies_below_the_window_may(self):
+        for name in ["ui/Theme.cpp", "ui/StyleSheet.cpp", "engines/categories_mac.cpp"]:
+            self.write("src/" + name, 'auto c = "#6366f1"; auto d = QColor(1, 2, 3);\n')
+        self.assert_clean()
+
+    def test_numbers_without_a_name_are_found_where_something_is_painted(self):
+        self.write(
+            "src/ui/a.cpp",
+            "void A::paintEvent(QPaintEvent*) {\n  QPainter painter(this);\n  painter.drawLine(0, 1, 2, 14);\n"
+            "  if (x) { f(3); }\n  g(0.5, 0.25, 4.f, .5, 1e3, 0x10);\n}\n"
+            "void body(QPainter* painter, const QRectF& r) {\n  painter->translate(7, 0);\n}\n"
+            "auto l = [](QPainter& painter) -> void {\n  painter.scale(3, 1);\n};\n",
+        )
+        findings = self.run_lint()[1][:-1]
+        self.assertEqual(
+            [line.split(": ")[0].rsplit(":")[1] + " " + line.rsplit(", ")[1] for line in findings],
+            ["3 14", "4 3", "5 0.25", "5 0x10", "5 1e3", "5 4.f", "8 7", "11 3"],
+        )
+
+    def test_named_numbers_and_other_functions_are_let_be(self):
+        self.write(
+            "src/ui/a.cpp",
+            "void A::paintEvent(QPaintEvent*) {\n  static constexpr int kWidth = 14;\n"
+            "  static constexpr Glow kGlows[] = {{900, 500},\n                                   {800, 600}};\n"
+            "  draw(text2, kWidth, x1, -1, 2.0, -0.5);  // 14 wide\n}\n"
+            "QSize A::sizeHint() const { return {40, 22}; }\nvoid A::paintEvent(QPaintEvent*);\nint n = 17;\n",
+        )
+        self.assert_clean()
+
+
 class Common(LintCase):
     lint = "systems"
 

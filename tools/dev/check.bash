@@ -106,7 +106,7 @@ formatting() {
 
 house_rules() {
   local name status=0
-  for name in layers removal systems shape; do python3 "tests/lint/$name.py" "$root" || status=1; done
+  for name in colours layers removal systems shape; do python3 "tests/lint/$name.py" "$root" || status=1; done
   return $status
 }
 
