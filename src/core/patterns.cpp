@@ -218,12 +218,12 @@ void Matcher::numberClasses(std::span<const std::string_view> list) {
 void Matcher::flatten(const Trie& trie, quint16 start) {
   std::vector<size_t> order(trie.nodes.size());
   std::iota(order.begin(), order.end(), size_t{0});
-  const auto hits = std::ranges::stable_partition(order, [&](size_t i) { return !trie.nodes[i].hit; });
+  const auto hits = std::stable_partition(order.begin(), order.end(), [&](size_t i) { return !trie.nodes[i].hit; });
   Q_ASSERT(order.size() * m_classes <= std::numeric_limits<Offset>::max());
   std::vector<Offset> offsetOf(order.size());
   for (size_t i = 0; i < order.size(); ++i) offsetOf[order[i]] = static_cast<Offset>(i * m_classes);
   m_start = offsetOf[start];
-  m_firstHit = static_cast<Offset>((order.size() - hits.size()) * m_classes);
+  m_firstHit = static_cast<Offset>(static_cast<size_t>(hits - order.begin()) * m_classes);
 
   const quint8 slash = m_classOfAscii[kSlash];
   for (const size_t i : order) {

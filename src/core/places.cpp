@@ -24,9 +24,13 @@ namespace {
 /// More is no list of folders.
 constexpr qint64 kUserDirsLimitBytes = 65536;
 
-/// The user's folders that need no list.
-constexpr QLatin1String kUserFolders[] = {"Documents"_L1, "Desktop"_L1, "Downloads"_L1, "Pictures"_L1, "Music"_L1,
-                                          "Videos"_L1,    "Movies"_L1,  "Library"_L1,   "AppData"_L1,  "OneDrive"_L1};
+constexpr QLatin1String kUsualFolders[] = {"Documents"_L1, "Desktop"_L1,       "Downloads"_L1,       "Pictures"_L1,
+                                           "Music"_L1,     "Videos"_L1,        "Movies"_L1,          "Library"_L1,
+                                           "AppData"_L1,   "AppData/Local"_L1, "AppData/Roaming"_L1, "OneDrive"_L1};
+
+constexpr QLatin1String kKeptFolders[] = {".config"_L1,      ".local"_L1,     ".local/share"_L1,
+                                          ".local/state"_L1, ".local/bin"_L1, ".var"_L1,
+                                          ".var/app"_L1,     "snap"_L1,       "bin"_L1};
 
 /// The value of an environment variable as a clean path; empty unless it is absolute and not "/".
 QString pathVariable(const char* name) {
@@ -71,19 +75,39 @@ QStringList readUserDirs(const QString& configFolder) {
   return result;
 }
 
-/// All folders of the user's own: the usual names below the home folder, and the localised ones.
-QStringList ownFolders() {
-  QStringList result = userDirs();
-  for (const QLatin1String name : kUserFolders) result << home() + u'/' + name;
+QStringList belowHome(std::span<const QLatin1String> names) {
+  QStringList result;
+  for (const QLatin1String name : names) result << home() + u'/' + name;
   return result;
+}
+
+/// The usual ones and the localised ones.
+QStringList ownFolders() { return userDirs() + belowHome(kUsualFolders); }
+
+/// Whether @p path is one of @p folders or lies above one.
+bool holdsOneOf(const QString& path, const QStringList& folders) {
+  return std::any_of(folders.cbegin(), folders.cend(), [&](const QString& one) { return isAtOrBelow(one, path); });
+}
+
+/// @p folders, and where links make another path of one, that too: Qt resolves those of the temporary folder.
+QStringList bothSpellings(const QStringList& folders) {
+  QStringList result = folders;
+  for (const QString& folder : folders)
+    if (const QString resolved = QFileInfo(folder).canonicalFilePath(); !resolved.isEmpty()) result << resolved;
+  return result;
+}
+
+/// The folder that an XDG variable names, if it counts.
+QString namedFolder(const char* variable) {
+  const QString value = pathVariable(variable);
+  return value.isEmpty() || isHomeOrAbove(value) || ownFolders().contains(value) ? QString() : value;
 }
 
 /// An XDG folder: the variable if it counts, else @p fallback below the home folder.
 QString xdgFolder(const char* variable, QLatin1String fallback) {
   if (home().isEmpty()) return {};
-  const QString value = pathVariable(variable);
-  if (!value.isEmpty() && !isHomeOrAbove(value) && !ownFolders().contains(value)) return value;
-  return home() + u'/' + fallback;
+  const QString value = namedFolder(variable);
+  return value.isEmpty() ? home() + u'/' + fallback : value;
 }
 
 /// The real folders in @p parent, sorted by name.
@@ -124,9 +148,14 @@ bool homeIsOwn() {
   return !path.isEmpty() && ::stat(QFile::encodeName(path).constData(), &status) == 0 && status.st_uid == ::geteuid();
 }
 
-QString cache() { return xdgFolder("XDG_CACHE_HOME", ".cache"_L1); }
 QString config() { return xdgFolder("XDG_CONFIG_HOME", ".config"_L1); }
 QString data() { return xdgFolder("XDG_DATA_HOME", ".local/share"_L1); }
+
+QString cache() {
+  const QString path = xdgFolder("XDG_CACHE_HOME", ".cache"_L1);
+  if (path.isEmpty() || !holdsOneOf(path, belowHome(kKeptFolders) << config() << data())) return path;
+  return home() + "/.cache"_L1;
+}
 
 QString downloads() {
   const QString own = home();
@@ -139,12 +168,17 @@ QString downloads() {
 
 QString temp() {
   const QString path = safety::normalized(QDir::tempPath());
-  if (!path.startsWith(u'/') || path == "/"_L1 || isHomeOrAbove(path)) return {};
-  const QStringList own = home().isEmpty() ? QStringList() : ownFolders();
+  if (!path.startsWith(u'/') || path == "/"_L1) return {};
+  if (home().isEmpty()) return path;
+  const QStringList own = bothSpellings(ownFolders());
   const bool inside =
       std::any_of(own.cbegin(), own.cend(), [&](const QString& folder) { return isAtOrBelow(path, folder); });
-  return inside ? QString() : path;
+  const QStringList whole = belowHome(kKeptFolders) << home() << cache() << config() << data();
+  return inside || holdsOneOf(path, bothSpellings(whole)) ? QString() : path;
 }
+
+std::span<const QLatin1String> usualFolders() { return kUsualFolders; }
+std::span<const QLatin1String> keptFolders() { return kKeptFolders; }
 
 QStringList userDirs() {
   static QBasicMutex mutex;

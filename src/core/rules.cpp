@@ -31,13 +31,14 @@ quint64 sign(QStringView component) {
 }
 
 bool startsWith(QStringView text, QStringView prefix) {
-  return text.size() >= prefix.size() &&
-         std::memcmp(text.utf16(), prefix.utf16(), static_cast<size_t>(prefix.size()) * sizeof(char16_t)) == 0;
+  const qsizetype size = prefix.size();
+  if (size == 0) return true;
+  return text.size() >= size && text[size - 1] == prefix[size - 1] &&
+         std::memcmp(text.utf16(), prefix.utf16(), static_cast<size_t>(size) * sizeof(char16_t)) == 0;
 }
 
 bool endsWith(QStringView text, QStringView suffix) {
-  if (suffix.isEmpty()) return true;
-  return text.size() >= suffix.size() && text.back() == suffix.back() && startsWith(text.last(suffix.size()), suffix);
+  return text.size() >= suffix.size() && startsWith(text.last(suffix.size()), suffix);
 }
 
 bool isWildcard(QChar unit) { return unit == u'*' || unit == u'?'; }
@@ -113,6 +114,22 @@ struct Glob::Machine {
   }
 
   [[nodiscard]] bool run(QStringView text, Tail tail) const {
+    return words == 1 ? runInOneWord(text, tail) : runInMany(text, tail);
+  }
+
+ private:
+  [[nodiscard]] bool runInOneWord(QStringView text, Tail tail) const {
+    quint64 now = 1;
+    for (qsizetype at = 0; at < text.size() && now != 0;) {
+      const char32_t one = takeCodePoint(text, &at);
+      if (one == U'/' && tail == Tail::Below && (now & bit()) != 0) return true;
+      const quint64 stays = one == U'/' ? deep[0] : loops[0];
+      now = ((now & *movesOf(one)) << 1U) | (now & stays);
+    }
+    return (now & bit()) != 0;
+  }
+
+  [[nodiscard]] bool runInMany(QStringView text, Tail tail) const {
     Bits now(static_cast<qsizetype>(words), 0);
     now[0] = 1;
     for (qsizetype at = 0; at < text.size();) {
@@ -123,7 +140,6 @@ struct Glob::Machine {
     return isDone(now);
   }
 
- private:
   [[nodiscard]] size_t word() const { return static_cast<size_t>(length) / kBits; }
   [[nodiscard]] quint64 bit() const { return quint64{1} << (length % kBits); }
   void set(std::vector<quint64>* bits) { (*bits)[word()] |= bit(); }
@@ -269,7 +285,8 @@ struct Entry {
 /// All that isExcluded keeps, under one mutex.
 struct Cache {
   QHash<QString, Compiled> compiled; // by the expanded text; never cleared
-  QList<QString> list; // shares its data with the list that was asked last: the same data is the same list
+  QList<QString> list;    // shares its data with the list that was asked last: the same data is the same list
+  bool namesHome = false; // whether what a rule stands for hangs on the home folder
   QByteArray homeVariable;
   std::vector<Entry> entries;
 
@@ -280,10 +297,11 @@ struct Cache {
   }
 
   void prepare(const QList<QString>& asked) {
-    const QByteArray home = qgetenv("HOME");
-    if (asked.constData() == list.constData() && asked.size() == list.size() && home == homeVariable) return;
+    const bool same = asked.constData() == list.constData() && asked.size() == list.size();
+    if (same && (!namesHome || qgetenv("HOME") == homeVariable)) return;
     list = asked;
-    homeVariable = home;
+    namesHome = std::any_of(asked.cbegin(), asked.cend(), [](const QString& rule) { return rule.contains(u'~'); });
+    homeVariable = qgetenv("HOME");
     entries.assign(static_cast<size_t>(asked.size()), {});
   }
 
@@ -291,7 +309,7 @@ struct Cache {
     Entry& entry = entries[index];
     if (entry.met) return entry;
     entry.met = true;
-    for (const QString& text : expanded(list[static_cast<qsizetype>(index)])) entry.rules.append(find(text));
+    for (const QString& text : expanded(list.at(static_cast<qsizetype>(index)))) entry.rules.append(find(text));
     return entry;
   }
 };

@@ -15,11 +15,6 @@ using namespace Qt::StringLiterals;
 namespace safety {
 namespace {
 
-/// Below the home folder, as a whole.
-constexpr QLatin1String kUserFolders[] = {"Documents"_L1, "Desktop"_L1,       "Downloads"_L1,       "Pictures"_L1,
-                                          "Music"_L1,     "Videos"_L1,        "Movies"_L1,          "Library"_L1,
-                                          "AppData"_L1,   "AppData/Local"_L1, "AppData/Roaming"_L1, "OneDrive"_L1};
-
 /// With everything below.
 constexpr QLatin1String kSystemRoots[] = {"/System"_L1,        "/usr"_L1,
                                           "/bin"_L1,           "/sbin"_L1,
@@ -35,11 +30,6 @@ constexpr QLatin1String kSystemRoots[] = {
 
 /// What lies in these doesn't belong to the system; they themselves do.
 constexpr QLatin1String kExceptions[] = {"/run/media"_L1, "/var/tmp"_L1, "/var/crash"_L1};
-
-/// Below the home folder, as a whole.
-constexpr QLatin1String kUserFolders[] = {".config"_L1,    ".local"_L1, ".local/share"_L1, ".local/state"_L1,
-                                          ".local/bin"_L1, ".cache"_L1, ".var"_L1,         ".var/app"_L1,
-                                          "snap"_L1,       "bin"_L1};
 
 /// Below the home folder, with everything in them.
 constexpr QLatin1String kSecrets[] = {
@@ -151,7 +141,7 @@ void Locations::add(const QString& path, Reach reach) {
 void Locations::addHome(const QString& home) {
   add(home, Reach::Itself);
   add(home + "/.."_L1, Reach::Itself);
-  for (const QLatin1String folder : kUserFolders) add(home + u'/' + folder, Reach::Itself);
+  for (const QLatin1String folder : places::usualFolders()) add(home + u'/' + folder, Reach::Itself);
 }
 
 void Locations::addLinux(const QStringList& homes) {
@@ -164,7 +154,8 @@ void Locations::addLinux(const QStringList& homes) {
   for (const QString& folder : {places::cache(), places::config(), places::data()}) add(folder, Reach::Itself);
   addSecrets(places::config(), places::data());
   for (const QString& home : homes) {
-    for (const QLatin1String folder : desktop::kUserFolders) add(home + u'/' + folder, Reach::Itself);
+    for (const QLatin1String folder : places::keptFolders()) add(home + u'/' + folder, Reach::Itself);
+    add(home + "/.cache"_L1, Reach::Itself);
     for (const QLatin1String secret : desktop::kSecrets) add(home + u'/' + secret, Reach::Tree);
     addSecrets(home + "/.config"_L1, home + "/.local/share"_L1);
     m_sandboxes.push_back({home + "/snap/"_L1, 1});
@@ -196,8 +187,10 @@ void Locations::index() {
 Locations::Reach Locations::reachOf(QStringView path) const {
   const auto size = static_cast<size_t>(path.size());
   if (size + 1 >= m_firstOfSize.size()) return Reach::None;
-  for (quint32 i = m_firstOfSize[size]; i < m_firstOfSize[size + 1]; ++i)
-    if (m_places[i].path == path) return m_places[i].reach;
+  for (quint32 i = m_firstOfSize[size]; i < m_firstOfSize[size + 1]; ++i) {
+    const Place& place = m_places[i];
+    if (place.path.back() == path.back() && place.path == path) return place.reach;
+  }
   return Reach::None;
 }
 
