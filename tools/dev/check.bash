@@ -3,6 +3,9 @@
 # Another version formats and warns otherwise.
 llvm_version=14
 
+# What clang-tidy may take in the quick tier; --full takes as long as it needs.
+quick_tidy_seconds=360
+
 # sources: every C++ file that is ours.
 sources() { find src tests bench fuzz -name '*.cpp' -o -name '*.h' -o -name '*.mm' | sort; }
 
@@ -94,7 +97,7 @@ lint() {
   check "formatting" formatting
   check "house rules" house_rules
   check "shell scripts" shell_scripts
-  check "clang-tidy" tidy
+  check "clang-tidy" tidy $quick_tidy_seconds
   end_of_checks
 }
 
@@ -115,9 +118,9 @@ shell_scripts() {
   shellcheck --external-sources --check-sourced dev .ci/run
 }
 
-# tidy: over src/, what changed since it last passed; needs what the build makes (generated files, dependencies).
+# tidy [SECONDS]: over src/, what changed since it last passed; needs what the build makes (generated files, dependencies).
 tidy() {
   local tool
   tool=$(llvm_tool clang-tidy)
-  build_strictly dev >/dev/null && { tools/dev/tidy "$tool" build/dev || is_advice "$tool"; }
+  build_strictly dev >/dev/null && { tools/dev/tidy "$tool" build/dev "$@" || is_advice "$tool"; }
 }
