@@ -63,9 +63,10 @@ removal::Verdict CleanJudge::judge(const CleanWork& work, const removal::Node& n
   if (isItem || (work.item->wholeRoot && isDirectlyBelow(node.path, work.place.path))) return judgeTarget(work, node);
 
   // What the user threw away as a whole can be emptied, whatever the rules say of what lies in it.
-  const auto exclusions = work.def->id == u"trash" ? Guard::Exclusions::Ignore : Guard::Exclusions::Ask;
-  const auto verdict = Spelled{node.path, node.realPath}.askBelow(m_guard, exclusions);
-  return verdict == Guard::Verdict::Free ? judgeOpen(node) : verdictOf(verdict);
+  const auto exclusions = work.isTrash ? Guard::Exclusions::Ignore : Guard::Exclusions::Ask;
+  const auto verdict = work.isOnePath ? m_guard.askBelow(node.path, exclusions)
+                                      : Spelled{node.path, node.realPath}.askBelow(m_guard, exclusions);
+  return verdict == Guard::Verdict::Free ? judgeOpen(work, node) : verdictOf(verdict);
 }
 
 removal::Verdict CleanJudge::judgeTarget(const CleanWork& work, const removal::Node& node) {
@@ -73,14 +74,13 @@ removal::Verdict CleanJudge::judgeTarget(const CleanWork& work, const removal::N
   if (verdict != Guard::Verdict::Free) return verdictOf(verdict);
   if (holdsMoreThanCache(node)) return removal::Verdict::KeepProtectedData;
   if (!isAdmitted(work, node)) return removal::Verdict::KeepOpen;
-  return judgeOpen(node);
+  return judgeOpen(work, node);
 }
 
-/// A folder that some process works in stays with all that is in it. One with something open inside is emptied around
-/// it.
-removal::Verdict CleanJudge::judgeOpen(const removal::Node& node) const {
+/// A folder that some process works in stays with all in it. One with something open inside is emptied around it.
+removal::Verdict CleanJudge::judgeOpen(const CleanWork& work, const removal::Node& node) const {
   const auto in = [&](const QSet<QString>& set) {
-    return set.contains(node.path) || (node.realPath != node.path && set.contains(node.realPath));
+    return set.contains(node.path) || (!work.isOnePath && set.contains(node.realPath));
   };
   if (in(m_open.files)) return removal::Verdict::KeepOpen;
   if (node.isDir) return in(m_open.parents) ? removal::Verdict::NotWhole : removal::Verdict::Remove;

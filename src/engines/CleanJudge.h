@@ -21,6 +21,8 @@ struct CleanWork {
   Spelled place;        ///< the item's path; its real path goes by where the scan found its root
   bool ownOnly = false; ///< as its root asks
   bool toTrash = false;
+  bool isOnePath = true; ///< whether both names of the place are the same, and so those of all below it
+  bool isTrash = false;  ///< of the category of the Trash
 };
 
 /// Holds the snapshots of one run. One thread.
@@ -42,7 +44,7 @@ class CleanJudge {
 
  private:
   [[nodiscard]] removal::Verdict judgeTarget(const CleanWork& work, const removal::Node& node);
-  [[nodiscard]] removal::Verdict judgeOpen(const removal::Node& node) const;
+  [[nodiscard]] removal::Verdict judgeOpen(const CleanWork& work, const removal::Node& node) const;
   [[nodiscard]] bool isAdmitted(const CleanWork& work, const removal::Node& node);
   [[nodiscard]] bool holdsMoreThanCache(const removal::Node& node) const;
 

@@ -37,12 +37,14 @@ const ScanRoot* rootOf(const CleanItem& item, const CategoryDef& def) {
 /// then must not be followed.
 CleanWork workFor(const CleanItem& item, const CategoryDef& def, bool toTrash) {
   CleanWork work{.item = &item, .def = &def, .place = {item.path, item.path}, .toTrash = toTrash};
+  work.isTrash = def.id == u"trash";
   const ScanRoot* root = rootOf(item, def);
   if (!root) return work;
   work.ownOnly = root->ownOnly;
   if (!root->realPath.isEmpty())
     work.place.realPath =
         item.wholeRoot ? root->realPath : fs::join(root->realPath, item.path.sliced(root->path.size() + 1));
+  work.isOnePath = work.place.isOne();
   return work;
 }
 
@@ -188,9 +190,8 @@ void CleanRun::carryOut(const CleanWork& work) {
   else
     remover.remove(target);
   const fs::Totals after = remover.wouldStay();
-  m_done.push_back({&work, m_itemRefused
-                               ? fs::Totals{work.item->bytes, work.item->files, 0}
-                               : fs::Totals{after.bytes - before.bytes, after.files - before.files, 0}});
+  m_done.push_back({&work, m_itemRefused ? fs::Totals{work.item->bytes, work.item->files, 0}
+                                         : fs::Totals{after.bytes - before.bytes, after.files - before.files, 0}});
 }
 
 removal::Remover& CleanRun::removerFor(const CleanWork& work) {
@@ -273,7 +274,7 @@ fs::Totals CleanRun::measureLeft(const CleanWork& work) {
   const CleanItem& item = *work.item;
   const QString& path = work.place.realPath;
   if (!item.wholeRoot && !fs::exists(path)) {
-    if (work.def->id == u"trash") trash::forget(path.section(u'/', 0, -2), names::encode(path.section(u'/', -1)));
+    if (work.isTrash) trash::forget(path.section(u'/', 0, -2), names::encode(path.section(u'/', -1)));
     return {};
   }
   fs::Entry entry;
