@@ -304,9 +304,11 @@ void tst_Cleaner_ends::refusedWithoutALock() {
 }
 
 void tst_Cleaner_ends::refusedInAForeignHome() {
-  if (::geteuid() != 0) QSKIP("only root can give a folder away");
   const QString file = m_bench->home.file(u"a/file"_s);
-  QCOMPARE(::chown(QFile::encodeName(m_bench->home.path()).constData(), 65534, 65534), 0);
+  if (::geteuid() == 0)
+    QCOMPARE(::chown(QFile::encodeName(m_bench->home.path()).constData(), 65534, 65534), 0);
+  else
+    qputenv("HOME", "/usr");
   for (const auto kind : {Cleaner::Run::ForReal, Cleaner::Run::Dry}) {
     m_bench->run({CleanBench::category(u"x"_s, {CleanBench::item(file)})}, false, {}, kind);
     QCOMPARE(m_bench->report.refusal, u"The home folder belongs to another user. Nothing was cleaned."_s);
