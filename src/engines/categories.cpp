@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace catalogue {
@@ -93,13 +95,33 @@ constexpr CategoryRow kCategories[] = {
 
 QString translated(const char* text) { return QCoreApplication::translate("Categories", text); }
 
-/// A link must not make a root of a folder that is never cleaned as a whole: the home folder, one above it, a user's
-/// own folder. The system's temporary folder stands high up, and is meant.
-bool leadsAstray(const QString& path, const QString& realPath) {
-  const QString home = fs::resolved(places::home());
-  if (!home.isEmpty() && (home == realPath || home.startsWith(fs::join(realPath, {})))) return true;
-  return realPath != u"/tmp"_s && safety::isProtected(realPath) && !safety::isProtected(path);
+/// The folders of the user's that hold no leftovers, whatever leads there.
+constexpr const char* kOwnFolders[] = {"Documents", "Desktop", "Downloads", "Pictures", "Music", "Videos", "Movies"};
+
+bool isAtOrBelow(const QString& path, const QString& folder) {
+  return path == folder || path.startsWith(fs::join(folder, {}));
 }
+
+bool isOwnFolderOrBelow(const QString& path, const QString& home) {
+  QStringList folders = places::userDirs();
+  for (const char* name : kOwnFolders) folders << under(home, QString::fromLatin1(name));
+  return std::any_of(folders.begin(), folders.end(), [&](const QString& folder) {
+    const QString real = fs::resolved(folder);
+    return isAtOrBelow(path, folder) || (!real.isEmpty() && isAtOrBelow(path, real));
+  });
+}
+
+/// Whether @p path is never cleaned as a whole: protected, the home folder or above it, or the user's own work. The
+/// system's temporary folder stands so high that it counts as protected, and is meant all the same.
+bool isPrecious(const QString& path) {
+  const QString home = places::home();
+  if (safety::isProtected(path) && path != u"/tmp"_s) return true;
+  if (home.isEmpty()) return false;
+  return isAtOrBelow(home, path) || isAtOrBelow(fs::resolved(home), path) || isOwnFolderOrBelow(path, home);
+}
+
+/// A link must not make a root of what is precious, unless its own name says the same.
+bool leadsAstray(const QString& path, const QString& realPath) { return isPrecious(realPath) && !isPrecious(path); }
 
 CategoryDef definition(const CategoryRow& row, bool mac) {
   const Words& words = mac ? row.mac : row.linux;

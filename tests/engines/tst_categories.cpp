@@ -76,13 +76,18 @@ class tst_categories : public QObject {
   void noHomeNoRoots();
   void linkedRootKnowsItsRealPath_data();
   void linkedRootKnowsItsRealPath();
-  void linkToAProtectedFolderIsNoRoot();
+  void linkToAPreciousFolderIsNoRoot_data();
+  void linkToAPreciousFolderIsNoRoot();
+  void linkedDownloadsAreARoot();
+  void linkedHomeHasItsRoots();
+  void linkedTemporaryFolder();
   void linkInsideACacheIsNoRoot();
   void fileIsNoRoot();
 
  private:
   [[nodiscard]] QString at(const QString& relative) const { return m_home->path(relative); }
 
+  const QString m_outside = u"outside"_s;
   std::unique_ptr<FixtureHome> m_home;
 };
 
@@ -271,17 +276,74 @@ void tst_categories::linkedRootKnowsItsRealPath() {
   QCOMPARE(rootAt(defs, u"dev"_s, at(u".gradle/caches"_s))->realPath, QString());
 }
 
-void tst_categories::linkToAProtectedFolderIsNoRoot() {
-  m_home->folder(u"Documents"_s);
-  m_home->folder(u".ccache"_s);
-  m_home->link(u".thumbnails"_s, m_home->path(u"Documents"_s));
-  m_home->link(u".npm/_cacache"_s, m_home->path());
-  m_home->link(u".gradle/caches"_s, u"/"_s);
-  m_home->link(u".bun/install/cache"_s, m_home->path(u".."_s));
-  m_home->link(u".cargo/registry/src"_s, u"/usr/share"_s);
+void tst_categories::linkToAPreciousFolderIsNoRoot_data() {
+  QTest::addColumn<QString>("target"); // below the home folder, or absolute
+  QTest::addColumn<bool>("isRoot");
+  QTest::newRow("another volume") << m_outside << true;
+  QTest::newRow("a folder of no meaning") << u"stuff"_s << true;
+  QTest::newRow("home folder") << u"."_s << false;
+  QTest::newRow("above the home folder") << u".."_s << false;
+  QTest::newRow("far above it") << u"/var"_s << false;
+  QTest::newRow("the root") << u"/"_s << false;
+  QTest::newRow("of the system") << u"/usr/share"_s << false;
+  QTest::newRow("the user's own") << u"Documents"_s << false;
+  QTest::newRow("in the user's own") << u"Pictures/thumbs"_s << false;
+  QTest::newRow("in the user's own behind a link") << u"Music/real"_s << false;
+  QTest::newRow("in the user's own by its localised name") << u"Bilder/thumbs"_s << false;
+}
+
+void tst_categories::linkToAPreciousFolderIsNoRoot() {
+  QFETCH(QString, target);
+  QFETCH(bool, isRoot);
+  m_home->link(u"Music"_s, m_home->folder(m_home->outside(u"volume/music"_s)));
+  QFile list(m_home->folder(u".config"_s) + "/user-dirs.dirs"_L1);
+  QVERIFY(list.open(QIODevice::WriteOnly));
+  list.write("XDG_PICTURES_DIR=\"$HOME/Bilder\"\n");
+  list.close();
+  QString path = target == m_outside ? m_home->folder(m_home->outside(u"volume/thumbs"_s)) : at(target);
+  if (target.startsWith(u'/') && target != m_outside) path = target;
+  if (path.startsWith(m_home->outside())) m_home->folder(path);
+  if (target == u"Music/real") path = m_home->outside(u"volume/music/real"_s); // what the link really leads to
+  m_home->link(u".thumbnails"_s, path);
+  const QStringList found = rootsOf(categories::forLinux(), u"thumbs"_s);
+  QCOMPARE(found, isRoot ? QStringList{at(u".thumbnails|Thumbnails|"_s)} : QStringList());
+}
+
+// What is the user's own by its own name is no less so behind a link.
+void tst_categories::linkedDownloadsAreARoot() {
+  m_home->link(u"Downloads"_s, m_home->folder(u"Documents/loads"_s));
+  const QString real = m_home->path(u"Documents/loads"_s);
+  for (const QList<CategoryDef>& defs : {categories::forMac(), categories::forLinux()}) {
+    const ScanRoot* root = rootAt(defs, u"update"_s, at(u"Downloads"_s));
+    QVERIFY(root);
+    QCOMPARE(root->realPath, real);
+  }
+}
+
+// A home folder behind a link is as good as any.
+void tst_categories::linkedHomeHasItsRoots() {
+  const QString real = m_home->path();
+  const QString link = m_home->link(m_home->outside(u"users/link"_s), real);
+  m_home->folder(u".thumbnails"_s);
+  qputenv("HOME", link.toUtf8());
   const QList<CategoryDef> defs = categories::forLinux();
-  QCOMPARE(rootsOf(defs, u"thumbs"_s), QStringList());
-  QCOMPARE(rootsOf(defs, u"dev"_s), QStringList{at(u".ccache|ccache cache|"_s)});
+  const ScanRoot* thumbs = rootAt(defs, u"thumbs"_s, link + "/.thumbnails"_L1);
+  QVERIFY(thumbs);
+  QCOMPARE(thumbs->realPath, real + "/.thumbnails"_L1);
+  QVERIFY(rootAt(defs, u"logs"_s, link));
+}
+
+// The temporary folder may be a link, but not to what the user keeps.
+void tst_categories::linkedTemporaryFolder() {
+  const QString good = m_home->link(m_home->outside(u"good"_s), m_home->folder(m_home->outside(u"volume/tmp"_s)));
+  const QString bad = m_home->link(m_home->outside(u"bad"_s), m_home->folder(u"Documents/work"_s));
+  qputenv("TMPDIR", good.toUtf8());
+  const QList<ScanRoot> roots = category(categories::forLinux(), u"temp"_s).roots;
+  QCOMPARE(roots.size(), 1);
+  QCOMPARE(fs::resolved(roots[0].path), m_home->outside(u"volume/tmp"_s));
+  qputenv("TMPDIR", bad.toUtf8());
+  QCOMPARE(rootsOf(categories::forLinux(), u"temp"_s), QStringList());
+  QCOMPARE(rootsOf(categories::forMac(), u"temp"_s), QStringList());
 }
 
 void tst_categories::linkInsideACacheIsNoRoot() {
