@@ -18,26 +18,6 @@ namespace fs {
 /// entered yet, below a chain of open folders. A folder that can't be entered is passed over without a word. Cancelling
 /// is asked for once a folder, before it. One thread at a time.
 class TreeWalk {
-  /// A stack of bytes. std::string does the same, at the price of a dozen instructions more for each folder.
-  class Bytes {
-   public:
-    [[nodiscard]] const char* data() const { return m_data.get(); }
-    [[nodiscard]] size_t size() const { return m_size; }
-    void append(const char* from, size_t size) {
-      if (m_size + size > m_capacity) grow(size);
-      std::memcpy(m_data.get() + m_size, from, size);
-      m_size += size;
-    }
-    void truncate(size_t size) { m_size = size; }
-
-   private:
-    void grow(size_t more);
-
-    std::unique_ptr<char[]> m_data;
-    size_t m_size = 0;
-    size_t m_capacity = 0;
-  };
-
  public:
   enum class Step { Folder, End, Cancelled };
 
@@ -67,6 +47,26 @@ class TreeWalk {
   }
 
  private:
+  /// A stack of bytes. std::string does the same, at the price of a dozen instructions more for each folder.
+  class Bytes {
+   public:
+    [[nodiscard]] const char* data() const { return m_data.get(); }
+    [[nodiscard]] size_t size() const { return m_size; }
+    void append(const char* from, size_t size) {
+      if (m_size + size > m_capacity) grow(size);
+      std::memcpy(m_data.get() + m_size, from, size);
+      m_size += size;
+    }
+    void truncate(size_t size) { m_size = size; }
+
+   private:
+    void grow(size_t more);
+
+    std::unique_ptr<char[]> m_data;
+    size_t m_size = 0;
+    size_t m_capacity = 0;
+  };
+
   struct Level {
     size_t name;    ///< where its name begins in m_names
     size_t waiting; ///< the first in m_waiting that lies in it

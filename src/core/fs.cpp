@@ -67,7 +67,7 @@ void fill(Entry* entry, const struct stat& status) {
   entry->device = static_cast<qint64>(status.st_dev);
   entry->dataless = sys::isDataless(status);
   entry->owner = status.st_uid;
-  entry->type = status.st_mode & S_IFMT;
+  entry->type = static_cast<quint32>(status.st_mode & S_IFMT);
 }
 
 bool reaches(int dirFd, QByteArrayView name, const struct stat& status) {

@@ -1,6 +1,7 @@
-/// Directories and file metadata: list, stat, measure and visit, without ever following a symbolic link.
-/// The one place where the engines read the disk. Keeps no state; every function runs on any thread at any time, reads
-/// only, and reports no error: an unreadable folder is an empty one, a vanished entry is none.
+/// Directories and file metadata: list, stat, measure and visit, without ever following a link that a folder holds.
+/// The one place where the engines read the disk. Paths may be longer than the system's limit. Keeps no state; every
+/// function runs on any thread at any time, reads only, and reports no error: an unreadable folder is an empty one, a
+/// vanished entry is none.
 #pragma once
 
 #include <QByteArray>
@@ -47,7 +48,8 @@ using Progress = std::function<void(const QString&, qint64, qint64)>;
 /// @p dir and @p name with one "/" between them, unless @p dir ends with "/" or a backslash.
 [[nodiscard]] QString join(const QString& dir, const QString& name);
 
-/// The entries of a folder in the system's order, hidden ones too; empty if it can't be opened.
+/// The entries of a folder in the system's order, hidden ones too; empty if it can't be opened. A @p dir that is a link
+/// to a folder is that folder. An entry's reachable tells of its own name, as @p dir is a text.
 [[nodiscard]] QList<Entry> list(const QString& dir);
 
 /// Metadata of @p path itself, a link included. False leaves @p out untouched.
@@ -60,7 +62,7 @@ using Progress = std::function<void(const QString&, qint64, qint64)>;
 /// False only if permission to list @p dir was refused; a path that is missing or no folder is true.
 [[nodiscard]] bool isReadable(const QString& dir);
 
-/// @p path with every link in it resolved; empty if it doesn't exist.
+/// @p path with every link in it resolved; empty if it doesn't exist, or if no text reaches what it leads to.
 [[nodiscard]] QString resolved(const QString& path);
 
 /// Sums what the tree under @p path holds on disk.
@@ -73,7 +75,9 @@ using Progress = std::function<void(const QString&, qint64, qint64)>;
                              const QList<QString>& exclude = {});
 
 /// Calls @p visit for every entry below @p root that is neither folder nor link, with its path and metadata; both are
-/// valid during the call and may be copied. No hard-link logic, no throttle. Stays on the device of @p root.
+/// valid during the call and may be copied. No hard-link logic, no throttle. Stays on the device of @p root, which may
+/// be a link to a folder. Like measure(), goes into the folder that was listed last first, and ends early, as if it
+/// were the end, where the way back is lost because a folder on it was moved.
 /// @param skipDir  asked with the parent path and a folder's name; true leaves it out; may be empty
 /// @return false if @p cancel ended the walk (asked once a folder)
 /// @throws std::bad_function_call if @p visit is empty

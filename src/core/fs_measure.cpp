@@ -81,6 +81,7 @@ class Measure {
 
   [[nodiscard]] qint64 bytes() const { return m_blocks * 512; }
 
+  // What is rare is kept out of the loop over a folder, where a compiler would otherwise make room for it.
   [[gnu::cold, gnu::noinline]] bool isFirstOfLinks(const struct stat& status) {
     return status.st_ino == 0 || m_links.insert(status.st_dev, status.st_ino);
   }

@@ -3,7 +3,6 @@
 
 #include <QByteArray>
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QString>
 
@@ -15,7 +14,7 @@
 
 namespace trees {
 
-inline QByteArray raw(const QString& path) { return QFile::encodeName(path); }
+inline QByteArray raw(const QString& path) { return path.toUtf8(); }
 
 /// Makes an empty file at a raw path.
 inline void touch(const QByteArray& path) {

@@ -18,7 +18,7 @@ names::Codec names::systemCodec() { return Codec::Bytes; }
 namespace sys {
 namespace {
 
-constexpr size_t kListBufferBytes = 32 * 1024;
+constexpr size_t kListBufferBytes = size_t{32} * 1024;
 
 // The kernel's record is the C library's, but for the room that the latter gives to the name.
 static_assert(sizeof(dirent::d_ino) == 8 && offsetof(dirent, d_reclen) == 16 && offsetof(dirent, d_type) == 18 &&

@@ -16,7 +16,7 @@ names::Codec names::systemCodec() { return Codec::Normalized; }
 namespace sys {
 namespace {
 
-constexpr size_t kListBufferBytes = 32 * 1024;
+constexpr size_t kListBufferBytes = size_t{32} * 1024;
 
 size_t rounded(size_t bytes) { return (bytes + alignof(dirent) - 1) / alignof(dirent) * alignof(dirent); }
 
