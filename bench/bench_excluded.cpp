@@ -5,8 +5,7 @@
 
 #include "../tests/support/expressions.h"
 #include "../tests/support/realistic_paths.h"
-
-#include <QElapsedTimer>
+#include "figure.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -21,10 +20,9 @@ constexpr int kRounds = 5; // of both, in turn; the medians are told
 
 template <typename Question>
 double msOf(const QList<QString>& all, Question question) {
-  QElapsedTimer clock;
-  clock.start();
+  const bench::Clock clock;
   for (const QString& path : all) question(path);
-  return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+  return clock.ms();
 }
 
 double median(std::vector<double> values) {

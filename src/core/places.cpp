@@ -89,7 +89,11 @@ bool holdsOneOf(const QString& path, const QStringList& folders) {
   return std::any_of(folders.cbegin(), folders.cend(), [&](const QString& one) { return isAtOrBelow(one, path); });
 }
 
-/// @p folders, and where links make another path of one, that too: Qt resolves those of the temporary folder.
+bool liesInOneOf(const QString& path, const QStringList& folders) {
+  return std::any_of(folders.cbegin(), folders.cend(), [&](const QString& one) { return isAtOrBelow(path, one); });
+}
+
+/// @p folders, and those that they are once links are resolved.
 QStringList bothSpellings(const QStringList& folders) {
   QStringList result = folders;
   for (const QString& folder : folders)
@@ -167,14 +171,17 @@ QString downloads() {
 }
 
 QString temp() {
-  const QString path = safety::normalized(QDir::tempPath());
-  if (!path.startsWith(u'/') || path == "/"_L1) return {};
+  const QString resolved = safety::normalized(QDir::tempPath());
+  if (!resolved.startsWith(u'/') || resolved == "/"_L1) return {};
+  const QString named = pathVariable("TMPDIR");
+  const QString path = QFileInfo(named).canonicalFilePath() == resolved ? named : resolved;
   if (home().isEmpty()) return path;
   const QStringList own = bothSpellings(ownFolders());
-  const bool inside =
-      std::any_of(own.cbegin(), own.cend(), [&](const QString& folder) { return isAtOrBelow(path, folder); });
-  const QStringList whole = belowHome(kKeptFolders) << home() << cache() << config() << data();
-  return inside || holdsOneOf(path, bothSpellings(whole)) ? QString() : path;
+  const QStringList whole = bothSpellings(belowHome(kKeptFolders) << home() << cache() << config() << data());
+  const auto isOthers = [&](const QString& spelling) {
+    return liesInOneOf(spelling, own) || holdsOneOf(spelling, whole);
+  };
+  return isOthers(path) || isOthers(resolved) ? QString() : path;
 }
 
 std::span<const QLatin1String> usualFolders() { return kUsualFolders; }

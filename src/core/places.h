@@ -25,8 +25,9 @@ namespace places {
 [[nodiscard]] QString cache();
 /// The user's download folder; empty if it is the home folder or lies above it.
 [[nodiscard]] QString downloads();
-/// The temporary folder, with links resolved; empty where it is missing, "/", the home folder, above it, one of the
-/// user's folders or inside one, one of keptFolders(), an XDG folder, or above one of those. Reads the disk.
+/// The temporary folder, as TMPDIR spells it; empty where it is missing or, in that spelling or with links resolved,
+/// "/", the home folder, above it, one of the user's folders or inside one, one of keptFolders(), an XDG folder, or
+/// above one of those. Reads the disk.
 [[nodiscard]] QString temp();
 
 /// The names of the user's own folders below a home folder that need no list, in every language of the desktop.

@@ -5,6 +5,7 @@
 #include "core/rules.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <atomic>
@@ -87,6 +88,16 @@ QByteArray environmentKey() {
   return key;
 }
 
+/// Every path that stands for a home folder: as the environment and the password database have it, and without links,
+/// since a root may be reached that way.
+QStringList homeFolders() {
+  QStringList homes{normalized(QDir::homePath()), places::home(), places::passwordHome()};
+  for (const QString& home : QStringList(homes)) homes << QFileInfo(home).canonicalFilePath();
+  homes.removeDuplicates();
+  homes.removeIf([](const QString& home) { return !home.startsWith(u'/') || home == "/"_L1; });
+  return homes;
+}
+
 } // namespace
 
 QString normalized(const QString& path) {
@@ -126,9 +137,7 @@ std::shared_ptr<const Locations> Locations::current() {
 
 Locations::Locations() {
   for (const QLatin1String root : kSystemRoots) add(root, Reach::Tree);
-  QStringList homes{normalized(QDir::homePath()), places::home(), places::passwordHome()};
-  homes.removeDuplicates();
-  homes.removeIf([](const QString& home) { return !home.startsWith(u'/') || home == "/"_L1; });
+  const QStringList homes = homeFolders();
   for (const QString& home : homes) addHome(home);
   if (platform::host() == platform::Host::Linux || platform::isPreview()) addLinux(homes);
   index();

@@ -1,5 +1,6 @@
 /// What must never be removed: the fixed protected locations, and the user's "Never touch these" rules.
-/// Both answers are final. Works on a path's text alone, without the disk.
+/// Both answers are final. Works on a path's text alone; the disk is read once for an environment, to tell the user's
+/// own folders and the links of the home folder.
 #pragma once
 
 #include <QList>
@@ -14,8 +15,7 @@ namespace safety {
 
 /// Whether @p path belongs to the system, or is one of the folders that a cleaner must never remove as a whole.
 /// True for an empty, relative or shallow path. The lists of platform::host() hold, and in a preview those of both
-/// hosts. Any thread; no lock but that of the environment, and of the first question in a new one, which reads the
-/// names of the user's own folders.
+/// hosts. Any thread; no lock but that of the environment.
 [[nodiscard]] bool isProtected(const QString& path);
 
 /// Whether one of @p rules matches @p path or a folder above it. A rule whose matching fails counts as a match: that is

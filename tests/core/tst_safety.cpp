@@ -103,6 +103,7 @@ class TestSafety : public QObject {
   void everyLinuxSecret();
   void otherAppsSettingsAreNoSecret();
   void homeOfThePasswordDatabase();
+  void homeThroughALink();
   void localisedFolders();
   void movedXdgFolders();
   void homeThatIsNone_data();
@@ -285,6 +286,18 @@ void TestSafety::homeOfThePasswordDatabase() {
   expectOnEitherHost(home + u"/.cache/x"_s, false);
   expectOnEitherHost(home + u"/Documents"_s, true);
   expectOnEitherHost(home + u"/.ssh/id"_s, true);
+}
+
+void TestSafety::homeThroughALink() {
+  const QString link = m_home.outside(u"people/i"_s);
+  m_home.link(link, m_home.path());
+  const Variable home("HOME", link.toUtf8());
+  for (const QString& spelling : {link, m_home.path()}) {
+    expectOnEitherHost(spelling, true);
+    expectOnEitherHost(spelling + u"/Documents"_s, true);
+    expectOnEitherHost(spelling + u"/.ssh/x"_s, true);
+    expectOnEitherHost(spelling + u"/x"_s, false);
+  }
 }
 
 void TestSafety::localisedFolders() {
