@@ -68,18 +68,20 @@ engines_under_tsan() {
       ctest --test-dir build/tsan/tests/engines --output-on-failure -j 2
 }
 
-# fuzz SECONDS: each fuzzer that long, from the inputs that earlier runs found on.
+# fuzz SECONDS: each fuzzer that long, from its corpus and the inputs that earlier runs found on.
 fuzz() {
-  local seconds=$1 program name status=0
+  local seconds=$1 program name inputs status=0
   setup build full || return
   build fuzz || return
   for program in build/fuzz/fuzz/tarnwick-fuzz-*; do
     [[ -x $program && -f $program ]] || continue
     name=${program##*/}
-    mkdir -p "build/fuzz/inputs/$name"
+    inputs=("build/fuzz/inputs/$name")
+    mkdir -p "${inputs[0]}"
+    if [[ -d fuzz/corpus/${name#tarnwick-fuzz-} ]]; then inputs+=("fuzz/corpus/${name#tarnwick-fuzz-}"); fi
     say "$name for $seconds s"
     if ! "$program" -max_total_time="$seconds" -print_final_stats=1 -artifact_prefix="build/fuzz/$name-" \
-      "build/fuzz/inputs/$name" >"build/fuzz/$name.log" 2>&1; then
+      "${inputs[@]}" >"build/fuzz/$name.log" 2>&1; then
       tail -n 40 "build/fuzz/$name.log" >&2
       say "$name failed; its input lies in build/fuzz"
       status=1
