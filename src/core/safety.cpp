@@ -70,6 +70,19 @@ bool contains(const Table& table, QStringView text) {
   return std::any_of(std::begin(table), std::end(table), [&](QLatin1String one) { return text == one; });
 }
 
+/// Told by the last character in most cases.
+bool startsWith(QStringView text, QStringView prefix) {
+  return text.size() >= prefix.size() && text[prefix.size() - 1] == prefix.back() && text.startsWith(prefix);
+}
+
+/// The text before the first "/" of @p path, which is left with what stands behind it.
+QStringView takeComponent(QStringView* path) {
+  const qsizetype slash = path->indexOf(u'/');
+  const QStringView component = path->first(slash < 0 ? path->size() : slash);
+  *path = path->sliced(slash < 0 ? path->size() : slash + 1);
+  return component;
+}
+
 /// Whether cleaning could change @p path at all.
 bool mayBeUnclean(QStringView path) {
   if (!path.startsWith(u'/')) return true;
@@ -211,12 +224,13 @@ bool Locations::isException(QStringView path) const {
 /// Whether @p path is, or lies in, the profile folder of a browser that runs as a snap or Flatpak.
 bool Locations::isBrowserData(QStringView path) const {
   for (const Sandboxes& sandboxes : m_sandboxes) {
-    if (!path.startsWith(sandboxes.parent)) continue;
-    const QList<QStringView> parts = path.sliced(sandboxes.parent.size()).split(u'/');
-    const qsizetype at = 1 + sandboxes.homeDepth;
-    if (parts.size() <= at) continue;
-    if (contains(desktop::kProfiles, parts[at])) return true;
-    if (contains(desktop::kBrowsers, parts[0]) && contains(desktop::kBrowserProfiles, parts[at])) return true;
+    if (!startsWith(path, sandboxes.parent)) continue;
+    QStringView rest = path.sliced(sandboxes.parent.size());
+    const QStringView app = takeComponent(&rest);
+    for (qsizetype i = 0; i < sandboxes.homeDepth; ++i) takeComponent(&rest);
+    const QStringView folder = takeComponent(&rest);
+    if (contains(desktop::kProfiles, folder)) return true;
+    if (contains(desktop::kBrowserProfiles, folder) && contains(desktop::kBrowsers, app)) return true;
   }
   return false;
 }
