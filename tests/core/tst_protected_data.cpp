@@ -266,6 +266,8 @@ void TestProtectedData::brokenText() {
   QVERIFY(!appguard::isProtectedAppData(u"/x/"_s + broken + u"/y"_s));
   QVERIFY(appguard::isProtectedAppData(u"/x/"_s + broken + u"/eset"_s));
   QVERIFY(appguard::isProtectedAppData(u"/x/"_s + QChar(0xdc00) + u"/eset"_s));
+  QVERIFY(appguard::isProtectedAppData(u"/x/"_s + QChar(0xdc00) + u".ime/com.eset/y"_s));
+  QVERIFY(!appguard::isProtectedAppData(u"/x/"_s + QChar(0xdc00) + u".ime/y"_s));
   QVERIFY(appguard::isProtectedName(u"com.eset\U0001F600"));
 }
 
