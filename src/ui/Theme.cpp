@@ -2,6 +2,7 @@
 
 #include "app/AppSettings.h"
 #include "ui/TipStyler.h"
+#include "ui/accessible.h"
 #include "ui/compat.h"
 #include "ui/i18n.h"
 #include "ui/paint.h"
@@ -150,6 +151,7 @@ Theme::Theme() : mac(qEnvironmentVariable("TARNWICK_LOOK") != "win"_L1) {}
 
 void Theme::install(QApplication* app) {
   m_app = app;
+  ui::installAccessibility();
   app->installEventFilter(new TipStyler(this));
   QApplication::setEffectEnabled(Qt::UI_AnimateTooltip, false);
   QApplication::setEffectEnabled(Qt::UI_FadeTooltip, false);

@@ -51,7 +51,7 @@ class AccessibleItems {
   virtual void activateItem(int index) = 0;
 };
 
-/// Makes the interfaces known to Qt. Once, when the first control is made or the program starts; more calls do nothing.
+/// Makes the interfaces known to Qt; Theme::install does it. More calls do nothing.
 void installAccessibility();
 
 /// Tells assistive tools, if there are any, that the value of @p widget has changed.

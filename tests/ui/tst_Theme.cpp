@@ -1,6 +1,7 @@
 #include "app/AppSettings.h"
 #include "support/uitest.h"
 #include "ui/Theme.h"
+#include "ui/accessible.h"
 
 #include <QFontDatabase>
 #include <QImage>
@@ -118,6 +119,7 @@ class TestTheme : public QObject {
   void everyRoleHasItsColour();
 
   void installFeedsTheApplication();
+  void installMakesPaintedControlsReadable();
   void paletteCarriesTheRoles_data();
   void paletteCarriesTheRoles();
   void applicationFontIs13Regular();
@@ -183,6 +185,14 @@ void TestTheme::installFeedsTheApplication() {
   QVERIFY(!QApplication::isEffectEnabled(Qt::UI_AnimateTooltip));
   QVERIFY(!QApplication::isEffectEnabled(Qt::UI_FadeTooltip));
   QCOMPARE(qApp->styleSheet(), Theme::get().styleSheet());
+}
+
+void TestTheme::installMakesPaintedControlsReadable() {
+  struct Bar : QWidget, ui::AccessibleValue {
+    [[nodiscard]] QString valueText() const override { return u"half"_s; }
+    [[nodiscard]] double valueFraction() const override { return 0.5; }
+  } bar;
+  QCOMPARE(QAccessible::queryAccessibleInterface(&bar)->text(QAccessible::Value), u"half"_s);
 }
 
 void TestTheme::paletteCarriesTheRoles_data() {
