@@ -2,6 +2,7 @@
 /// cache that bears the very name of something that runs belongs to it.
 #include "core/appguard.h"
 
+#include "core/names.h"
 #include "core/places.h"
 #include "core/platform.h"
 
@@ -78,9 +79,9 @@ QString ownerByPart(const QStringList& parts, qsizetype at, const RunningApps& a
 
 QStringList split(const QString& path) { return path.split(u'/', Qt::SkipEmptyParts); }
 
-/// The parts of @p path below @p root, in any case of letters; none if it doesn't lie there.
+/// The parts of @p path below @p root; none if it doesn't lie there.
 QStringList partsBelow(const QString& path, const QString& root) {
-  if (root.isEmpty() || !path.startsWith(root + u'/', Qt::CaseInsensitive)) return {};
+  if (root.isEmpty() || !path.startsWith(root + u'/')) return {};
   return split(path.mid(root.size()));
 }
 
@@ -126,17 +127,18 @@ bool OpenFiles::containsUnder(const QString& path) const { return parents.contai
 QString runningOwner(const QString& path, const RunningApps& apps) {
   const QString clean = QDir::cleanPath(QDir::fromNativeSeparators(path));
   const QStringList parts = split(clean.toLower());
-  for (qsizetype at = 0; at < parts.size(); ++at) {
-    const QString owner = ownerByPart(parts, at, apps);
-    if (!owner.isEmpty()) return owner;
-  }
-  return platform::host() == platform::Host::Linux ? ownerBelowCacheRoot(clean, apps) : QString();
+  QString owner;
+  for (qsizetype at = 0; at < parts.size() && owner.isEmpty(); ++at) owner = ownerByPart(parts, at, apps);
+  if (owner.isEmpty() && platform::host() == platform::Host::Linux) owner = ownerBelowCacheRoot(clean, apps);
+  // Some names are a package's or a folder's own, and they are shown and logged.
+  return names::escaped(owner);
 }
 
-QString knownAppName(const QString& id) {
-  for (std::span<const OwnerRow> rows : {std::span<const OwnerRow>(kOwners), std::span<const OwnerRow>(kLinuxOwners)})
+QString knownAppName(const QString& name) {
+  for (const std::span<const OwnerRow> rows :
+       {std::span<const OwnerRow>(kOwners), std::span<const OwnerRow>(kLinuxOwners)})
     for (const OwnerRow& row : rows)
-      if (row.bundleId == id) return row.displayName.toString();
+      if (row.bundleId == name || row.process == name) return row.displayName.toString();
   return {};
 }
 

@@ -56,12 +56,13 @@ struct Sources {
 /// can't be told.
 [[nodiscard]] bool isFileInUse(const QString& path, const Sources& sources = {});
 
-/// Display name of the running app that @p path belongs to; empty if none. Goes by the path's text, in any case of
-/// letters: the first part of it that names a running app decides. On the Linux host a package's cache root belongs to
-/// the package, and a folder directly below a cache root to what runs under its name. Any thread; reads no disk.
+/// Display name of the running app that @p path belongs to, fit for a log; empty if none. Goes by the path's text: the
+/// first part of it that names a running app, in any case of letters, decides. On the Linux host more folder names are
+/// known, a package's cache root belongs to the package, and a folder directly below a cache root to what runs under
+/// its name. Any thread; reads no disk.
 [[nodiscard]] QString runningOwner(const QString& path, const RunningApps& apps);
-/// Display name of the app with this lower-case id; empty for one that the program has no name for.
-[[nodiscard]] QString knownAppName(const QString& id);
+/// Display name of the app with this lower-case id or executable; empty for one that the program has no name for.
+[[nodiscard]] QString knownAppName(const QString& name);
 
 /// The macOS route, whole on every system so that tests hold it: what the tools print, taken apart.
 namespace tools {

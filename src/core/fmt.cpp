@@ -68,11 +68,11 @@ QString age(const QDateTime& when, QDate today) {
   const qint64 days = when.date().daysTo(today);
   if (days < 1) return QCoreApplication::translate("fmt", "Today");
   if (days == 1) return QCoreApplication::translate("fmt", "Yesterday");
-  if (days < 7) return ago(QT_TRANSLATE_NOOP("fmt", "%n day(s) ago"), days);
-  if (days <= 30) return ago(QT_TRANSLATE_NOOP("fmt", "%n week(s) ago"), days / 7);
+  if (days < 7) return ago(QT_TRANSLATE_N_NOOP("fmt", "%n day(s) ago"), days);
+  if (days <= 30) return ago(QT_TRANSLATE_N_NOOP("fmt", "%n week(s) ago"), days / 7);
   const int months = monthsSince(when, today);
-  if (months < 12) return ago(QT_TRANSLATE_NOOP("fmt", "%n month(s) ago"), qMax(1, months));
-  return ago(QT_TRANSLATE_NOOP("fmt", "%n year(s) ago"), months / 12);
+  if (months < 12) return ago(QT_TRANSLATE_N_NOOP("fmt", "%n month(s) ago"), qMax(1, months));
+  return ago(QT_TRANSLATE_N_NOOP("fmt", "%n year(s) ago"), months / 12);
 }
 
 QString clock(qint64 seconds) {

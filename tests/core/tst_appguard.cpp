@@ -143,7 +143,8 @@ class TestAppGuard : public QObject {
     row(".cache/mumble/deeper/below", "mumble");
     row(".cache/other/mumble", "");
     row(".cache/mumble-extras", "");
-    row(".cache/hexchat", "hexchat");
+    row(".cache/hexchat", "HexChat");
+    row(".Cache/mumble", "");
     row(".cache/org.gnome.Maps", "Maps");
     row(".cache", "");
     row("mumble", "");
@@ -155,8 +156,8 @@ class TestAppGuard : public QObject {
     row(".var/app/org.idle.App/cache/mumble", "mumble");
     row(".var/app/org.idle.App/cache/other/mumble", "");
     row(".var/app/org.idle.App/data/mumble", "");
-    row("snap/hexchat/common/.cache", "hexchat");
-    row("snap/hexchat/common/.cache/fontconfig", "hexchat");
+    row("snap/hexchat/common/.cache", "HexChat");
+    row("snap/hexchat/common/.cache/fontconfig", "HexChat");
     row("snap/hexchat/common", "");
     row("snap/hexchat/common/.config/x", "");
     row("snap/idle/common/.cache", "");
@@ -167,6 +168,7 @@ class TestAppGuard : public QObject {
     const FixtureHome home;
     RunningApps apps = running({u"org.gnome.maps"_s, u"hexchat"_s}, {u"mumble"_s});
     apps.appNames.insert(u"org.gnome.maps"_s, u"Maps"_s);
+    apps.appNames.insert(u"hexchat"_s, u"HexChat"_s);
     qputenv("TARNWICK_HOST", "linux");
     QTEST(runningOwner(home.path(path), apps), "owner");
     QCOMPARE(runningOwner(home.path(path), running({u"org.else.App"_s}, {u"else"_s})), QString());
@@ -189,9 +191,19 @@ class TestAppGuard : public QObject {
     QCOMPARE(runningOwner(home.outside(u"caches/mumble/x"_s), apps), QString());
   }
 
+  void ownersAreFitForALog() {
+    const FixtureHome home;
+    RunningApps apps = running({u"org.odd.app"_s}, {u"two\nlines"_s});
+    apps.appNames.insert(u"org.odd.app"_s, u"\u202egpj"_s);
+    qputenv("TARNWICK_HOST", "linux");
+    QCOMPARE(runningOwner(home.path(u".cache/two\nlines"_s), apps), u"two\\nlines"_s);
+    QCOMPARE(runningOwner(home.path(u".cache/org.odd.App"_s), apps), u"\\u{202e}gpj"_s);
+  }
+
   void knownNames() {
     QCOMPARE(knownAppName(u"org.mozilla.firefox"_s), u"Firefox"_s);
     QCOMPARE(knownAppName(u"com.vivaldi.vivaldi"_s), u"Vivaldi"_s);
+    QCOMPARE(knownAppName(u"chromium"_s), u"Chromium"_s);
     QCOMPARE(knownAppName(u"org.gnome.maps"_s), QString());
     QCOMPARE(knownAppName(QString()), QString());
   }

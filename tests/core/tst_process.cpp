@@ -52,7 +52,8 @@ class TestProcess : public QObject {
     clock.start();
     QCOMPARE(shell(u"trap '' TERM; echo early; exec sleep 30"_s, 200, &code), QString());
     QCOMPARE(code, -1);
-    QVERIFY2(clock.elapsed() >= 200 && clock.elapsed() < 15000, qPrintable(QString::number(clock.elapsed())));
+    // Without an end to the tool it would take the second of grace too.
+    QVERIFY2(clock.elapsed() >= 200 && clock.elapsed() < 1200, qPrintable(QString::number(clock.elapsed())));
   }
 
   void aMissingToolIsMinusOneAtOnce() {

@@ -201,7 +201,7 @@ class TestProcFs : public QObject {
     QCOMPARE(owner(u".cache/mozilla/firefox/a.default/cache2"_s), u"Firefox"_s);
     QCOMPARE(owner(u".cache/gimp"_s), u"gimp"_s);
     QCOMPARE(owner(u".var/app/org.gnome.Maps/cache"_s), u"Maps"_s);
-    QCOMPARE(owner(u"snap/chromium/common/.cache/chromium"_s), u"chromium"_s);
+    QCOMPARE(owner(u"snap/chromium/common/.cache/chromium"_s), u"Chromium"_s);
     QCOMPARE(owner(u".cache/inkscape"_s), QString());
   }
 
