@@ -64,6 +64,14 @@ as_root() {
   if [[ $(id -u) == 0 ]]; then "$@"; else sudo "$@"; fi
 }
 
+# quietly COMMAND...: without input, and with its output only if it fails.
+quietly() {
+  local output
+  if output=$("$@" </dev/null 2>&1); then return; fi
+  printf '%s\n' "$output" >&2
+  return 1
+}
+
 # name_missing REASON LIST: says what is missing, and why it isn't installed here.
 name_missing() {
   say "$1 Missing, by their Debian names:"
@@ -85,9 +93,9 @@ setup() {
     return 1
   fi
   say "missing: ${missing//$'\n'/ }; asking apt-get for its lists"
-  as_root apt-get update -qq </dev/null || { say "apt-get update failed"; return 1; }
+  quietly as_root apt-get update || { say "apt-get update failed"; return 1; }
   for name in $missing; do names+=("$(known_name "$name")"); done
   say "installing: ${names[*]}"
-  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${names[@]}" </dev/null ||
+  quietly as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${names[@]}" ||
     { say "apt-get install failed"; return 1; }
 }
