@@ -26,7 +26,7 @@ class NodePath {
   /// The node's own mark, to come back to it or to go to its children.
   [[nodiscard]] Mark mark() const;
   /// Last component of the node in the system's bytes, ending with a zero byte; valid until the node changes.
-  [[nodiscard]] const char* name() const;
+  [[nodiscard]] const char* name() const { return m_node.realRaw.constData() + m_nameStart; }
   /// Makes the child @p name of a folder above or of the node's own folder the node. @p name may not point into the
   /// node.
   void toChild(const Mark& folder, const char* name, size_t length, bool isDir);
@@ -37,6 +37,7 @@ class NodePath {
 
  private:
   Node m_node;
+  qsizetype m_nameStart = 0;
 };
 
 } // namespace removal
