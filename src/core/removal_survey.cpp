@@ -11,10 +11,9 @@ constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 constexpr qint64 kBlockBytes = 512;
 } // namespace
 
-bool Survey::run(Taints* taints) {
-  m_taints = taints;
+Survey::Result Survey::run() {
   walkAll();
-  return topHolds() || taints->all;
+  return std::move(m_result);
 }
 
 void Survey::file() {
@@ -25,8 +24,11 @@ void Survey::file() {
 bool Survey::folder() {
   const Verdict verdict = m_judge(node());
   if (verdict != Verdict::Remove) level().holds = true;
-  return verdict == Verdict::Remove || verdict == Verdict::NotWhole;
+  m_notWhole = verdict == Verdict::NotWhole;
+  return verdict == Verdict::Remove || m_notWhole;
 }
+
+void Survey::entered() { level().holds = m_notWhole; }
 
 void Survey::closed(int error) {
   if (error != ENOENT) level().holds = true;
@@ -36,13 +38,28 @@ void Survey::unknown(int) { level().holds = true; }
 
 void Survey::left() {
   const bool holds = level().holds || level().readError != 0;
-  if (holds) m_taints->inodes.insert(level().inode);
+  const quint64 inode = level().inode;
+  if (holds) takeClean();
   popLevel();
-  if (holds) level().holds = true;
+  if (holds)
+    level().holds = true;
+  else
+    level().clean.append(inode);
 }
 
+// Only what lies in a folder that has to be opened is ever asked for.
+void Survey::takeClean() {
+  for (const quint64 inode : std::as_const(level().clean)) m_result.clean.insert(inode);
+}
+
+void Survey::finished() {
+  takeClean();
+  m_result.holds = level().holds || level().readError != 0;
+}
+
+// Nothing is known to be clean then.
 void Survey::lost() {
-  m_taints->all = true;
+  m_result = {};
   stop();
 }
 

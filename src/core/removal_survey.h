@@ -9,23 +9,24 @@
 
 namespace removal {
 
-/// Finds the folders below an item of which something must stay. Asks the judge of every node, changes nothing.
+/// Finds out whether a folder may leave as a whole, and if it may not, which folders in it may. Asks the judge of every
+/// node, changes nothing.
 class Survey : public TreeWalk {
  public:
   using Judge = std::function<Verdict(const Node&)>;
 
-  /// Which folders must be opened rather than moved whole.
-  struct Taints {
-    bool all = false; ///< the survey got lost: none may be moved whole
-    QSet<quint64> inodes;
+  /// What was found.
+  struct Result {
+    bool holds = true;     ///< something in it must stay
+    QSet<quint64> clean{}; ///< inodes of the folders that may leave whole, in folders that may not
   };
 
-  /// @p top is the item's own folder, which was asked before.
+  /// @p top is the folder in question, which itself was asked before.
   Survey(sys::DirReader& reader, UniqueFd top, const NodePath& path, const Volume& volume, const Judge& judge)
       : TreeWalk(reader, std::move(top), path, volume), m_judge(judge) {}
 
-  /// Goes through the tree once. @return whether something in it must stay
-  [[nodiscard]] bool run(Taints* taints);
+  /// Goes through the tree once.
+  [[nodiscard]] Result run();
 
  protected:
   void file() override;
@@ -34,10 +35,15 @@ class Survey : public TreeWalk {
   void unknown(int error) override;
   void left() override;
   void lost() override;
+  void entered() override;
+  void finished() override;
 
  private:
+  void takeClean();
+
   const Judge& m_judge;
-  Taints* m_taints = nullptr;
+  Result m_result;
+  bool m_notWhole = false; ///< the verdict on the folder that is about to be entered
 };
 
 /// Sums what stays, the way fs::measure does: allocated bytes, files, hard links once, one device.

@@ -64,6 +64,7 @@ void TreeWalk::enter() {
     return;
   }
   m_levels.push_back({.mark = m_path.mark(), .pendingBegin = m_pending.size(), .inode = inode});
+  entered();
   read();
 }
 
@@ -124,7 +125,7 @@ void TreeWalk::visit(const char* name, size_t length, unsigned char type) {
 void TreeWalk::leave() {
   if (atTop()) {
     if (topAgain()) return;
-    m_topHolds = level().holds || level().readError != 0;
+    finished();
     popLevel();
     return;
   }

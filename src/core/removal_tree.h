@@ -7,6 +7,7 @@
 #include "core/sys.h"
 
 #include <QByteArray>
+#include <QList>
 #include <QSet>
 
 #include <string>
@@ -38,6 +39,8 @@ class TreeWalk {
     int passes = 1;              ///< how often it was read
     int readError = 0;           ///< errno that ended a listing early
     bool holds = false;          ///< something in it stays
+    bool isClean = false;        ///< a survey found that nothing in it must stay
+    QList<quint64> clean = {};   ///< inodes of its sub-folders of which a survey found that
     QSet<QByteArray> stays = {}; ///< names of what stays directly in it, where the walk keeps them
   };
 
@@ -58,6 +61,10 @@ class TreeWalk {
   virtual void lost() = 0;
   /// All in the top folder was visited: true where reading it once more found something.
   [[nodiscard]] virtual bool topAgain() { return false; }
+  /// The walk has entered the folder node(), which level() and fd() are of now, and will read it.
+  virtual void entered() {}
+  /// The walk is through; level() is the top folder's for the last time.
+  virtual void finished() {}
 
   [[nodiscard]] const Node& node() const { return m_path.node(); }
   [[nodiscard]] NodePath& path() { return m_path; }
@@ -72,8 +79,6 @@ class TreeWalk {
   void stop() { m_stopped = true; }
   [[nodiscard]] bool isStopped() const { return m_stopped; }
   void popLevel() { m_levels.pop_back(); }
-  /// After the walk: whether something in the top folder stays.
-  [[nodiscard]] bool topHolds() const { return m_topHolds; }
   /// Reads the folder node(), which was just left, once more; names in level().stays are passed over. False where it
   /// isn't the same folder any more or held nothing else; the walk then stands where it stood.
   [[nodiscard]] bool readAgain();
@@ -96,7 +101,6 @@ class TreeWalk {
   std::vector<Level> m_levels;
   std::string m_pending; ///< names of the sub-folders that wait, each with its zero byte, the deepest level's last
   bool m_stopped = false;
-  bool m_topHolds = false;
 };
 
 } // namespace removal

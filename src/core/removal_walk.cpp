@@ -81,10 +81,13 @@ void RemovalWalk::file() {
 bool RemovalWalk::folder() {
   const Verdict verdict = m_run.handlers.judge(node());
   if (!mayGo(verdict)) return false;
-  const bool open = !m_run.options.toTrash || mustOpen(verdict);
+  m_entersClean = m_run.options.toTrash && isClean() && verdict != Verdict::NotWhole;
   if (!m_run.options.dryRun) pauseBefore(node());
-  return open || moveWhole() == Whole::Open;
+  return !m_entersClean || moveWhole() == Whole::Open;
 }
+
+// What is entered though it was found clean didn't let itself be moved; what lies in it may.
+void RemovalWalk::entered() { level().isClean = m_entersClean; }
 
 // What holds before anything is tried: the verdict, the mount, the Trash.
 bool RemovalWalk::mayGo(Verdict verdict) {
@@ -101,21 +104,22 @@ bool RemovalWalk::mayGo(Verdict verdict) {
   return false;
 }
 
-// Directly below the top every folder is surveyed once, so that all it holds is known when its own folders' turn comes.
-bool RemovalWalk::mustOpen(Verdict verdict) {
-  if (atTop()) return surveyHolds() || verdict == Verdict::NotWhole;
-  if (verdict == Verdict::NotWhole || m_taints.all) return true;
+// Whether a folder may leave as a whole. Directly below the top each is surveyed once, so that all it holds is known
+// when the turn of its own folders comes. A folder that no survey has seen is opened.
+bool RemovalWalk::isClean() {
+  if (atTop()) return surveyIsClean();
+  if (level().isClean) return true;
   struct stat status;
-  return ::fstatat(fd(), name(), &status, AT_SYMLINK_NOFOLLOW) != 0 || m_taints.inodes.contains(status.st_ino);
+  return ::fstatat(fd(), name(), &status, AT_SYMLINK_NOFOLLOW) == 0 && m_clean.contains(status.st_ino);
 }
 
-bool RemovalWalk::surveyHolds() {
-  m_taints = {};
+bool RemovalWalk::surveyIsClean() {
+  m_clean.clear();
   UniqueFd own(::openat(fd(), name(), kFolderFlags));
-  if (!own) return true;
-  if (Volume::of(own.get()) != volume()) return true;
-  Survey survey(reader(), std::move(own), path(), volume(), m_run.handlers.judge);
-  return survey.run(&m_taints);
+  if (!own || Volume::of(own.get()) != volume()) return false;
+  Survey::Result found = Survey(reader(), std::move(own), path(), volume(), m_run.handlers.judge).run();
+  m_clean = std::move(found.clean);
+  return !found.holds;
 }
 
 RemovalWalk::Whole RemovalWalk::moveWhole() {

@@ -61,13 +61,14 @@ class RemovalWalk : public TreeWalk {
   void left() override;
   void lost() override;
   bool topAgain() override;
+  void entered() override;
 
  private:
   enum class Whole { Settled, Open };
 
   [[nodiscard]] bool mayGo(Verdict verdict);
-  [[nodiscard]] bool mustOpen(Verdict verdict);
-  [[nodiscard]] bool surveyHolds();
+  [[nodiscard]] bool isClean();
+  [[nodiscard]] bool surveyIsClean();
   [[nodiscard]] Whole moveWhole();
   [[nodiscard]] int predictedRefusal();
   [[nodiscard]] int predictedFolderRefusal();
@@ -81,7 +82,8 @@ class RemovalWalk : public TreeWalk {
   QByteArray m_topRaw;
   bool m_all = false;
   bool m_hasTrash = true;
-  Survey::Taints m_taints;
+  QSet<quint64> m_clean;      ///< what the last survey found
+  bool m_entersClean = false; ///< the folder that is about to be entered was found clean
 };
 
 } // namespace removal

@@ -17,9 +17,9 @@ using removal::Verdict;
 namespace {
 
 constexpr int kSwaps = 10'000;
-constexpr int kRounds = 40;
-constexpr int kFolders = 4;
-constexpr int kFiles = 6;
+constexpr int kRounds = 20;
+constexpr int kFolders = 3;
+constexpr int kFiles = 4;
 
 QByteArray raw(const QString& path) { return QFile::encodeName(path); }
 

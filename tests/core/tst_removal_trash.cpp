@@ -38,6 +38,7 @@ class TestRemovalTrash : public QObject {
   void keepsATargetThatIsJudged();
   void asksTwiceAtTheMost();
   void tellsOnce();
+  void opensWhatNoSurveySaw();
   void opensAFolderThatDoesNotMove();
   void neverDeletesWhatDoesNotMove();
   void tellsUnreadableFolders();
@@ -145,7 +146,7 @@ void TestRemovalTrash::keepsATargetThatIsJudged() {
 }
 
 void TestRemovalTrash::asksTwiceAtTheMost() {
-  // In a tree of tainted folders the questions grow with the nodes, not with their depth.
+  // In a tree of folders that have to be opened the questions grow with the nodes, not with their depth.
   QString folder = u"in/tree"_s;
   RemovalRecorder seen;
   int nodes = 1;
@@ -173,6 +174,26 @@ void TestRemovalTrash::tellsOnce() {
   Remover({.toTrash = true}, seen.handlers()).removeChildren(at(m_home.path(u"cache"_s)));
   QCOMPARE(seen.keptPaths(), (QStringList{one, three, two}));
   QVERIFY(isThere(one + u"/below"_s) && isThere(two) && isThere(three));
+}
+
+void TestRemovalTrash::opensWhatNoSurveySaw() {
+  // A folder that comes while the item is being emptied may hold what must stay.
+  const QString kept = m_home.file(u"in/tree/a/kept"_s);
+  const QString late = m_home.path(u"in/tree/a/late/deep/kept"_s);
+  m_home.file(u"in/tree/a/known/file"_s);
+  bool came = false;
+  const Pause pause([&](const removal::Node& node) {
+    if (node.path != m_home.path(u"in/tree/a"_s) || came) return;
+    came = true;
+    m_home.file(late);
+    m_home.file(u"in/tree/a/late/deep/goes"_s);
+  });
+  RemovalRecorder seen;
+  seen.verdicts = {{kept, Verdict::KeepOpen}, {late, Verdict::KeepExcluded}};
+  Remover({.toTrash = true}, seen.handlers()).remove(at(m_home.path(u"in/tree"_s)));
+  QVERIFY(came && isThere(late) && isThere(kept));
+  QCOMPARE(seen.keptPaths(), (QStringList{kept, late}));
+  QCOMPARE(namesIn(trash()), (QStringList{u"goes"_s, u"known"_s}));
 }
 
 void TestRemovalTrash::opensAFolderThatDoesNotMove() {
