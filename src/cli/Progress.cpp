@@ -52,7 +52,7 @@ void Progress::setNote(const QString& note) {
 QString Progress::scanning() const {
   const QString title = m_state.scanDefs.value(m_state.scanCategory).title;
   return (title.isEmpty() ? Words::tr("Scanning") : title) + kGap + fmt::bytes(m_state.scanBytes) + kGap +
-         Words::tr("%1 files").arg(fmt::count(m_state.scanFiles));
+         Words::tr("%1 files").arg(fmt::count(m_state.scanFiles)); // always many, so that the line stands still
 }
 
 QString Progress::cleaning() const {

@@ -1,6 +1,7 @@
 #include "cli/arguments.h"
 
 #include "app/identity.h"
+#include "cli/terminal.h"
 #include "cli/words.h"
 #include "core/names.h"
 
@@ -53,8 +54,8 @@ constexpr std::array kOptions = {
     OptionRow{"json", nullptr, kBoth, QT_TRANSLATE_NOOP("Cli", "one JSON object on standard output")},
 };
 
-constexpr qsizetype kHelpColumn = 20;
-constexpr qsizetype kHelpWidth = 78;
+constexpr int kHelpColumn = 20;
+constexpr int kHelpWidth = 78;
 const QString kProgram = u"tarnwick-cli"_s;
 
 int takerOf(Verb verb) { return verb == Verb::Scan ? kScan : kClean; }
@@ -65,19 +66,9 @@ const VerbRow* findVerb(const QString& name) {
   return found == kVerbs.end() ? nullptr : &*found;
 }
 
-/// A line of help: the left part, then the text from @p indent on, broken between words.
-QString helpLine(const QString& left, const QString& text, qsizetype indent = kHelpColumn) {
-  QString line = left.leftJustified(indent);
-  qsizetype column = line.size();
-  for (const QString& word : text.split(u' ')) {
-    if (column + 1 + word.size() > kHelpWidth) {
-      line += u'\n' + QString(indent, u' ');
-      column = indent;
-    }
-    line += u' ' + word;
-    column += 1 + word.size();
-  }
-  return line + u'\n';
+/// A line of help: the left part, then the text from @p indent on.
+QString helpLine(const QString& left, const QString& text, int indent = kHelpColumn) {
+  return left.leftJustified(indent) + u' ' + terminal::wrapped(text, kHelpWidth, indent + 1, indent + 1) + u'\n';
 }
 
 QString commonHelp() {
@@ -94,8 +85,8 @@ QString generalHelp() {
 
 QString helpOf(const VerbRow& verb, const QStringList& categoryIds) {
   const QString head = Words::tr("Usage: %1").arg(kProgram + u' ' + QLatin1String(verb.name));
-  QString text = helpLine(head, QLatin1String(verb.usage), head.size()) + u'\n' + Words::tr(verb.summary) + u"\n\n"_s +
-                 Words::tr("Options:") + u'\n';
+  QString text = helpLine(head, QLatin1String(verb.usage), static_cast<int>(head.size())) + u'\n' +
+                 Words::tr(verb.summary) + u"\n\n"_s + Words::tr("Options:") + u'\n';
   for (const OptionRow& row : kOptions) {
     if (!(row.takers & takerOf(verb.verb))) continue;
     const QString value = row.value ? u' ' + QLatin1String(row.value) : QString();
@@ -158,10 +149,23 @@ QString readOnly(const QStringList& values, const QStringList& categoryIds, QStr
   return {};
 }
 
+/// Whether some path can match: paths are absolute, so a rule with a slash in it must not begin with a name.
+bool canMatch(const QString& rule) {
+  const QChar first = rule.front();
+  return !rule.contains(u'/') || first == u'/' || first == u'~' || first == u'*';
+}
+
+/// Reads the rules into @p exclude. A rule that could never match is an error, for somebody relies on it; and the slash
+/// that a shell puts behind a folder's name goes, for no path ends in one.
 QString readExclude(const QStringList& values, QStringList* exclude) {
   for (const QString& value : values) {
-    if (value.trimmed().isEmpty()) return Words::tr("--exclude wants a rule");
-    *exclude << value;
+    QString rule = value.trimmed();
+    while (rule.size() > 1 && rule.endsWith(u'/')) rule.chop(1);
+    if (rule.isEmpty()) return Words::tr("--exclude wants a rule");
+    if (!canMatch(rule))
+      return Words::tr("the rule %1 matches nothing: a path begins with / or ~, a name has no slash")
+          .arg(quoted(value));
+    *exclude << rule;
   }
   return {};
 }

@@ -1,6 +1,7 @@
 #include "cli/terminal.h"
 
 #include <QByteArray>
+#include <QStringList>
 
 #include <algorithm>
 #include <array>
@@ -75,6 +76,34 @@ QString terminal::elided(const QString& text, int most) {
   const auto headEnd = fitting(all.begin(), all.end(), most - 1 - tail);
   const auto tailBegin = fitting(all.rbegin(), all.rend(), tail).base();
   return QString::fromStdU32String({all.begin(), headEnd}) + u'…' + QString::fromStdU32String({tailBegin, all.end()});
+}
+
+namespace {
+
+QString wrappedLine(const QString& line, int most, int indent, int used) {
+  QString text;
+  for (const QString& word : line.split(u' ')) {
+    const int wanted = terminal::columns(word);
+    if (text.isEmpty()) {
+      used += wanted;
+    } else if (used + 1 + wanted > most) {
+      text += u'\n' + QString(indent, u' ');
+      used = indent + wanted;
+    } else {
+      text += u' ';
+      used += 1 + wanted;
+    }
+    text += word;
+  }
+  return text;
+}
+
+} // namespace
+
+QString terminal::wrapped(const QString& text, int most, int indent, int used) {
+  QStringList lines;
+  for (const QString& line : text.split(u'\n')) lines << wrappedLine(line, most, indent, lines.isEmpty() ? used : 0);
+  return lines.join(u'\n');
 }
 
 } // namespace cli

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kBarCells = 12;
 constexpr int kWidthForBars = 90;
-constexpr double kMsPerSecond = 1000.0;
+constexpr int kMsPerSecond = 1000;
 constexpr auto kLeft = Table::Side::Left;
 constexpr auto kRight = Table::Side::Right;
 
@@ -34,11 +34,29 @@ qint64 sum(const QList<CategoryResult>& all, qint64 CategoryResult::*figure) {
   return total;
 }
 
-QString filesText(qint64 files) { return Words::tr("%1 files").arg(fmt::count(files)); }
+QString filesText(qint64 files) {
+  return files == 1 ? Words::tr("1 file") : Words::tr("%1 files").arg(fmt::count(files));
+}
+
+QString timeText(qint64 elapsedMs) {
+  if (elapsedMs < kMsPerSecond) return Words::tr("%1 ms").arg(elapsedMs);
+  return Words::tr("%1 s").arg(QLocale().toString(static_cast<double>(elapsedMs) / kMsPerSecond, 'f', 1));
+}
 
 bool isDeleted(const CategoryResult& one, bool toTrash) { return !toTrash || one.def.safety == Permanent; }
 
-QString paragraph(const QString& text) { return text.isEmpty() ? QString() : u'\n' + text + u'\n'; }
+/// The texts that aren't empty, each on lines of its own, and a blank line before them.
+QString paragraph(const QStringList& texts, const Paper& paper) {
+  QString all;
+  for (const QString& one : texts)
+    if (!one.isEmpty()) all += terminal::wrapped(one, paper.width) + u'\n';
+  return all.isEmpty() ? all : u'\n' + all;
+}
+
+/// Nothing is cut where it isn't for a terminal.
+QString tableText(const Table& table, const Paper& paper) {
+  return u'\n' + table.text(paper.isTerminal ? paper.width : 0, paper.colours);
+}
 
 // ---- the scan
 
@@ -98,7 +116,7 @@ QString runningNote(const QList<CategoryResult>& chosen) {
   for (const CategoryResult& one : chosen)
     for (const CleanItem& item : one.items)
       if (!item.owner.isEmpty()) owners[item.owner] += item.bytes;
-  QStringList notes;
+  QStringList notes; // a line each
   for (auto owner = owners.cbegin(); owner != owners.cend(); ++owner)
     notes << Words::tr("%1 is running, so %2 of its data will stay.")
                  .arg(names::escaped(owner.key()), fmt::bytes(owner.value()));
@@ -160,33 +178,22 @@ QString trashText(const CleanReport& report, bool toTrash) {
   return Words::tr("What was moved to the Trash takes its room until you empty it.");
 }
 
-QString lines(const QStringList& all) {
-  QString text;
-  for (const QString& one : all)
-    if (!one.isEmpty()) text += one + u'\n';
-  return text;
-}
-
 } // namespace
 
-Paper Paper::of(int fd) {
-  const bool isTerminal = terminal::isTerminal(fd);
-  return {isTerminal ? terminal::width(fd) : 0, terminal::takesColours(fd), isTerminal};
-}
+Paper Paper::of(int fd) { return {terminal::width(fd), terminal::isTerminal(fd), terminal::takesColours(fd)}; }
 
 QString scanText(const QList<CategoryResult>& categories, qint64 elapsedMs, const Paper& paper) {
-  const bool bars = paper.pictures && paper.width >= kWidthForBars;
-  const QString time = QLocale().toString(static_cast<double>(elapsedMs) / kMsPerSecond, 'f', 1);
-  return u'\n' + scanTable(categories, bars).text(paper.width, paper.colours) +
-         paragraph(lines({deniedNote(categories), safeNote(categories)}).trimmed()) +
-         paragraph(toned(Words::tr("Scanned in %1 s. Nothing was changed.").arg(time), Tone::Faint, paper.colours));
+  const bool bars = paper.isTerminal && paper.width >= kWidthForBars;
+  const QString time = Words::tr("Scanned in %1. Nothing was changed.").arg(timeText(elapsedMs));
+  return tableText(scanTable(categories, bars), paper) +
+         paragraph({deniedNote(categories), safeNote(categories)}, paper) +
+         paragraph({toned(time, Tone::Faint, paper.colours)}, paper);
 }
 
 QString planText(const Plan& plan, const Paper& paper) {
-  if (plan.chosen.isEmpty()) return lines({Words::tr("There is nothing to clean."), leftNote(plan.left)});
-  return u'\n' + planTable(plan).text(paper.width, paper.colours) +
-         paragraph(lines({runningNote(plan.chosen), withoutTrashNote(plan.bytesWithoutTrash), leftNote(plan.left)})
-                       .trimmed()) +
+  if (plan.chosen.isEmpty()) return paragraph({Words::tr("There is nothing to clean."), leftNote(plan.left)}, paper);
+  return tableText(planTable(plan), paper) +
+         paragraph({runningNote(plan.chosen), withoutTrashNote(plan.bytesWithoutTrash), leftNote(plan.left)}, paper) +
          u'\n';
 }
 
@@ -203,14 +210,17 @@ QString planQuestion(const Plan& plan) {
 }
 
 QString reportText(const CleanReport& report, bool dryRun, bool toTrash, const Paper& paper) {
-  if (dryRun) return report.dryRunLog + paragraph(Words::tr("This was a dry run: nothing was touched."));
+  if (dryRun) return report.dryRunLog + paragraph({Words::tr("This was a dry run: nothing was touched.")}, paper);
   const QString head =
       Words::tr("Freed %1, removed %2.").arg(fmt::bytes(report.freedBytes), filesText(report.removedFiles));
   const QString admin =
       report.needsAdmin ? Words::tr("Some files belong to the system and were left alone.") : QString();
-  return lines({toned(head, Tone::Strong, paper.colours), trashText(report, toTrash), skippedText(report),
-                runningText(report), admin,
-                toned(Words::tr("Log: %1").arg(names::escaped(report.logPath)), Tone::Faint, paper.colours)});
+  QString text = toned(head, Tone::Strong, paper.colours) + u'\n';
+  for (const QString& one :
+       {trashText(report, toTrash), skippedText(report), runningText(report), admin,
+        toned(Words::tr("Log: %1").arg(names::escaped(report.logPath)), Tone::Faint, paper.colours)})
+    if (!one.isEmpty()) text += one + u'\n';
+  return text;
 }
 
 } // namespace cli

@@ -9,9 +9,9 @@ namespace cli {
 
 /// Where a text is going to stand.
 struct Paper {
-  int width = 0; ///< columns; 0 or less: no limit
+  int width = 80; ///< columns
+  bool isTerminal = false;
   bool colours = false;
-  bool pictures = false; ///< whether bars make sense
   /// What the descriptor @p fd can take.
   [[nodiscard]] static Paper of(int fd);
 };

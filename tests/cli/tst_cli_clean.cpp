@@ -59,7 +59,9 @@ class tst_cli_clean : public QObject {
   void dryRunTouchesNothing();
   void dryRunTellsWhatStays();
   void exclusionsHold();
+  void exclusionsFromTheShell();
   void excludedBelowAnItemIsNoFailure();
+  void volumesWithoutATrash();
   void openFilesStay();
   void namesThatAreNoText();
   void namesThatAttackTheTerminal();
@@ -257,6 +259,38 @@ void tst_cli_clean::exclusionsHold() {
   QVERIFY(there(u".cache/acme-notes/index"_s));
   QVERIFY(there(u".cache/thumbnails/normal/1.png"_s));
   QVERIFY(!there(u".xsession-errors.old"_s));
+}
+
+void tst_cli_clean::exclusionsFromTheShell() {
+  const QString folder = m_home->path(u".cache/acme-notes/"_s) + u'/'; // as a shell completes it
+  QVERIFY(folder.endsWith(u"notes/"_s));
+  QCOMPARE(clean({u"--delete"_s, u"--exclude"_s, folder}).code, 0);
+  QVERIFY(there(u".cache/acme-notes/index"_s));
+  QVERIFY(!there(u".cache/acme-paint/brushes"_s));
+}
+
+void tst_cli_clean::volumesWithoutATrash() {
+  if (::geteuid() != 0) QSKIP("only root may mount");
+  const QString prepare = u"mount -t tmpfs none \"$TMPDIR\" && head -c 5000 /dev/zero > \"$TMPDIR/old\" && "
+                          "touch -d '3 days ago' \"$TMPDIR/old\" && "_s;
+  const auto inMemory = [&](const QString& options) {
+    QProcess process;
+    process.start(u"unshare"_s,
+                  {u"-m"_s, u"/bin/sh"_s, u"-c"_s,
+                   prepare + u"'%1' clean --yes --only temp %2; code=$?; ls \"$TMPDIR\"; exit $code"_s.arg(cliProgram(),
+                                                                                                           options)});
+    return finish(&process);
+  };
+  const CliRun moved = inMemory(u"--trash"_s);
+  if (moved.out.isEmpty()) QSKIP("mounting isn't permitted");
+  QCOMPARE(moved.code, 1);
+  QVERIFY2(moved.out.contains("without a Trash and will stay"), moved.out.constData());
+  QVERIFY(moved.out.contains("Skipped, 1 in all"));
+  QVERIFY(moved.out.endsWith("\nold\n"));
+  const CliRun deleted = inMemory(u"--delete"_s);
+  QCOMPARE(deleted.code, 0);
+  QVERIFY(!deleted.out.contains("without a Trash"));
+  QVERIFY(!deleted.out.endsWith("old\n"));
 }
 
 void tst_cli_clean::excludedBelowAnItemIsNoFailure() {

@@ -17,6 +17,8 @@ class tst_cli_table : public QObject {
   void elided_data();
   void elided();
   void elidedNeverTooWide();
+  void wrapped_data();
+  void wrapped();
   void alignsByColumns();
   void lastColumnGivesWay();
   void ruleIsAsWideAsTheColumns();
@@ -70,6 +72,29 @@ void tst_cli_table::elidedNeverTooWide() {
     QVERIFY(cli::terminal::columns(shown) <= qMax(0, most));
     QVERIFY(shown.isValidUtf16());
   }
+}
+
+void tst_cli_table::wrapped_data() {
+  QTest::addColumn<QString>("text");
+  QTest::addColumn<int>("most");
+  QTest::addColumn<int>("indent");
+  QTest::addColumn<int>("used");
+  QTest::addColumn<QString>("lines");
+  QTest::newRow("fits") << u"a bc def"_s << 8 << 0 << 0 << u"a bc def"_s;
+  QTest::newRow("one less") << u"a bc def"_s << 7 << 0 << 0 << u"a bc\ndef"_s;
+  QTest::newRow("indent") << u"a bc def"_s << 6 << 3 << 0 << u"a bc\n   def"_s;
+  QTest::newRow("used") << u"a bc def"_s << 6 << 0 << 3 << u"a\nbc def"_s;
+  QTest::newRow("long word") << u"a bcdefghij k"_s << 4 << 0 << 0 << u"a\nbcdefghij\nk"_s;
+  QTest::newRow("wide") << u"简体 中文"_s << 8 << 0 << 0 << u"简体\n中文"_s;
+  QTest::newRow("own breaks") << u"a b\nc d"_s << 3 << 2 << 2 << u"a\n  b\nc d"_s;
+}
+
+void tst_cli_table::wrapped() {
+  QFETCH(QString, text);
+  QFETCH(int, most);
+  QFETCH(int, indent);
+  QFETCH(int, used);
+  QTEST(cli::terminal::wrapped(text, most, indent, used), "lines");
 }
 
 void tst_cli_table::alignsByColumns() {

@@ -6,7 +6,10 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <cstdio>
+
 #include <fcntl.h>
+#include <ftw.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -27,7 +30,14 @@ FixtureHome::FixtureHome() : m_dir(QStringLiteral("/var/tmp/tarnwick-test-XXXXXX
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, outside(QStringLiteral("settings")));
 }
 
-FixtureHome::~FixtureHome() { qputenv("HOME", m_oldHome); }
+FixtureHome::~FixtureHome() {
+  qputenv("HOME", m_oldHome);
+  // By their bytes, since names that are no text would stay otherwise, and from folder to folder, however deep.
+  ::nftw(
+      QFile::encodeName(m_dir.path()).constData(),
+      [](const char* path, const struct stat*, int, FTW* at) { return std::remove(path + at->base), 0; }, 16,
+      FTW_DEPTH | FTW_PHYS | FTW_CHDIR);
+}
 
 QString FixtureHome::outside(const QString& relative) const {
   return QDir::cleanPath(m_dir.path() + QLatin1Char('/') + relative);
