@@ -12,8 +12,8 @@
 
 #include <memory>
 
-inline const QString kThumbs = QStringLiteral("thumbs");  ///< rated Safe
-inline const QString kUpdate = QStringLiteral("update");  ///< rated Review
+inline const QString kThumbs = QStringLiteral("thumbs"); ///< rated Safe
+inline const QString kUpdate = QStringLiteral("update"); ///< rated Review
 
 /// A category with one item.
 inline CategoryResult found(const QString& id, qint64 bytes, Safety safety = Safe) {
@@ -47,7 +47,7 @@ class FlowTest : public QObject {
     qputenv("TARNWICK_HOST", "linux");
     AppSettings::instance(); // lives as long as the process, so its store is not that of one test's home
   }
-  ~FlowTest() override { QSettings().sync(); }
+  ~FlowTest() override { QCoreApplication::processEvents(); } // writes the settings while their folder is there
 
   void fill() {
     m_home = std::make_unique<FixtureHome>();

@@ -186,13 +186,16 @@ void tst_AppState_clean::dryRun() {
 }
 
 void tst_AppState_clean::stopClean() {
-  constexpr int kItems = 300;
+  constexpr int kItems = 200;
+  constexpr int kRules = 3'000;
   for (int i = 0; i < kItems; ++i) m_home->file(u"Downloads/many-%1.deb"_s.arg(i), 10);
   scan();
   m_state->selectAll(false);
   m_state->setSelected(kUpdate, true);
+  RunOptions slowly; // rules that match nothing, and take their time to tell
+  for (int i = 0; i < kRules; ++i) slowly.furtherExclusions << u"/*a*e*o*%1*"_s.arg(kRules + i);
   connect(m_state.get(), &AppState::cleanProgress, m_state.get(), [this] { m_state->stopClean(); });
-  clean();
+  clean(slowly);
   QCOMPARE(m_state->phase, AppState::Done);
   QVERIFY(m_state->report.cleanedIds.isEmpty());
   QVERIFY(m_state->report.removedFiles < kItems);
