@@ -14,9 +14,11 @@ namespace cli {
 namespace {
 
 std::array<int, 2> pipeEnds = {-1, -1}; // reading, writing; for the life of the process
+volatile std::sig_atomic_t hasCome = 0;
 
 void onSignal(int) {
   const int before = errno;
+  hasCome = 1;
   const char byte = 0;
   [[maybe_unused]] const ssize_t count = ::write(pipeEnds[1], &byte, 1);
   errno = before;
@@ -53,11 +55,12 @@ Interrupts::Interrupts() {
   if (!isIgnored(SIGHUP)) handle(SIGHUP);
 }
 
+bool Interrupts::raised() const { return hasCome != 0; }
+
 void Interrupts::onReadable() {
   std::array<char, 16> bytes{};
   while (::read(pipeEnds[0], bytes.data(), bytes.size()) > 0) {
   }
-  m_raised = true;
   emit interrupted();
 }
 

@@ -12,8 +12,8 @@ class Interrupts : public QObject {
   /// From here on SIGINT, SIGTERM and SIGHUP (unless it was ignored, as under nohup) no longer end the process.
   Interrupts();
 
-  /// Whether one has come.
-  [[nodiscard]] bool raised() const { return m_raised; }
+  /// Whether one has come, also before the event loop had its turn.
+  [[nodiscard]] bool raised() const;
 
  signals:
   /// One has come; once each.
@@ -21,8 +21,6 @@ class Interrupts : public QObject {
 
  private:
   void onReadable();
-
-  bool m_raised = false;
 };
 
 } // namespace cli

@@ -16,17 +16,18 @@ using namespace Qt::StringLiterals;
 namespace cli {
 namespace {
 
+/// Whether a line was ended, and is a yes.
+bool meansYes(const QByteArray& line) {
+  const QByteArray word = line.trimmed().toLower();
+  return line.contains('\n') && (word == "y" || word == "yes");
+}
+
 /// Takes what standard input has to give into @p line. False at its end.
 bool readInput(QByteArray* line) {
   std::array<char, 256> bytes{};
   const ssize_t count = ::read(terminal::kInput, bytes.data(), bytes.size());
   if (count > 0) line->append(bytes.data(), count);
   return count > 0;
-}
-
-bool meansYes(const QByteArray& line) {
-  const QByteArray word = line.trimmed().toLower();
-  return word == "y" || word == "yes";
 }
 
 } // namespace
@@ -64,13 +65,10 @@ Session::Answer Session::ask(const QString& question, int fd) {
   connect(&input, &QSocketNotifier::activated, &loop, [&] {
     if (!readInput(&line) || line.contains('\n')) loop.quit();
   });
-  connect(&m_interrupts, &Interrupts::interrupted, &loop, [&] {
-    line.clear();
-    loop.quit();
-  });
+  connect(&m_interrupts, &Interrupts::interrupted, &loop, &QEventLoop::quit);
   if (!interrupted()) loop.exec();
   if (!line.contains('\n')) out.write(u"\n"_s);
-  return meansYes(line) && line.contains('\n') ? Answer::Yes : Answer::No;
+  return meansYes(line) && !interrupted() ? Answer::Yes : Answer::No;
 }
 
 } // namespace cli

@@ -101,7 +101,7 @@ ExitCode Clean::run() {
     if (!m_command.json) m_out->write(planText(what, Paper::of(m_out->fd())));
     return ended({});
   }
-  if (!agreed(what)) return ended({});
+  if (!agreed(what) || m_session.interrupted()) return ended({});
   m_session.clean(options());
   const CleanReport& report = m_session.state().report;
   if (!m_command.json && report.refusal.isEmpty())

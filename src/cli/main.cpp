@@ -10,7 +10,8 @@
 
 namespace {
 
-/// Qt warns where the locale's encoding isn't UTF-8, as in a timer job. It then writes UTF-8, and so do we.
+/// Later versions of Qt warn where the locale's encoding isn't UTF-8, as in a timer job. They then write UTF-8, and so
+/// do we, so that there is nothing to say.
 std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) {
   const QtMessageHandler usual = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   auto application = std::make_unique<QCoreApplication>(argc, argv);

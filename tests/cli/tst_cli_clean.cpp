@@ -63,6 +63,7 @@ class tst_cli_clean : public QObject {
   void excludedBelowAnItemIsNoFailure();
   void volumesWithoutATrash();
   void openFilesStay();
+  void dataOfRunningAppsStays();
   void namesThatAreNoText();
   void namesThatAttackTheTerminal();
   void historyGrowsAndLastScanStays();
@@ -315,6 +316,27 @@ void tst_cli_clean::openFilesStay() {
   QCOMPARE(asText.code, 1);
   QVERIFY2(asText.out.contains("Skipped, 1 in all"), asText.out.constData());
   QVERIFY(asText.out.contains(path.toUtf8()));
+}
+
+void tst_cli_clean::dataOfRunningAppsStays() {
+  const QString program = m_home->path(u"bin/acme-notes"_s); // an app that is named like its cache
+  m_home->folder(u"bin"_s);
+  QVERIFY(QFile::copy(u"/bin/sleep"_s, program));
+  QProcess app;
+  app.start(program, {u"1000"_s});
+  QVERIFY(app.waitForStarted());
+  const CliRun dry = runCli({u"clean"_s, u"--dry-run"_s, u"--delete"_s});
+  const CliRun asJson = clean({u"--delete"_s, u"--json"_s});
+  const CliRun asText = clean({u"--delete"_s});
+  app.kill();
+  app.waitForFinished();
+  for (const CliRun& run : {dry, asJson, asText}) QCOMPARE(run.code, 1);
+  QVERIFY2(dry.out.contains("is running, so"), dry.out.constData());
+  QCOMPARE(strings(asJson.json()[u"runningApps"_s]), QStringList{u"acme-notes"_s});
+  QCOMPARE(asJson.json()[u"skipped"_s].toInteger(), 0);
+  QVERIFY2(asText.out.contains("because they are running: acme-notes"), asText.out.constData());
+  QVERIFY(there(u".cache/acme-notes/index"_s));
+  QVERIFY(!there(u".cache/acme-paint/brushes"_s));
 }
 
 void tst_cli_clean::namesThatAreNoText() {

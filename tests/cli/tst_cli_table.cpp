@@ -1,8 +1,13 @@
-// The pieces of what is shown: widths, ellipses, tables, bars.
+// The pieces of what is shown: descriptors, widths, ellipses, tables, bars.
 #include "cli/Table.h"
+#include "cli/output.h"
 #include "cli/terminal.h"
 
 #include <QTest>
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using cli::Table;
@@ -12,6 +17,7 @@ class tst_cli_table : public QObject {
   Q_OBJECT
 
  private slots:
+  void standardDescriptorsAreKept();
   void columns_data();
   void columns();
   void elided_data();
@@ -26,6 +32,20 @@ class tst_cli_table : public QObject {
   void bars_data();
   void bars();
 };
+
+void tst_cli_table::standardDescriptorsAreKept() {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    for (const int fd : {0, 1, 2}) ::close(fd);
+    cli::prepareDescriptors();
+    const char byte = 0;
+    const bool useless = ::write(1, &byte, 1) == -1 && ::write(2, &byte, 1) == -1;
+    ::_exit(useless && ::open("/", O_RDONLY) > 2 ? 0 : 1);
+  }
+  int status = -1;
+  QCOMPARE(::waitpid(child, &status, 0), child);
+  QCOMPARE(status, 0);
+}
 
 void tst_cli_table::columns_data() {
   QTest::addColumn<QString>("text");

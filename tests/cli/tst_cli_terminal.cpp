@@ -12,6 +12,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <csignal>
+
+#include <fcntl.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -39,6 +44,7 @@ class tst_cli_terminal : public QObject {
   void questionsByMode_data();
   void questionsByMode();
   void ctrlCAtTheQuestion();
+  void yesAndSignalAtOnce();
   void hangUpAtTheQuestion();
   void yesAsksNothing();
   void dryRunAsksNothing();
@@ -135,6 +141,18 @@ void tst_cli_terminal::ctrlCAtTheQuestion() {
   QCOMPARE(wholeTree(*m_home), before);
 }
 
+void tst_cli_terminal::yesAndSignalAtOnce() {
+  const auto before = wholeTree(*m_home);
+  Pty pty({u"clean"_s, u"--delete"_s});
+  QVERIFY(pty.shows(kQuestion));
+  ::kill(static_cast<pid_t>(pty.pid()), SIGSTOP); // so that it finds both when it goes on
+  pty.type("y\n");
+  ::kill(static_cast<pid_t>(pty.pid()), SIGINT);
+  ::kill(static_cast<pid_t>(pty.pid()), SIGCONT);
+  QCOMPARE(pty.finish(), 130);
+  QCOMPARE(wholeTree(*m_home), before);
+}
+
 void tst_cli_terminal::hangUpAtTheQuestion() {
   const auto before = wholeTree(*m_home);
   const QString out = m_home->outside(u"out"_s);
@@ -205,23 +223,29 @@ void tst_cli_terminal::nobodyToAnswer() {
 }
 
 void tst_cli_terminal::progressOfAScan() {
-  constexpr int kManyFolders = 30'000;
-  const QTemporaryDir memory(u"/dev/shm/tarnwick-test-XXXXXX"_s); // where many folders cost little
+  constexpr int kCaches = 100;
+  constexpr int kFilesEach = 410;                                 // the walk tells where it is after every 400th file
+  const QTemporaryDir memory(u"/dev/shm/tarnwick-test-XXXXXX"_s); // where many files cost little
   if (!memory.isValid()) QSKIP("there is no file system in memory");
   qputenv("XDG_CACHE_HOME", QFile::encodeName(memory.path()));
-  const QString odd = memory.path() + u"/acme-notes/many\x1b[31m"_s;
-  QVERIFY(QDir().mkpath(odd));
-  for (int i = 0; i < kManyFolders; ++i) QVERIFY(QDir(odd).mkdir(QString::number(i)));
-  m_home->link(odd + u"/link"_s, u"nowhere"_s);
+  for (int i = 0; i < kCaches; ++i) {
+    const QString cache = memory.path() + u"/n%1\x1b[31m"_s.arg(i);
+    QVERIFY(QDir().mkdir(cache));
+    for (int k = 0; k < kFilesEach; ++k)
+      ::close(::open(QFile::encodeName(cache + u'/' + QString::number(k)).constData(), O_WRONLY | O_CREAT, 0600));
+  }
   const QString out = m_home->outside(u"out"_s);
-  Pty pty({u"scan"_s, u"--json"_s}, {.outTo = out});
-  QVERIFY(pty.shows("App caches  "));
-  QCOMPARE(pty.finish(), 0);
-  const QRegularExpression line(u"\r\x1b\\[KApp caches  [\\d.,]+ .B  [\\d,]+ files  0:0\\d  "_s);
-  QVERIFY2(line.match(QString::fromUtf8(pty.shown())).hasMatch(), pty.shown().constData());
-  QVERIFY(!pty.shown().contains("\x1b[31m")); // no path speaks to the terminal
-  QVERIFY(pty.shown().endsWith("\r\x1b[K"));
-  for (const QByteArray& drawn : pty.shown().split('\r')) QVERIFY(QString::fromUtf8(drawn).size() <= 99 + 3);
+  Pty pty(QStringList{u"scan"_s, u"--json"_s} + slowRules(), {.outTo = out});
+  const int code = pty.finish();
+  qunsetenv("XDG_CACHE_HOME");
+  QCOMPARE(code, 0);
+  const QString shown = QString::fromUtf8(pty.shown());
+  const QRegularExpression line(u"\r\x1b\\[KApp caches  [\\d.,]+ .B  [\\d,]+ files  0:\\d\\d  "_s);
+  QVERIFY2(line.match(shown).hasMatch(), pty.shown().constData());
+  QVERIFY2(shown.contains(u"\\x1b[31m"_s), pty.shown().constData()); // no path speaks to the terminal
+  QVERIFY(!shown.contains(u"\x1b[31m"_s));
+  QVERIFY(shown.endsWith(u"\r\x1b[K"_s));
+  for (const QString& drawn : shown.split(u"\r\x1b[K"_s)) QVERIFY2(drawn.size() <= 99, qPrintable(drawn));
   QVERIFY(QJsonDocument::fromJson(contents(out)).isObject());
 }
 
