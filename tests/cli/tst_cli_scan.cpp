@@ -70,6 +70,7 @@ class tst_cli_scan : public QObject {
   void interrupted_data();
   void interrupted();
   void interruptedWithoutJson();
+  void goesOnUnderNohup();
 
  private:
   [[nodiscard]] QJsonObject scanned(const QStringList& further = {}) const {
@@ -306,6 +307,19 @@ void tst_cli_scan::interruptedWithoutJson() {
   QCOMPARE(run.code, 130);
   QCOMPARE(run.out, QByteArray());
   QVERIFY(run.err.contains("cancelled"));
+}
+
+void tst_cli_scan::goesOnUnderNohup() {
+  addManyItems(*m_home, kManyItems);
+  QProcess process;
+  process.setChildProcessModifier([] { std::signal(SIGHUP, SIG_IGN); });
+  process.start(cliProgram(), QStringList{u"scan"_s, u"--json"_s} + slowRules());
+  QVERIFY(process.waitForStarted());
+  const pid_t pid = static_cast<pid_t>(process.processId());
+  while (!process.waitForFinished(1) && process.state() == QProcess::Running) ::kill(pid, SIGHUP);
+  const CliRun run = finish(&process);
+  QCOMPARE(run.code, 0);
+  QCOMPARE(run.json()[u"cancelled"_s], QJsonValue(false));
 }
 
 QTEST_GUILESS_MAIN(tst_cli_scan)

@@ -31,7 +31,7 @@ QJsonObject CliRun::json() const {
 }
 
 CliRun finish(QProcess* process) {
-  if (!process->waitForFinished(kPatienceMs)) return {};
+  if (process->state() != QProcess::NotRunning && !process->waitForFinished(kPatienceMs)) return {};
   const bool crashed = process->exitStatus() != QProcess::NormalExit;
   return {crashed ? -1 : process->exitCode(), process->readAllStandardOutput(), process->readAllStandardError()};
 }
