@@ -54,8 +54,12 @@ void AppState::refreshVolume() {
   emit volumeChanged();
 }
 
+// A worker may be through while its last signal is still on its way; the run lasts until that has arrived. The scanner
+// alone may still be running for a moment after that, which a clean need not wait for.
+bool AppState::isBusy() const { return phase == Scanning || phase == Cleaning || cleaner->isRunning(); }
+
 void AppState::startScan(const RunOptions& options) {
-  if (scanner->isRunning() || cleaner->isRunning()) return;
+  if (isBusy() || scanner->isRunning()) return;
   m_scanOptions = options;
   scanDefs.clear();
   scanResults.clear();
@@ -87,7 +91,7 @@ void AppState::onScanFinished(const QList<CategoryResult>& found, bool cancelled
 
 void AppState::clean(const RunOptions& options) {
   const QList<CategoryResult> chosen = selectedResults();
-  if (chosen.isEmpty() || phase == Scanning || cleaner->isRunning()) return;
+  if (chosen.isEmpty() || isBusy()) return;
   const AppSettings& settings = AppSettings::instance();
   m_dryRun = options.dryRun;
   freeBeforeClean = volume.availableBytes;

@@ -127,6 +127,7 @@ class AppState : public QObject {
 
  private:
   void connectScanner();
+  [[nodiscard]] bool isBusy() const;
   void onScanFinished(const QList<CategoryResult>& found, bool cancelled);
   void onCleanFinished(const CleanReport& cleaned);
 

@@ -18,6 +18,7 @@ class tst_AppState_clean : public FlowTest {
 
   void cleanWithoutASelection();
   void cleanDuringAScan();
+  void cleanBeforeTheEndIsHeard();
   void realClean();
   void cleanKeepsOtherCategories();
   void modeComesFromSettingsOrOptions_data();
@@ -48,6 +49,21 @@ void tst_AppState_clean::cleanDuringAScan() {
   QCOMPARE(m_state->phase, AppState::Scanning);
   QVERIFY(!m_state->cleaner->isRunning());
   QTRY_COMPARE(m_state->phase, AppState::Review);
+}
+
+void tst_AppState_clean::cleanBeforeTheEndIsHeard() {
+  scan();
+  const qint64 bytes = m_state->selectedBytes();
+  m_state->clean();
+  while (m_state->cleaner->isRunning()) {
+  } // its report waits in the queue now, and the selection still stands
+  const QString later = m_home->file(u".cache/thumbnails/normal/later.png"_s);
+  m_state->clean();
+  m_state->startScan();
+  QVERIFY(!m_state->cleaner->isRunning() && !m_state->scanner->isRunning());
+  QTRY_COMPARE(m_state->phase, AppState::Done);
+  QVERIFY(QFileInfo::exists(later));
+  QCOMPARE(AppSettings::instance().freedHistory(1), QList<qint64>{bytes});
 }
 
 void tst_AppState_clean::realClean() {

@@ -44,6 +44,7 @@ class tst_AppState_scan : public FlowTest {
   void realScan();
   void realScanOfSome();
   void startDuringAScanChangesNothing();
+  void startBeforeTheEndIsHeardChangesNothing();
   void startDuringACleanChangesNothing();
   void cancelRealScan();
   void unrecordedScan();
@@ -205,6 +206,19 @@ void tst_AppState_scan::startDuringAScanChangesNothing() {
   QCOMPARE(m_state->scanTimer.msecsSinceReference(), started);
   QTRY_COMPARE(m_state->phase, AppState::Review);
   QVERIFY(m_state->result(kThumbs)->bytes > 0); // the first one's options hold
+  QVERIFY(m_state->lastScan.isValid());
+}
+
+void tst_AppState_scan::startBeforeTheEndIsHeardChangesNothing() {
+  m_state->startScan();
+  while (m_state->scanner->isRunning()) {
+  } // its last signals wait in the queue now
+  m_state->scanBytes = 77;
+  m_state->startScan({.only = {kUpdate}, .furtherExclusions = {}, .moveToTrash = {}, .recordLastScan = false});
+  QCOMPARE(m_state->scanBytes, 77);
+  QVERIFY(!m_state->scanner->isRunning());
+  QTRY_COMPARE(m_state->phase, AppState::Review);
+  QVERIFY(m_state->result(kThumbs)->bytes > 0);
   QVERIFY(m_state->lastScan.isValid());
 }
 
