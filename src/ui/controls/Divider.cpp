@@ -1,0 +1,16 @@
+#include "ui/controls/Divider.h"
+
+#include "ui/Theme.h"
+
+#include <QPainter>
+
+namespace ui {
+
+Divider::Divider(QWidget* parent) : QWidget(parent) {
+  setFixedHeight(1);
+  connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
+}
+
+void Divider::paintEvent(QPaintEvent* /*event*/) { QPainter(this).fillRect(rect(), Theme::get().line); }
+
+} // namespace ui

@@ -1,0 +1,32 @@
+#include "ui/controls/ElidedLabel.h"
+
+#include "ui/controls/factory.h"
+
+#include <QPainter>
+
+namespace ui {
+
+namespace {
+constexpr QChar kEllipsis(0x2026);
+constexpr int kSpareWidth = 8;
+} // namespace
+
+ElidedLabel::ElidedLabel(const QString& text, const char* role, QWidget* parent) : QLabel(text, parent) {
+  setRole(this, role);
+  setToolTip(text);
+  setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
+}
+
+QSize ElidedLabel::minimumSizeHint() const {
+  return {fontMetrics().horizontalAdvance(kEllipsis) + kSpareWidth, QLabel::minimumSizeHint().height()};
+}
+
+void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
+  const QRect room = contentsRect();
+  QPainter painter(this);
+  painter.setPen(palette().color(foregroundRole()));
+  painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
+                   fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
+}
+
+} // namespace ui

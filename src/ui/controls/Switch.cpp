@@ -1,0 +1,72 @@
+#include "ui/controls/Switch.h"
+
+#include "ui/Theme.h"
+#include "ui/controls/KeyboardFocus.h"
+#include "ui/paint.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace ui {
+
+namespace {
+// Lengths in pixels.
+constexpr QSize kSize(40, 22);
+constexpr double kKnobInset = 3;
+constexpr double kRingInset = 4; // the ring lies on the track's edge, as there is no room around it
+} // namespace
+
+SwitchLayout switchLayout(const QSize& size, bool checked) {
+  const QRectF box(0, (size.height() - kSize.height()) / 2, kSize.width(), kSize.height()); // on whole pixels
+  SwitchLayout layout;
+  layout.track = paint::hairline(box);
+  const double side = layout.track.height() - 2 * kKnobInset;
+  layout.knob = QRectF(layout.track.left() + kKnobInset, layout.track.top() + kKnobInset, side, side);
+  if (checked) layout.knob.moveRight(layout.track.right() - kKnobInset);
+  return layout;
+}
+
+Switch::Switch(QWidget* parent) : QAbstractButton(parent), m_focus(new KeyboardFocus(this)) {
+  setCheckable(true);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_Hover);
+  connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
+}
+
+QSize Switch::sizeHint() const { return kSize; }
+
+void Switch::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+  case Qt::Key_Return:
+  case Qt::Key_Enter:
+    if (!event->isAutoRepeat()) click();
+    break;
+  case Qt::Key_Left:
+    if (isChecked()) click();
+    break;
+  case Qt::Key_Right:
+    if (!isChecked()) click();
+    break;
+  default:
+    QAbstractButton::keyPressEvent(event);
+  }
+}
+
+void Switch::paintEvent(QPaintEvent* /*event*/) {
+  const Theme& theme = Theme::get();
+  const auto [track, knob] = switchLayout(size(), isChecked());
+  const double radius = track.height() / 2;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (isChecked())
+    paint::roundedRect(&painter, track, radius, Theme::gradient(track));
+  else
+    paint::roundedRect(&painter, track, radius, theme.track, paint::pen(underMouse() ? theme.text3 : theme.lineStrong));
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(isChecked() ? QColor(Qt::white) : theme.text2);
+  painter.drawEllipse(knob);
+  m_focus->paintRing(&painter, track.adjusted(kRingInset, kRingInset, -kRingInset, -kRingInset), radius - kRingInset);
+}
+
+} // namespace ui
