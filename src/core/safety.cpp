@@ -103,8 +103,8 @@ QByteArray environmentKey() {
 
 /// Every path that stands for a home folder: as the environment and the password database have it, and without links,
 /// since a root may be reached that way.
-QStringList homeFolders() {
-  QStringList homes{normalized(QDir::homePath()), places::home(), places::passwordHome()};
+QStringList homeFolders(const QString& passwordHome) {
+  QStringList homes{normalized(QDir::homePath()), places::home(), passwordHome};
   for (const QString& home : QStringList(homes)) homes << QFileInfo(home).canonicalFilePath();
   homes.removeDuplicates();
   homes.removeIf([](const QString& home) { return !home.startsWith(u'/') || home == "/"_L1; });
@@ -142,17 +142,21 @@ std::shared_ptr<const Locations> Locations::current() {
   const QByteArray key = environmentKey();
   for (const Known* one = newest.load(std::memory_order_acquire); one != nullptr; one = one->next)
     if (one->key == key) return one->locations;
-  auto* made = new Known{key, std::shared_ptr<const Locations>(new Locations), newest.load(std::memory_order_acquire)};
+  auto* made = new Known{key, withPasswordHome(places::passwordHome()), newest.load(std::memory_order_acquire)};
   while (!newest.compare_exchange_weak(made->next, made, std::memory_order_acq_rel)) {
   }
   return made->locations;
 }
 
-Locations::Locations() {
+std::shared_ptr<const Locations> Locations::withPasswordHome(const QString& passwordHome) {
+  return std::shared_ptr<const Locations>(new Locations(normalized(passwordHome)));
+}
+
+Locations::Locations(const QString& passwordHome) {
   for (const QLatin1String root : kSystemRoots) add(root, Reach::Tree);
-  const QStringList homes = homeFolders();
+  const QStringList homes = homeFolders(passwordHome);
   for (const QString& home : homes) addHome(home);
-  if (platform::host() == platform::Host::Linux || platform::isPreview()) addLinux(homes);
+  if (platform::host() == platform::Host::Linux || platform::isPreview()) addLinux(homes, passwordHome);
   index();
 }
 
@@ -166,11 +170,11 @@ void Locations::addHome(const QString& home) {
   for (const QLatin1String folder : places::usualFolders()) add(home + u'/' + folder, Reach::Itself);
 }
 
-void Locations::addLinux(const QStringList& homes) {
+void Locations::addLinux(const QStringList& homes, const QString& passwordHome) {
   for (const QLatin1String root : desktop::kSystemRoots) add(root, Reach::Root);
   for (const QLatin1String exception : desktop::kExceptions) m_exceptions.push_back(exception + u'/');
-  const QString own = places::passwordHome();
-  if (own == "/root"_L1 || !contains(desktop::kSystemRoots, own)) m_exceptions.push_back(own + u'/');
+  addHomeException(passwordHome);
+  addHomeException(QFileInfo(passwordHome).canonicalFilePath());
   for (const QString& folder : places::userDirs()) add(folder, Reach::Itself);
 
   for (const QString& folder : {places::cache(), places::config(), places::data()}) add(folder, Reach::Itself);
@@ -183,6 +187,12 @@ void Locations::addLinux(const QStringList& homes) {
     m_sandboxes.push_back({home + "/snap/"_L1, 1});
     m_sandboxes.push_back({home + "/.var/app/"_L1, 0});
   }
+}
+
+/// A home folder may lie in a system root, but is none, save root's own.
+void Locations::addHomeException(const QString& home) {
+  if (home.size() < 2 || !home.startsWith(u'/')) return;
+  if (home == "/root"_L1 || !contains(desktop::kSystemRoots, home)) m_exceptions.push_back(home + u'/');
 }
 
 void Locations::addSecrets(const QString& config, const QString& data) {

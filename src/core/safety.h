@@ -36,6 +36,8 @@ class Locations {
  public:
   /// Those of platform::host(), the home folder and the XDG folders as they are now; kept for the next call.
   [[nodiscard]] static std::shared_ptr<const Locations> current();
+  /// The same where the password database names @p passwordHome; made anew. "/" and the empty one are no home.
+  [[nodiscard]] static std::shared_ptr<const Locations> withPasswordHome(const QString& passwordHome);
 
   /// What isProtected answers for a normalized path.
   [[nodiscard]] bool hold(QStringView normalized) const;
@@ -58,10 +60,11 @@ class Locations {
     qsizetype homeDepth; // components from an app's folder to its home folder
   };
 
-  Locations();
+  explicit Locations(const QString& passwordHome);
   void add(const QString& path, Reach reach);
   void addHome(const QString& home);
-  void addLinux(const QStringList& homes);
+  void addLinux(const QStringList& homes, const QString& passwordHome);
+  void addHomeException(const QString& home);
   void addSecrets(const QString& config, const QString& data);
   void index();
   [[nodiscard]] Reach reachOf(QStringView path) const;

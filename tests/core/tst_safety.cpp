@@ -4,6 +4,7 @@
 #include "support/FixtureHome.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTest>
 
 #include <atomic>
@@ -103,6 +104,9 @@ class TestSafety : public QObject {
   void everyLinuxSecret();
   void otherAppsSettingsAreNoSecret();
   void homeOfThePasswordDatabase();
+  void passwordHomeThatIsNone_data();
+  void passwordHomeThatIsNone();
+  void passwordHomeBehindALink();
   void homeThroughALink();
   void localisedFolders();
   void movedXdgFolders();
@@ -286,6 +290,40 @@ void TestSafety::homeOfThePasswordDatabase() {
   expectOnEitherHost(home + u"/.cache/x"_s, false);
   expectOnEitherHost(home + u"/Documents"_s, true);
   expectOnEitherHost(home + u"/.ssh/id"_s, true);
+}
+
+void TestSafety::passwordHomeThatIsNone_data() {
+  QTest::addColumn<QString>("home");
+  for (const char* home : {"", "/", "//", "/.", "relative", "/var", "/run/", "/nix"})
+    QTest::newRow(home) << QString::fromLatin1(home);
+}
+
+// Else all of the system would be an exception.
+void TestSafety::passwordHomeThatIsNone() {
+  QFETCH(QString, home);
+  const Variable host("TARNWICK_HOST", "linux");
+  const auto locations = safety::Locations::withPasswordHome(home);
+  for (const QString& root : kLinuxRoots) QVERIFY2(locations->hold(QString(root + u"/x/y"_s)), qPrintable(root));
+  QVERIFY(!locations->hold(u"/var/tmp/x"));
+}
+
+void TestSafety::passwordHomeBehindALink() {
+  const QString inVar = u"/var/lib"_s;
+  if (QFileInfo(inVar).canonicalFilePath() != inVar) QSKIP("/var/lib is missing or a link");
+  const Variable host("TARNWICK_HOST", "linux");
+  const QString link = m_home.outside(u"people/her"_s);
+  m_home.link(link, inVar);
+  const auto locations = safety::Locations::withPasswordHome(link);
+  QVERIFY(!locations->hold(QString(inVar + u"/.cache/x"_s)));
+  QVERIFY(!locations->hold(QString(link + u"/.cache/x"_s)));
+  QVERIFY(locations->hold(QString(inVar + u"/.ssh/x"_s)));
+  QVERIFY(locations->hold(inVar));
+  QVERIFY(locations->hold(u"/var/x/y"));
+  for (const QString& root : {u"/var"_s, u"/"_s}) {
+    const QString other = m_home.outside(u"people"_s + root.mid(1) + u"/he"_s);
+    m_home.link(other, root);
+    QVERIFY2(safety::Locations::withPasswordHome(other)->hold(u"/var/x/y"), qPrintable(root));
+  }
 }
 
 void TestSafety::homeThroughALink() {
