@@ -1,0 +1,52 @@
+/// The drop-down choice of the interface: a combo box that paints itself and opens a list of its own.
+#pragma once
+
+#include <QComboBox>
+#include <QPointer>
+
+class QPainter;
+
+namespace ui {
+
+class KeyboardFocus;
+class SelectPopup;
+
+/// Where the pieces of the closed control lie.
+struct SelectLayout {
+  QRectF body;
+  QRectF text;
+  QRectF chip;     ///< mac metrics: under the arrows
+  QPointF chevron; ///< other metrics: the middle of the arrow
+};
+[[nodiscard]] SelectLayout selectLayout(const QSize& size, bool open);
+
+/// Space, Enter and F4 open the list; the arrow keys choose without opening it.
+class Select : public QComboBox {
+  Q_OBJECT
+
+ public:
+  explicit Select(QWidget* parent = nullptr);
+
+  [[nodiscard]] bool isOpen() const;
+
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+  /// Without items nothing opens.
+  void showPopup() override;
+  void hidePopup() override;
+
+ protected:
+  bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void paintBody(QPainter* painter, const SelectLayout& layout) const;
+  void paintArrows(QPainter* painter, const SelectLayout& layout) const;
+  void paintArrow(QPainter* painter, const SelectLayout& layout) const;
+
+  QPointer<SelectPopup> m_popup;
+  KeyboardFocus* m_focus;
+};
+
+} // namespace ui
