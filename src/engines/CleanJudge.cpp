@@ -66,7 +66,8 @@ removal::Verdict CleanJudge::judge(const CleanWork& work, const removal::Node& n
   const auto exclusions = work.isTrash ? Guard::Exclusions::Ignore : Guard::Exclusions::Ask;
   const auto verdict = work.isOnePath ? m_guard.askBelow(node.path, exclusions)
                                       : Spelled{node.path, node.realPath}.askBelow(m_guard, exclusions);
-  return verdict == Guard::Verdict::Free ? judgeOpen(work, node) : verdictOf(verdict);
+  if (verdict != Guard::Verdict::Free) return verdictOf(verdict);
+  return isAdmittedBelow(work, node) ? judgeOpen(work, node) : removal::Verdict::KeepOpen;
 }
 
 removal::Verdict CleanJudge::judgeTarget(const CleanWork& work, const removal::Node& node) {
@@ -94,8 +95,24 @@ bool CleanJudge::isAdmitted(const CleanWork& work, const removal::Node& node) {
   if (!fs::stat(node.realPath, &entry)) return !fs::exists(node.realPath);
   if (work.ownOnly && entry.owner != ::geteuid()) return false;
   if (!isTemp) return true;
+  const std::pair<qint64, quint64> folder(entry.device, entry.inode);
+  if (m_isRetrying && entry.isDir && m_admitted.contains(folder)) return true;
+  if (!categories::admits(entry, node.realPath, admission())) return false;
+  if (entry.isDir) m_admitted.insert(folder);
+  return true;
+}
+
+/// The first time the admission of the item looked at all below it.
+bool CleanJudge::isAdmittedBelow(const CleanWork& work, const removal::Node& node) {
+  if (!m_isRetrying || node.isDir || work.def->id != u"temp") return true;
+  fs::Entry entry;
+  if (!fs::stat(node.realPath, &entry)) return !fs::exists(node.realPath);
+  return categories::admitsBelow(entry, admission());
+}
+
+const categories::Admission& CleanJudge::admission() {
   if (!m_admission) m_admission = categories::Admission::now(m_sources.procRoot);
-  return categories::admits(entry, node.realPath, *m_admission);
+  return *m_admission;
 }
 
 bool CleanJudge::holdsMoreThanCache(const removal::Node& node) const {

@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 /// One item of a run, with what the clean must know beside it. The pointers are into the run's own copy of the results.
 struct CleanWork {
@@ -39,6 +40,9 @@ class CleanJudge {
   [[nodiscard]] Guard::Verdict askItem(const CleanWork& work) const { return work.place.ask(m_guard); }
   /// The running app that an item belongs to; empty if none, and for categories without owners.
   [[nodiscard]] QString runningOwner(const CleanWork& work) const;
+  /// Says that from now on nodes are asked about that stayed. A folder that was admitted isn't measured again, as what
+  /// the run took out of it made it look new; a file in it is.
+  void beginRetries() { m_isRetrying = true; }
   /// The verdict on a node of @p work.
   [[nodiscard]] removal::Verdict judge(const CleanWork& work, const removal::Node& node);
 
@@ -46,6 +50,8 @@ class CleanJudge {
   [[nodiscard]] removal::Verdict judgeTarget(const CleanWork& work, const removal::Node& node);
   [[nodiscard]] removal::Verdict judgeOpen(const CleanWork& work, const removal::Node& node) const;
   [[nodiscard]] bool isAdmitted(const CleanWork& work, const removal::Node& node);
+  [[nodiscard]] bool isAdmittedBelow(const CleanWork& work, const removal::Node& node);
+  [[nodiscard]] const categories::Admission& admission();
   [[nodiscard]] bool holdsMoreThanCache(const removal::Node& node) const;
 
   Guard m_guard;
@@ -54,5 +60,7 @@ class CleanJudge {
   appguard::OpenFiles m_open;
   QSet<QString> m_cacheRoots; ///< of the Linux host, under all their spellings
   std::optional<categories::Admission> m_admission;
+  QSet<std::pair<qint64, quint64>> m_admitted; ///< folders, by device and inode
+  bool m_isRetrying = false;
   std::function<bool(const QString&)> m_isOwnLog;
 };

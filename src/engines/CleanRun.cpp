@@ -226,6 +226,7 @@ void CleanRun::skip(const QString& sample, const LoggedPath& path, SkipReason re
 }
 
 void CleanRun::retry() {
+  m_judge->beginRetries();
   for (int attempt = 1; attempt <= kAttempts && !m_retries.empty() && !m_stopped && !isDry(); ++attempt) {
     sleep(attempt * kFirstWait);
     retryRound();

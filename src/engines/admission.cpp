@@ -136,3 +136,7 @@ bool categories::admits(const fs::Entry& entry, const QString& path, const Admis
   if (!isOldAndPlain(entry, admission)) return false;
   return !entry.isDir || isLeftoverBelow(entry, path, admission, cancel);
 }
+
+bool categories::admitsBelow(const fs::Entry& entry, const Admission& admission) {
+  return platform::host() == platform::Host::Mac || isOldAndPlain(entry, admission);
+}

@@ -40,6 +40,10 @@ struct Admission {
 [[nodiscard]] bool admits(const fs::Entry& entry, const QString& path, const Admission& admission,
                           const std::atomic<bool>* cancel = nullptr);
 
+/// The part of admits() that concerns a file in an admitted folder: old, plain, not locked. On the macOS host always
+/// true. No disk.
+[[nodiscard]] bool admitsBelow(const fs::Entry& entry, const Admission& admission);
+
 /// Whether a folder of this name, directly below a cache root of the Linux host, holds more than a cache and is left
 /// alone by the scan and by the clean.
 [[nodiscard]] bool holdsMoreThanCache(QStringView name);

@@ -33,6 +33,8 @@ class tst_Cleaner_ends : public QObject {
   void retrySucceedsAndPrunes();
   void retryThatFindsItGone();
   void retryAsksAgain();
+  void retryBelowAFolderThatTheRunChanged_data();
+  void retryBelowAFolderThatTheRunChanged();
   void retryFollowsNoLink();
   void unreachableIsNotGone();
   void needsAdmin_data();
@@ -138,6 +140,36 @@ void tst_Cleaner_ends::retryAsksAgain() {
   QCOMPARE(m_bench->lines("BUSY").size(), 1);
   QCOMPARE(m_bench->lines("SKIPPED"), QStringList{u"SKIPPED  %1  (open in an app)"_s.arg(left)});
   QCOMPARE(m_bench->report.skipped, 1);
+}
+
+void tst_Cleaner_ends::retryBelowAFolderThatTheRunChanged_data() {
+  QTest::addColumn<bool>("isTouched");
+  QTest::addColumn<QList<int>>("waits");
+  QTest::addColumn<QString>("reason");
+  QTest::newRow("left alone") << false << QList<int>{500, 1000, 1500} << u"in use or access denied"_s;
+  QTest::newRow("touched meanwhile") << true << QList<int>{500} << u"open in an app"_s;
+}
+
+// What was removed in the first pass made the folder look new.
+void tst_Cleaner_ends::retryBelowAFolderThatTheRunChanged() {
+  QFETCH(bool, isTouched);
+  const QString other = m_bench->home.file(m_bench->home.temp(u"left/other"_s));
+  const QString stuck = m_bench->home.file(m_bench->home.temp(u"left/folder/stuck"_s));
+  m_stuckFolder = QFile::encodeName(m_bench->home.temp(u"left/folder"_s));
+  FixtureHome::age(m_bench->home.temp(u"left"_s), QDateTime::currentDateTime().addDays(-2));
+  const Unprivileged user(m_bench->home);
+  stick();
+  m_bench->whileWaiting = [isTouched, stuck] {
+    if (isTouched) FixtureHome::age(stuck, QDateTime::currentDateTime());
+  };
+  m_bench->run({CleanBench::category(u"temp"_s, {CleanBench::item(m_bench->home.temp(u"left"_s))})});
+  unstick();
+  QVERIFY(!CleanBench::isThere(other));
+  QVERIFY(CleanBench::isThere(stuck));
+  QTEST(m_bench->waits, "waits");
+  QFETCH(QString, reason);
+  QCOMPARE(m_bench->lines("BUSY").size(), 1);
+  QCOMPARE(m_bench->lines("SKIPPED"), QStringList{u"SKIPPED  %1  (%2)"_s.arg(stuck, reason)});
 }
 
 void tst_Cleaner_ends::retryFollowsNoLink() {
