@@ -6,6 +6,7 @@
 #include "core/names.h"
 
 #include <QCommandLineParser>
+#include <QDir>
 
 #include <algorithm>
 #include <array>
@@ -109,11 +110,17 @@ QString quoted(const QString& text) { return u'\'' + names::escaped(text) + u'\'
 
 QString dashed(const QString& name) { return (name.size() == 1 ? u"-"_s : u"--"_s) + name; }
 
+/// The library's sentence as the end of a line that begins with the program's name.
+QString asOurs(QString sentence) {
+  if (sentence.endsWith(u'.')) sentence.chop(1);
+  return sentence.left(1).toLower() + sentence.mid(1);
+}
+
 /// Why the command line can't be read at all; empty if it can.
 QString misread(const QCommandLineParser& parser, bool understood) {
   const QStringList unknown = parser.unknownOptionNames();
   if (!unknown.isEmpty()) return Words::tr("there is no option %1").arg(quoted(dashed(unknown.first())));
-  return understood ? QString() : names::escaped(parser.errorText());
+  return understood ? QString() : asOurs(names::escaped(parser.errorText()));
 }
 
 /// Why the words beside the options make no command; empty if they do, or if there are none.
@@ -149,21 +156,32 @@ QString readOnly(const QStringList& values, const QStringList& categoryIds, QStr
   return {};
 }
 
-/// Whether some path can match: paths are absolute, so a rule with a slash in it must not begin with a name.
-bool canMatch(const QString& rule) {
-  const QChar first = rule.front();
-  return !rule.contains(u'/') || first == u'/' || first == u'~' || first == u'*';
+/// Whether "/.." stands behind a wildcard, where it can't be told whose parent is meant.
+bool climbsFromWildcard(const QString& rule) {
+  const auto wildcard = std::find_if(rule.cbegin(), rule.cend(), [](QChar c) { return c == u'*' || c == u'?'; });
+  return (rule + u'/').indexOf(u"/../"_s, wildcard - rule.cbegin()) >= 0;
 }
 
-/// Reads the rules into @p exclude. A rule that could never match is an error, for somebody relies on it; and the slash
-/// that a shell puts behind a folder's name goes, for no path ends in one.
+/// @p rule as it is held against paths, which are clean and end in no slash; empty if none can match. Paths are
+/// absolute, so a rule with a slash in it must not begin with a name; and what "~" begins is cleaned with the home
+/// folder in its place.
+QString matchable(QString rule) {
+  while (rule.size() > 1 && rule.endsWith(u'/')) rule.chop(1);
+  if (climbsFromWildcard(rule)) return {};
+  if (rule.startsWith(u'~')) return rule.size() == 1 || rule.at(1) == u'/' ? rule : QString();
+  if (!rule.contains(u'/')) return rule == u"."_s || rule == u".."_s ? QString() : rule;
+  if (!rule.startsWith(u'/') && !rule.startsWith(u'*')) return {};
+  const QString clean = QDir::cleanPath(rule);
+  return clean.size() > 1 && clean.contains(u'/') ? clean : QString();
+}
+
+/// Reads the rules into @p exclude. A rule that could never match is an error, for somebody relies on it.
 QString readExclude(const QStringList& values, QStringList* exclude) {
   for (const QString& value : values) {
-    QString rule = value.trimmed();
-    while (rule.size() > 1 && rule.endsWith(u'/')) rule.chop(1);
-    if (rule.isEmpty()) return Words::tr("--exclude wants a rule");
-    if (!canMatch(rule))
-      return Words::tr("the rule %1 matches nothing: a path begins with / or ~, a name has no slash")
+    if (value.trimmed().isEmpty()) return Words::tr("--exclude wants a rule");
+    const QString rule = matchable(value.trimmed());
+    if (rule.isEmpty())
+      return Words::tr("the rule %1 matches nothing: a path begins with / or ~/, a name has no slash")
           .arg(quoted(value));
     *exclude << rule;
   }

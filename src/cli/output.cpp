@@ -7,11 +7,21 @@
 #include <cstring>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace cli {
+namespace {
+
+/// Whoever gave us the descriptor may have it not wait by itself. Comes back also where the next write is an error.
+void waitForRoom(int fd) {
+  pollfd room{fd, POLLOUT, 0};
+  ::poll(&room, 1, -1);
+}
+
+} // namespace
 
 void prepareDescriptors() {
   std::signal(SIGPIPE, SIG_IGN);
@@ -28,6 +38,8 @@ void Output::write(const QString& text) {
     const ssize_t count = ::write(m_fd, bytes.constData() + done, static_cast<size_t>(bytes.size() - done));
     if (count >= 0)
       done += count;
+    else if (errno == EAGAIN)
+      waitForRoom(m_fd);
     else if (errno != EINTR)
       m_error = errno;
   }

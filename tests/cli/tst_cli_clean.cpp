@@ -59,6 +59,7 @@ class tst_cli_clean : public QObject {
   void dryRunTouchesNothing();
   void dryRunTellsWhatStays();
   void exclusionsHold();
+  void exclusionsSpeltOddly();
   void exclusionsFromTheShell();
   void excludedBelowAnItemIsNoFailure();
   void volumesWithoutATrash();
@@ -260,6 +261,16 @@ void tst_cli_clean::exclusionsHold() {
   QVERIFY(there(u".cache/acme-notes/index"_s));
   QVERIFY(there(u".cache/thumbnails/normal/1.png"_s));
   QVERIFY(!there(u".xsession-errors.old"_s));
+}
+
+void tst_cli_clean::exclusionsSpeltOddly() {
+  const QString unclean = m_home->path() + u"//.cache/./x/../mozilla/"_s;
+  const CliRun run = clean({u"--delete"_s, u"--exclude"_s, unclean, u"--exclude"_s, u"~/./.cache//acme-notes"_s,
+                            u"--exclude"_s, u"**//thumbnails/./normal/"_s});
+  QCOMPARE(run.code, 0);
+  QVERIFY(there(u".cache/mozilla/firefox/ab12.default/cache2/entries/1"_s));
+  QVERIFY(there(u".cache/acme-notes/index"_s));
+  QVERIFY(there(u".cache/thumbnails/normal/1.png"_s));
 }
 
 void tst_cli_clean::exclusionsFromTheShell() {

@@ -2,11 +2,19 @@
 #include "support/CliRun.h"
 #include "support/SampleHome.h"
 
+#include <QFile>
 #include <QTest>
 
+#include <cerrno>
+
+#include <fcntl.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int kManyItems = 1'000; // more of them than a pipe takes at once
+} // namespace
 
 class tst_cli_usage : public QObject {
   Q_OBJECT
@@ -24,6 +32,7 @@ class tst_cli_usage : public QObject {
   void quietWhateverTheLocale();
   void outputThatGoesNowhere_data();
   void outputThatGoesNowhere();
+  void readerThatTakesItsTime();
   void readerThatWentAway();
   void closedDescriptors();
 
@@ -102,12 +111,17 @@ void tst_cli_usage::mistakes_data() {
   row("scan --only=", "--only");
   row("clean --yes --only=", "--only");
   row("scan --only TEMP", "'TEMP'");
-  row("scan --exclude", "--exclude");
+  row("scan --exclude", ": missing value after '--exclude'\n");
   row("scan --exclude=", "--exclude");
   row("clean --yes --exclude keep/this", "'keep/this'");
   row("clean --yes --exclude ./keep", "'./keep'");
   row("clean --yes --exclude ?/keep", "'?/keep'");
-  row("scan --json=yes", "--json");
+  for (const char* rule : {"/", "//", "/.", "/..", "/a/..", ".", "..", "~other/keep", "~keep", "~*", "*/.", "**/..",
+                           "**/../keep", "/a/*/../keep", "~/*/.."})
+    QTest::addRow("clean --yes --exclude %s", rule)
+        << QStringList{u"clean"_s, u"--yes"_s, u"--exclude"_s, QString::fromLatin1(rule)}
+        << u"'%1' matches nothing"_s.arg(QLatin1String(rule));
+  row("scan --json=yes", ": unexpected value after '--json'\n");
   row("scan --yes", "--yes");
   row("scan --delete", "--delete");
   row("scan --trash", "--trash");
@@ -177,6 +191,29 @@ void tst_cli_usage::outputThatGoesNowhere() {
   QCOMPARE(run.code, 1);
   QVERIFY2(run.err.startsWith("tarnwick-cli: "), run.err.constData());
   QVERIFY2(run.err.contains("No space left on device"), run.err.constData());
+}
+
+void tst_cli_usage::readerThatTakesItsTime() {
+  fillSampleHome(m_home);
+  addManyItems(m_home, kManyItems);
+  int ends[2] = {-1, -1};
+  QCOMPARE(::pipe(ends), 0);
+  QCOMPARE(::fcntl(ends[1], F_SETFL, O_NONBLOCK), 0);
+  qint64 before = 0; // what fills the pipe, so that there is no room at first
+  for (ssize_t count = 0; (count = ::write(ends[1], "          ", 10)) > 0;) before += count;
+  QCOMPARE(errno, EAGAIN);
+  QProcess process;
+  process.setChildProcessModifier([&] { ::dup2(ends[1], STDOUT_FILENO); });
+  process.start(cliProgram(), {u"scan"_s, u"--json"_s});
+  QVERIFY(process.waitForStarted());
+  ::close(ends[1]);
+  QFile out;
+  QVERIFY(out.open(ends[0], QIODevice::ReadOnly, QFileDevice::AutoCloseHandle));
+  const CliRun run{-1, out.readAll().sliced(before), {}};
+  const CliRun ended = finish(&process);
+  QCOMPARE(ended.code, 0);
+  QCOMPARE(ended.err, QByteArray());
+  QVERIFY(!run.json().isEmpty());
 }
 
 void tst_cli_usage::readerThatWentAway() {
