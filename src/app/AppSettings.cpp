@@ -1,5 +1,9 @@
 #include "app/AppSettings.h"
 
+#include "core/fs.h"
+
+#include <QFile>
+#include <QRegularExpression>
 #include <QtNumeric>
 
 #include <limits>
@@ -45,7 +49,10 @@ std::optional<QVariant> asBool(const QVariant& stored) {
 
 /// @p stored as a value of @p type; none where it can't be one.
 std::optional<QVariant> converted(QVariant stored, QMetaType type) {
-  if (!stored.isValid()) return QVariant(type); // how a store of text gives back an empty list
+  if (!stored.isValid()) { // how a store of text gives back an empty list, and whatever it can't make out
+    if (type == QMetaType::fromType<QStringList>()) return QVariant(type);
+    return std::nullopt;
+  }
   if (stored.metaType() == type) return stored;
   if (type == QMetaType::fromType<bool>()) return asBool(stored);
   if (stored.convert(type)) return stored;
@@ -67,6 +74,13 @@ int read(const QSettings& store, const Key<int>& key) {
   return value >= key.min && value <= key.max ? value : key.def;
 }
 
+/// Whether the store's file holds rules that are no text at all. Read back they are as invalid as an empty list is.
+bool holdsBinaryRules(const QByteArray& text) {
+  static const QRegularExpression line(u"^\\s*exclusions\\s*=\\s*\"?@Variant\\("_s,
+                                       QRegularExpression::MultilineOption);
+  return line.match(QString::fromLatin1(text)).hasMatch();
+}
+
 QString monthKey(const QDate& date) { return date.toString(u"yyyy-MM"); }
 
 } // namespace
@@ -74,6 +88,19 @@ QString monthKey(const QDate& date) { return date.toString(u"yyyy-MM"); }
 AppSettings& AppSettings::instance() {
   static AppSettings settings;
   return settings;
+}
+
+// Of the store's errors only the one about its form counts: it also remembers that it couldn't write, and what can't be
+// written can still be read.
+bool AppSettings::isReadable() const {
+  if (!m_openedWell || m_store.status() == QSettings::FormatError) return false;
+  QFile file(m_store.fileName());
+  if (fs::exists(file.fileName()) && !file.open(QIODevice::ReadOnly)) return false;
+  const QString rules = QLatin1String(kExclusions);
+  if (!m_store.contains(rules)) return true;
+  const QVariant stored = m_store.value(rules);
+  if (!stored.isValid()) return !holdsBinaryRules(file.readAll());
+  return converted(stored, QMetaType::fromType<QStringList>()).has_value();
 }
 
 QVariant AppSettings::get(const char* key, const QVariant& def) const { return m_store.value(QLatin1String(key), def); }

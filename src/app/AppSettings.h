@@ -18,6 +18,10 @@ class AppSettings : public QObject {
   /// The one object, made on first use; the application's names must be set before.
   static AppSettings& instance();
 
+  /// Whether what the getters give is what the user chose, the "Never touch these" rules above all. False where the
+  /// store's file is there but can't be opened, isn't in the store's form, or holds rules that are no list. A store
+  /// that isn't there is readable. Reads the disk.
+  [[nodiscard]] bool isReadable() const;
   /// What the store holds, or @p def.
   [[nodiscard]] QVariant get(const char* key, const QVariant& def) const;
   /// Stores and tells, unless the store already holds the value (compared as the value's type, since a store of text
@@ -73,4 +77,5 @@ class AppSettings : public QObject {
  private:
   AppSettings() = default;
   QSettings m_store;
+  const bool m_openedWell = m_store.status() == QSettings::NoError; // so far it has only read
 };

@@ -94,11 +94,22 @@ void AppState::clean(const RunOptions& options) {
   if (chosen.isEmpty() || isBusy()) return;
   const AppSettings& settings = AppSettings::instance();
   m_dryRun = options.dryRun;
+  if (!settings.isReadable()) {
+    refuse(tr("The settings can't be read, so the rules on what to keep are unknown. Nothing was cleaned."));
+    return;
+  }
   freeBeforeClean = volume.availableBytes;
   setPhase(Cleaning);
   cleaner->start(chosen, options.moveToTrash.value_or(settings.moveToTrash()),
                  settings.exclusions() + options.furtherExclusions,
                  options.dryRun ? Cleaner::Run::Dry : Cleaner::Run::ForReal);
+}
+
+void AppState::refuse(const QString& why) {
+  setPhase(Cleaning);
+  CleanReport refused;
+  refused.refusal = why;
+  onCleanFinished(refused);
 }
 
 void AppState::stopClean() { cleaner->stop(); }

@@ -72,7 +72,7 @@ class AppState : public QObject {
   /// Removes what is selected, without asking: the caller has asked the user. Nothing happens with an empty selection
   /// or while a scan or a clean runs. It ends in Done, with what was cleaned taken out of the results; but a dry run
   /// and a refused clean end in Review and leave results, selection and history alone. The words of a refusal come as
-  /// toast().
+  /// toast(). It refuses at once, before this returns, where the settings can't be read.
   void clean(const RunOptions& options = {});
   /// Lets a running clean finish its item and report; for programs without a window.
   void stopClean();
@@ -130,6 +130,7 @@ class AppState : public QObject {
   [[nodiscard]] bool isBusy() const;
   void onScanFinished(const QList<CategoryResult>& found, bool cancelled);
   void onCleanFinished(const CleanReport& cleaned);
+  void refuse(const QString& why);
 
   void clearSelection();
   template <typename Wanted>

@@ -3,6 +3,7 @@
 #include "app/identity.h"
 #include "support/FixtureHome.h"
 
+#include <QDir>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTest>
@@ -31,7 +32,11 @@ class tst_AppSettings : public QObject {
   void textStoreAlreadyHolds();
   void mistypedValuesGiveDefaults_data();
   void mistypedValuesGiveDefaults();
+  void invalidValuesGiveDefaults();
   void mistypedBoolIsReplaced();
+  void readable_data();
+  void readable();
+  void readableWithoutAFile();
   void exclusionsOfOneAndNone();
   void addFreedOfNothing();
   void addFreedAddsUpByMonth();
@@ -209,7 +214,7 @@ void tst_AppSettings::mistypedValuesGiveDefaults() {
   writeStore("[auto]\nschedule=" + value + "\n[ui]\ncloseAction=" + value + "\ntheme=" + value +
              "\nshowInTray=banana\n[clean]\nmoveToTrash=2\n[auto]\nstartAtLogin=yes please\n"
              "[large]\nthresholdMB=-5\noldMonths=old\n[history]\nlastScan=yesterday\nfreed=lots\n");
-  QCOMPARE(settings().schedule(), value == "@Invalid()" ? AppSettings::Off : AppSettings::Weekly);
+  QCOMPARE(settings().schedule(), AppSettings::Weekly);
   QCOMPARE(settings().closeAction(), AppSettings::Ask);
   QCOMPARE(settings().themeMode(), AppSettings::System);
   QCOMPARE(settings().showInTray(), true);
@@ -219,6 +224,51 @@ void tst_AppSettings::mistypedValuesGiveDefaults() {
   QCOMPARE(settings().oldMonths(), 6);
   QVERIFY(!settings().lastScan().isValid());
   QCOMPARE(settings().freedHistory(1), QList<qint64>{0});
+}
+
+void tst_AppSettings::invalidValuesGiveDefaults() {
+  writeStore("[clean]\nmoveToTrash=@Invalid()\n[auto]\nlowSpaceAlerts=@Invalid()\n[large]\nthresholdMB=@Invalid()\n");
+  QCOMPARE(settings().moveToTrash(), true);
+  QCOMPARE(settings().lowSpaceAlerts(), true);
+  QCOMPARE(settings().largeFileMB(), 500);
+  QSignalSpy changed(&settings(), &AppSettings::changed);
+  settings().setMoveToTrash(false);
+  QCOMPARE(changed.count(), 1);
+  QCOMPARE(settings().moveToTrash(), false);
+}
+
+void tst_AppSettings::readable_data() {
+  QTest::addColumn<QByteArray>("text");
+  QTest::addColumn<bool>("isReadable");
+  const auto row = [](const char* text, bool isReadable) { QTest::newRow(text) << QByteArray(text) << isReadable; };
+  row("", true);
+  row("[clean]\nexclusions=\n", true);
+  row("[clean]\nexclusions=@Invalid()\n", true);
+  row("[clean]\nexclusions=*.iso\n", true);
+  row("[clean]\nexclusions=*.iso, ~/Keep\n", true);
+  row("[clean]\nexclusions=@@Variant(xx)\n", true);
+  row("[clean]\nmoveToTrash=@Variant(xx)\nexclusions=*.iso\n", true);
+  row("[clean]\nexclusions=@Variant(xx)\n", false);
+  row("[clean]\n exclusions = @Variant()\n", false);
+  row("[clean]\nexclusions=@Point(1 2)\n", false);
+}
+
+void tst_AppSettings::readable() {
+  QFETCH(QByteArray, text);
+  writeStore(text);
+  QTEST(settings().isReadable(), "isReadable");
+}
+
+void tst_AppSettings::readableWithoutAFile() {
+  QFile::remove(storeFile());
+  QVERIFY(settings().isReadable());
+  QVERIFY(QDir().mkdir(storeFile()));
+  QVERIFY(!settings().isReadable());
+  QVERIFY(QDir().rmdir(storeFile()));
+  QVERIFY(QFile::link(u"nowhere"_s, storeFile()));
+  QVERIFY(!settings().isReadable());
+  QVERIFY(QFile::remove(storeFile()));
+  QVERIFY(settings().isReadable());
 }
 
 void tst_AppSettings::mistypedBoolIsReplaced() {

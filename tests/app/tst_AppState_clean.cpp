@@ -5,6 +5,7 @@
 #include "core/runlock.h"
 
 #include <QFileInfo>
+#include <QPoint>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -26,6 +27,8 @@ class tst_AppState_clean : public FlowTest {
   void exclusionsReachTheClean();
   void untickedItemsStay();
   void refusedClean();
+  void unreadableSettings_data();
+  void unreadableSettings();
   void dryRun();
   void stopClean();
   void acknowledgeDone();
@@ -180,6 +183,37 @@ void tst_AppState_clean::refusedClean() {
   clean(); // and again, now that it may
   QCOMPARE(m_state->phase, AppState::Done);
   QVERIFY(!QFileInfo::exists(m_home->path(u"Downloads/a.deb"_s)));
+}
+
+void tst_AppState_clean::unreadableSettings_data() {
+  QTest::addColumn<bool>("dry");
+  QTest::newRow("clean") << false;
+  QTest::newRow("dry run") << true;
+}
+
+void tst_AppState_clean::unreadableSettings() {
+  QFETCH(bool, dry);
+  scan();
+  const QSet<QString> selected = m_state->selected;
+  const QString words = u"The settings can't be read, so the rules on what to keep are unknown. Nothing was cleaned."_s;
+  QSignalSpy toast(m_state.get(), &AppState::toast);
+  Phases phases(m_state.get());
+  RunOptions options;
+  options.dryRun = dry;
+  AppSettings::instance().put("clean/exclusions", QPoint(1, 2));
+  clean(options);
+  AppSettings::instance().setExclusions({});
+  QCOMPARE(phases.all, (QList<int>{AppState::Cleaning, AppState::Review}));
+  QCOMPARE(m_state->report.refusal, words);
+  QCOMPARE(m_state->report.dryRunLog, QString());
+  QCOMPARE(toast.count(), 1);
+  QCOMPARE(toast.at(0), (QVariantList{words, false}));
+  QCOMPARE(m_state->results.size(), 8);
+  QCOMPARE(m_state->selected, selected);
+  QCOMPARE(AppSettings::instance().freedHistory(1), QList<qint64>{0});
+  QVERIFY(QFileInfo::exists(m_home->path(u".cache/thumbnails/normal/1.png"_s)));
+  clean(); // and again, now that it may
+  QCOMPARE(m_state->phase, AppState::Done);
 }
 
 void tst_AppState_clean::dryRun() {
