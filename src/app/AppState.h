@@ -96,7 +96,8 @@ class AppState : public QObject {
   /// Ticks or unticks one category with all its items. Emits nothing where that changes nothing.
   void setSelected(const QString& id, bool on);
   /// Ticks or unticks one item. The first item ticked of an unticked category is then the only one; with the last item
-  /// the category is unticked. Emits nothing where that changes nothing.
+  /// the category is unticked. Emits nothing where that changes nothing, nor does a path change anything that isn't of
+  /// this category.
   void setItemSelected(const QString& id, const QString& path, bool on);
   /// Forgets the exceptions of one category; emits nothing.
   void clearUnticked(const QString& id);
@@ -135,7 +136,7 @@ class AppState : public QObject {
   void clearSelection();
   template <typename Wanted>
   void selectOnly(Wanted wanted);
-  [[nodiscard]] bool tickItem(const CategoryResult& category, const QString& path);
+  void tickItem(const CategoryResult& category, const QString& path);
   void untickItem(const CategoryResult& category, const QString& path);
   void insertUnticked(const QString& path);
   void removeUnticked(const QString& path);

@@ -63,19 +63,20 @@ void AppState::setItemSelected(const QString& id, const QString& path, bool on) 
   const CategoryResult* category = result(id);
   if (!category || isItemSelected(id, path) == on) return;
   m_sums.follow(results, m_unticked);
-  if (on && !tickItem(*category, path)) return;
-  if (!on) untickItem(*category, path);
+  if (!m_sums.belongs(path, category - results.constData())) return;
+  if (on)
+    tickItem(*category, path);
+  else
+    untickItem(*category, path);
   emit selectionChanged();
 }
 
-bool AppState::tickItem(const CategoryResult& category, const QString& path) {
+void AppState::tickItem(const CategoryResult& category, const QString& path) {
   if (!m_selected.contains(category.def.id)) {
-    if (!category.items.isEmpty() && !m_sums.knows(path)) return false; // would tick a category with nothing in it
     m_selected.insert(category.def.id);
     for (const CleanItem& item : category.items) insertUnticked(item.path);
   }
   removeUnticked(path);
-  return true;
 }
 
 void AppState::untickItem(const CategoryResult& category, const QString& path) {

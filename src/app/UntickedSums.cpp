@@ -21,6 +21,12 @@ void UntickedSums::follow(const QList<CategoryResult>& results, const QSet<QStri
   for (const QString& path : unticked) added(path);
 }
 
+bool UntickedSums::belongs(const QString& path, qsizetype category) const {
+  const auto [first, last] = m_items.equal_range(path);
+  if (first == last) return m_followed.at(category).isEmpty();
+  return std::any_of(first, last, [=](const Item& item) { return item.category == category; });
+}
+
 void UntickedSums::count(const QString& path, int sign) {
   const auto [first, last] = m_items.equal_range(path);
   for (auto item = first; item != last; ++item) {

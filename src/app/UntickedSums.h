@@ -25,8 +25,8 @@ class UntickedSums {
 
   /// The sums of one category, by its place in the results. After follow().
   [[nodiscard]] const Sums& of(qsizetype category) const { return m_unticked.at(category); }
-  /// Whether some category has an item with this path. After follow().
-  [[nodiscard]] bool knows(const QString& path) const { return m_items.contains(path); }
+  /// Whether a category has an item with this path; one without items has every path that no other has. After follow().
+  [[nodiscard]] bool belongs(const QString& path, qsizetype category) const;
 
  private:
   struct Item {

@@ -97,6 +97,7 @@ class tst_AppState_selection : public QObject {
   void tickBackAnItem();
   void itemsOfUnknownCategories();
   void unknownPaths();
+  void itemsOfOtherCategories();
   void categoryWithoutItems();
   void clearUntickedTellsNobody();
   void selectedResultsKeepOrderAndRest();
@@ -278,6 +279,20 @@ void tst_AppState_selection::unknownPaths() {
   m_state->setItemSelected(kTemp, u"/c/temp/gone"_s, false);
   QCOMPARE(m_state->selectionState(kTemp), 2);
   QCOMPARE(m_state->selectedBytes(), 123);
+}
+
+void tst_AppState_selection::itemsOfOtherCategories() {
+  m_state->setSelected(kTemp, true);
+  m_state->setItemSelected(kTemp, at("temp", "a"), false);
+  const QSet<QString> unticked = m_state->unticked;
+  QSignalSpy told(m_state.get(), &AppState::selectionChanged);
+  m_state->setItemSelected(kDev, at("temp", "a"), true); // would tick the item, and a category with nothing in it
+  m_state->setItemSelected(kNone, at("temp", "a"), true);
+  m_state->setItemSelected(kTemp, at("dev", "x"), false);
+  QCOMPARE(told.count(), 0);
+  QCOMPARE(m_state->selected, QSet<QString>{kTemp});
+  QCOMPARE(m_state->unticked, unticked);
+  QCOMPARE(m_state->selectedBytes(), 23);
 }
 
 void tst_AppState_selection::categoryWithoutItems() {
