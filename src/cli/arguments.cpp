@@ -172,7 +172,8 @@ QString matchable(QString rule) {
   if (!rule.contains(u'/')) return rule == u"."_s || rule == u".."_s ? QString() : rule;
   if (!rule.startsWith(u'/') && !rule.startsWith(u'*')) return {};
   const QString clean = QDir::cleanPath(rule);
-  return clean.size() > 1 && clean.contains(u'/') ? clean : QString();
+  const bool aboveRoot = (clean + u'/').startsWith(u"/../"_s);
+  return clean.size() > 1 && clean.contains(u'/') && !aboveRoot ? clean : QString();
 }
 
 /// Reads the rules into @p exclude. A rule that could never match is an error, for somebody relies on it.

@@ -116,8 +116,8 @@ void tst_cli_usage::mistakes_data() {
   row("clean --yes --exclude keep/this", "'keep/this'");
   row("clean --yes --exclude ./keep", "'./keep'");
   row("clean --yes --exclude ?/keep", "'?/keep'");
-  for (const char* rule : {"/", "//", "/.", "/..", "/a/..", ".", "..", "~other/keep", "~keep", "~*", "*/.", "**/..",
-                           "**/../keep", "/a/*/../keep", "~/*/.."})
+  for (const char* rule : {"/", "//", "/.", "/..", "/../keep", "/a/..", ".", "..", "~other/keep", "~keep", "~*", "*/.",
+                           "**/..", "**/../keep", "/a/*/../keep", "~/*/.."})
     QTest::addRow("clean --yes --exclude %s", rule)
         << QStringList{u"clean"_s, u"--yes"_s, u"--exclude"_s, QString::fromLatin1(rule)}
         << u"'%1' matches nothing"_s.arg(QLatin1String(rule));
