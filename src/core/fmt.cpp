@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QLocale>
 
+#include <cmath>
+
 namespace fmt {
 
 namespace {
@@ -43,7 +45,7 @@ QString bytes(qint64 n) {
     const double value = static_cast<double>(n) / step.divisor;
     const bool fixed = step.figure == Figure::Fixed;
     return withUnit(fixed ? locale.toString(value, 'f', step.decimals)
-                          : locale.toString(static_cast<qint64>(value + 0.5)),
+                          : locale.toString(static_cast<qint64>(std::llround(value))),
                     step.unit);
   }
   return withUnit(locale.toString(n > 0 ? 1 : 0), "KB");

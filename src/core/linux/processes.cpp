@@ -23,8 +23,8 @@ namespace appguard {
 namespace {
 constexpr const char* kPlaces[] = {"cwd", "root", "exe"}; ///< links beside those of "fd"
 constexpr QByteArrayView kDeleted = " (deleted)";
-constexpr qsizetype kChunk = 64 * 1024;
-constexpr qsizetype kSmallFile = 64 * 1024;
+constexpr qsizetype kChunk = 65536;
+constexpr qsizetype kSmallFile = 65536;
 
 struct CloseFolder {
   void operator()(DIR* folder) const { ::closedir(folder); }
@@ -255,7 +255,7 @@ bool isFileInUse(const QString& path, const Sources& sources) {
 
 namespace tools {
 QString bundleIdentifier(const QString& plistPath) {
-  constexpr qint64 kMostBytes = 1024 * 1024;
+  constexpr qint64 kMostBytes = 1048576;
   QFile plist(plistPath);
   return plist.open(QIODevice::ReadOnly) ? identifierFromXml(plist.read(kMostBytes)) : QString();
 }

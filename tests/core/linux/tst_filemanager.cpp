@@ -84,12 +84,14 @@ class TestFileManager : public QObject {
   void aBusThatHangsHoldsNobodyUp() {
     if (!startBus()) QSKIP("dbus-daemon is not installed");
     Desktop desktop;
-    ::kill(static_cast<pid_t>(m_bus.processId()), SIGSTOP);
+    const auto bus = static_cast<pid_t>(m_bus.processId());
+    QVERIFY(bus > 0);
+    ::kill(bus, SIGSTOP);
     QElapsedTimer clock;
     clock.start();
     platform::revealInFileManager(u"/a/b/c.txt"_s);
     const qint64 elapsedMs = clock.elapsed();
-    ::kill(static_cast<pid_t>(m_bus.processId()), SIGCONT);
+    ::kill(bus, SIGCONT);
     QVERIFY2(elapsedMs < 1000, qPrintable(QString::number(elapsedMs)));
     QTRY_COMPARE_WITH_TIMEOUT(desktop.opened, QStringList{u"/a/b"_s}, 30000);
   }

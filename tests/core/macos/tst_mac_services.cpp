@@ -48,6 +48,7 @@ CFURLRef CFURLCreateFromFileSystemRepresentation(CFAllocatorRef, const UInt8* pa
 }
 
 Boolean CFURLCopyResourcePropertyForKey(CFURLRef url, CFStringRef key, void* value, CFErrorRef*) {
+  if (url == nullptr) qFatal("the framework ends a program that asks about nothing");
   if (url != &theUrl || key != &theKey || !framework.givesProperty) return 0;
   *static_cast<CFNumberRef*>(value) = framework.number ? &*framework.number : nullptr;
   if (framework.number) ++framework.alive;
