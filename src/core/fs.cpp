@@ -87,22 +87,27 @@ QString join(const QString& dir, const QString& name) {
   return dir + QLatin1Char('/') + name;
 }
 
-QList<Entry> list(const QString& dir) {
+QList<Entry> list(const QString& dir, bool* complete) {
   QList<Entry> entries;
   const UniqueFd fd = openFolder(dir);
   sys::DirReader reader;
+  if (complete) *complete = static_cast<bool>(fd);
   if (!fd) return entries;
   reader.startFresh(fd.get());
   sys::RawName raw;
   struct stat status;
   while (reader.next(&raw)) {
-    if (::fstatat(fd.get(), raw.name, &status, AT_SYMLINK_NOFOLLOW) != 0) continue;
+    if (::fstatat(fd.get(), raw.name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+      if (complete && errno != ENOENT) *complete = false;
+      continue;
+    }
     const QByteArrayView name(raw.name, static_cast<qsizetype>(raw.length));
     Entry& entry = entries.emplace_back();
     entry.name = names::decode(name);
     entry.reachable = !joinsWrongly(dir) && reaches(fd.get(), name, status);
     fill(&entry, status);
   }
+  if (complete && reader.error() != 0) *complete = false;
   return entries;
 }
 

@@ -50,7 +50,9 @@ using Progress = std::function<void(const QString&, qint64, qint64)>;
 
 /// The entries of a folder in the system's order, hidden ones too; empty if it can't be opened. A @p dir that is a link
 /// to a folder is that folder. An entry's reachable tells of its own name, as @p dir is a text.
-[[nodiscard]] QList<Entry> list(const QString& dir);
+/// @param complete  receives whether the folder could be opened, read to its end, and every entry in it looked at (what
+///                  vanished meanwhile doesn't count); may be null
+[[nodiscard]] QList<Entry> list(const QString& dir, bool* complete = nullptr);
 
 /// Metadata of @p path itself, a link included. False leaves @p out untouched.
 [[nodiscard]] bool stat(const QString& path, Entry* out);

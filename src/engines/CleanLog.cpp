@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -70,12 +71,21 @@ void CleanLog::openFile(const QString& path) {
   QDir().mkpath(QFileInfo(path).path());
   struct stat status = {};
   UniqueFd fd = openOwn(path, &status);
-  if (!fd || !m_file.open(fd.get(), QIODevice::WriteOnly | QIODevice::Text, QFileDevice::AutoCloseHandle)) return;
+  if (!fd || !m_file.open(fd.get(), QIODevice::WriteOnly | QIODevice::Text, QFileDevice::AutoCloseHandle)) {
+    goNowhere();
+    return;
+  }
   (void)fd.release();
   m_fileName = QFileInfo(path).fileName();
   m_device = status.st_dev;
   m_inode = status.st_ino;
   m_stream.setDevice(&m_file);
+}
+
+// The lines of a run without a log aren't kept: there may be very many.
+void CleanLog::goNowhere() {
+  m_file.setFileName(QProcess::nullDevice());
+  if (m_file.open(QIODevice::WriteOnly)) m_stream.setDevice(&m_file);
 }
 
 bool CleanLog::isOwnFile(const QString& path) const {

@@ -20,7 +20,7 @@ struct LoggedPath {
   QString text;
 };
 
-/// Collects its text until openFile() succeeded. One thread.
+/// Collects its text until openFile() is called. One thread.
 class CleanLog {
  public:
   CleanLog() { m_stream.setString(&m_text); }
@@ -31,7 +31,8 @@ class CleanLog {
   [[nodiscard]] static QString pathFor(const QDateTime& when);
 
   /// Writes to the file at @p path from now on, made with its folder and for the user's eyes alone. A file of the
-  /// user's own is replaced; what is a link, has a second name or belongs to somebody else isn't. A failure is no word.
+  /// user's own is replaced; what is a link, has a second name or belongs to somebody else isn't. After a failure
+  /// the lines go nowhere.
   void openFile(const QString& path);
   /// What was collected so far.
   [[nodiscard]] QString text() const { return m_text; }
@@ -53,6 +54,8 @@ class CleanLog {
   void flush();
 
  private:
+  void goNowhere();
+
   QFile m_file;
   QString m_text;
   QString m_fileName;

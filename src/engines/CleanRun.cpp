@@ -279,7 +279,9 @@ fs::Totals CleanRun::measureLeft(const CleanWork& work) {
     return {};
   }
   fs::Entry entry;
-  const bool isKnown = fs::stat(path, &entry) ? !entry.isDir || fs::isReadable(path) : !fs::exists(path);
+  // A folder to be emptied that is none any more was swapped for something else: nothing of it is known to have gone.
+  const auto canBeMeasured = [&] { return entry.isDir ? fs::isReadable(path) : !item.wholeRoot; };
+  const bool isKnown = fs::stat(path, &entry) ? canBeMeasured() : !fs::exists(path);
   return isKnown ? fs::measure(path, kNever) : fs::Totals{item.bytes, item.files, 0};
 }
 

@@ -95,8 +95,11 @@ bool isLeftoverBelow(const fs::Entry& top, const QString& path, const categories
   while (!pending.isEmpty()) {
     if (cancel && *cancel) return false;
     const QString dir = pending.takeLast();
-    if (!fs::isReadable(dir) || names::encode(dir).size() > kLongestPath) return false;
-    for (const fs::Entry& entry : fs::list(dir)) {
+    if (names::encode(dir).size() > kLongestPath) return false;
+    bool complete = false;
+    const QList<fs::Entry> entries = fs::list(dir, &complete);
+    if (!complete) return false;
+    for (const fs::Entry& entry : entries) {
       if (!isOldAndPlain(entry, admission)) return false;
       if (!entry.isDir) continue;
       if (!entry.reachable || entry.device != top.device) return false;

@@ -11,7 +11,7 @@ namespace i18n {
 
 struct Language {
   QString code;
-  QString name;  ///< in the language itself
+  QString name; ///< in the language itself
 };
 
 /// The ten languages in the order of all lists.
@@ -27,4 +27,4 @@ struct Language {
 /// Loads the catalogue and sets the default locale. Once, before any text is shown.
 void install(QCoreApplication* app);
 
-}  // namespace i18n
+} // namespace i18n

@@ -179,7 +179,10 @@ void TestGuard::compareDownwards(const Guard& guard, const QList<QString>& rules
                                  u".ssh"_s,
                                  u"~"_s,
                                  u" "_s,
-                                 u"...x"_s, u"db"_s, u"users"_s, u"config.json"_s};
+                                 u"...x"_s,
+                                 u"db"_s,
+                                 u"users"_s,
+                                 u"config.json"_s};
   static const QStringList roots{m_home.path(),
                                  m_home.path(u"a"_s),
                                  m_home.path(u".docker"_s),

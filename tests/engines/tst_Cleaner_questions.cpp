@@ -319,6 +319,8 @@ void tst_Cleaner_questions::rootSwappedForALinkIsNotFollowed() {
   m_bench->run({CleanBench::category(u"x"_s, {item})});
   QVERIFY(CleanBench::isThere(precious));
   QCOMPARE(m_bench->lines("SKIPPED"), QStringList{u"SKIPPED  %1  (in use or access denied)"_s.arg(item.path)});
+  QCOMPARE(m_bench->report.freedBytes, 0);
+  QCOMPARE(m_bench->report.removedFiles, 0);
 }
 
 void tst_Cleaner_questions::itemsFolderSwappedForALinkIsNotFollowed() {

@@ -11,6 +11,7 @@
 #include <QTest>
 
 #include <sys/file.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -63,6 +64,7 @@ class tst_admission : public QObject {
   void mountOnIt();
   void mountBelow();
   void unreadableBelow();
+  void noDescriptorToLookWith();
   void nameThatIsNoTextBelow();
   void cancelled();
 
@@ -325,6 +327,21 @@ void tst_admission::unreadableBelow() {
   const bool admitted = admits(u"folder"_s);
   ::chmod(closed.constData(), 0700);
   QVERIFY(!admitted);
+}
+
+void tst_admission::noDescriptorToLookWith() {
+  oldFile(u"folder/sub/file"_s);
+  fs::Entry entry;
+  QVERIFY(fs::stat(m_home->temp(u"folder"_s), &entry));
+  const Admission admission = Admission::now(m_proc->root());
+  rlimit before = {};
+  QCOMPARE(::getrlimit(RLIMIT_NOFILE, &before), 0);
+  const rlimit none = {0, before.rlim_max};
+  QCOMPARE(::setrlimit(RLIMIT_NOFILE, &none), 0);
+  const bool admitted = categories::admits(entry, m_home->temp(u"folder"_s), admission);
+  ::setrlimit(RLIMIT_NOFILE, &before);
+  QVERIFY(!admitted);
+  QVERIFY(categories::admits(entry, m_home->temp(u"folder"_s), admission));
 }
 
 void tst_admission::nameThatIsNoTextBelow() {

@@ -17,7 +17,7 @@ namespace {
 void makeFolder(const QString& path) {
   if (!QDir().mkpath(path)) qFatal("cannot make %s", qPrintable(path));
 }
-}  // namespace
+} // namespace
 
 FixtureHome::FixtureHome() : m_dir(QStringLiteral("/var/tmp/tarnwick-test-XXXXXX")), m_oldHome(qgetenv("HOME")) {
   makeFolder(path());
