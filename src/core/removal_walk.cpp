@@ -151,11 +151,10 @@ void RemovalWalk::left() {
   const bool holds = level().holds;
   const int readError = level().readError;
   popLevel();
-  if (error == 0 || error == ENOENT)
-    settle(error);
-  else if (readError != 0)
+  const bool went = error == 0 || error == ENOENT;
+  if (!went && readError != 0)
     busy(readError);
-  else if (holds)
+  else if (!went && holds)
     stays();
   else
     settle(error);
