@@ -143,6 +143,7 @@ class ItemsInterface : public QAccessibleWidget {
     shrink(childCount());
     if (size_t(index) >= m_children.size()) m_children.resize(size_t(index) + 1);
     QAccessible::Id& id = m_children[size_t(index)];
+    // The registry owns it. NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
     if (id == 0) id = QAccessible::registerAccessibleInterface(new ItemInterface(widget(), index));
     return QAccessible::accessibleInterface(id);
   }

@@ -17,7 +17,8 @@ constexpr double kRingInset = 4; // the ring lies on the track's edge, as there 
 } // namespace
 
 SwitchLayout switchLayout(const QSize& size, bool checked) {
-  const QRectF box(0, (size.height() - kSize.height()) / 2, kSize.width(), kSize.height()); // on whole pixels
+  const int top = (size.height() - kSize.height()) / 2; // on whole pixels
+  const QRectF box(0, top, kSize.width(), kSize.height());
   SwitchLayout layout;
   layout.track = paint::hairline(box);
   const double side = layout.track.height() - 2 * kKnobInset;
