@@ -1,0 +1,106 @@
+#include "ui/visuals/Sparkline.h"
+
+#include "core/fmt.h"
+#include "ui/Theme.h"
+#include "ui/paint.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace ui {
+
+namespace {
+// Lengths in pixels.
+constexpr QSize kSize(92, 32);
+constexpr double kSideRoom = 2;
+constexpr double kEndRoom = 3; // at top and bottom
+constexpr double kLineWidth = 2;
+
+constexpr double kAreaAlpha = 0.35; // at the top; it fades out to the bottom
+
+constexpr QRgb kAreaColour = 0xff6366f1;      // hue: of the area, in both looks
+constexpr QRgb kLineStartColour = 0xff22d3ee; // hue: of the line at its left end
+constexpr QRgb kLineEndColour = 0xffa855f7;   // hue: of the line at its right end
+
+qint64 peakOf(const QList<qint64>& values) {
+  return values.isEmpty() ? 1 : std::max<qint64>(1, *std::max_element(values.begin(), values.end()));
+}
+
+QLinearGradient areaBrush(const QRectF& chart) {
+  const QColor colour = QColor::fromRgb(kAreaColour);
+  QLinearGradient gradient(chart.topLeft(), chart.bottomLeft());
+  gradient.setColorAt(0, paint::withAlphaF(colour, kAreaAlpha));
+  gradient.setColorAt(1, paint::withAlphaF(colour, 0));
+  return gradient;
+}
+
+QLinearGradient lineBrush(const QRectF& chart) {
+  QLinearGradient gradient(chart.topLeft(), chart.topRight());
+  gradient.setColorAt(0, QColor::fromRgb(kLineStartColour));
+  gradient.setColorAt(1, QColor::fromRgb(kLineEndColour));
+  return gradient;
+}
+
+} // namespace
+
+SparklineLayout sparklineLayout(const QList<qint64>& values, const QSizeF& chart) {
+  if (values.isEmpty()) return {};
+  const double step = values.size() > 1 ? (chart.width() - 2 * kSideRoom) / double(values.size() - 1) : 0;
+  const double baseline = chart.height() - kEndRoom;
+  const double room = chart.height() - 2 * kEndRoom;
+  const double peak = double(peakOf(values));
+  SparklineLayout layout;
+  for (qsizetype i = 0; i < values.size(); ++i)
+    layout.line << QPointF(kSideRoom + double(i) * step, baseline - double(values[i]) * room / peak);
+  layout.area = layout.line;
+  layout.area << QPointF(layout.line.last().x(), chart.height()) << QPointF(kSideRoom, chart.height());
+  return layout;
+}
+
+Sparkline::Sparkline(QWidget* parent) : QWidget(parent), m_format(fmt::count) {
+  setFixedSize(kSize);
+  connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
+}
+
+void Sparkline::setValues(const QList<qint64>& values) {
+  m_values = values;
+  update();
+  accessibleValueChanged(this);
+}
+
+void Sparkline::setValueFormat(QString (*format)(qint64)) {
+  m_format = format;
+  accessibleValueChanged(this);
+}
+
+QString Sparkline::valueText() const {
+  QStringList told;
+  for (const qint64 value : m_values) told << m_format(value);
+  return told.join(u", ");
+}
+
+double Sparkline::valueFraction() const {
+  if (m_values.isEmpty()) return 0;
+  return std::max(0.0, double(m_values.last()) / double(peakOf(m_values)));
+}
+
+void Sparkline::paintEvent(QPaintEvent* /*event*/) {
+  if (m_values.isEmpty()) return;
+  const SparklineLayout layout = sparklineLayout(m_values, size());
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(areaBrush(rect()));
+  painter.drawPolygon(layout.area);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(paint::roundPen(lineBrush(rect()), kLineWidth));
+  if (layout.line.size() == 1)
+    painter.drawPoint(layout.line.first()); // a polyline of one point paints nothing
+  else
+    painter.drawPolyline(layout.line);
+}
+
+} // namespace ui

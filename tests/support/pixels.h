@@ -1,0 +1,54 @@
+/// What tests of painted controls look at: a look, a picture of a widget, and colours as a painter mixes them.
+#pragma once
+
+#include "app/AppSettings.h"
+
+#include <QColor>
+#include <QImage>
+#include <QPainter>
+#include <QWidget>
+
+namespace pixels {
+
+/// The look of the installed theme, dark or light.
+inline void setLook(bool dark) { AppSettings::instance().setThemeMode(dark ? AppSettings::Dark : AppSettings::Light); }
+
+/// The widget on nothing, so that a pixel tells what was painted there and how opaque.
+inline QImage rendered(QWidget& widget, double ratio = 1) {
+  QImage image(widget.size() * ratio, QImage::Format_ARGB32_Premultiplied);
+  image.setDevicePixelRatio(ratio);
+  image.fill(Qt::transparent);
+  widget.render(&image, {}, {}, {});
+  return image.convertToFormat(QImage::Format_ARGB32);
+}
+
+/// One colour laid over another, as the painter does.
+inline QColor over(const QColor& upper, const QColor& lower) {
+  QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
+  image.fill(lower);
+  QPainter(&image).fillRect(0, 0, 1, 1, upper);
+  return image.pixelColor(0, 0);
+}
+
+/// @p colour with another alpha, as a fraction.
+inline QColor faded(QColor colour, double alpha) {
+  colour.setAlphaF(float(alpha));
+  return colour;
+}
+
+/// The same but for rounding, which weighs more the fainter a colour is.
+inline bool isNear(const QColor& seen, const QColor& wanted) {
+  const int slack = 3 + 255 / qMax(1, seen.alpha());
+  return qAbs(seen.alpha() - wanted.alpha()) <= 3 && qAbs(seen.red() - wanted.red()) <= slack &&
+         qAbs(seen.green() - wanted.green()) <= slack && qAbs(seen.blue() - wanted.blue()) <= slack;
+}
+
+/// Whether nothing is painted on it.
+inline bool isBlank(const QImage& image) {
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (image.pixelColor(x, y).alpha() != 0) return false;
+  return true;
+}
+
+} // namespace pixels
