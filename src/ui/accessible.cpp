@@ -1,6 +1,7 @@
 #include "ui/accessible.h"
 
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QPointer>
 #include <QWidget>
 
@@ -9,6 +10,24 @@
 namespace ui {
 
 namespace {
+
+/// Whether keys go to this widget. A popup has them without having the focus.
+bool hasKeyboard(const QWidget* widget) { return widget->hasFocus() || QApplication::activePopupWidget() == widget; }
+
+/// A painted text.
+class TextInterface : public QAccessibleWidget {
+ public:
+  explicit TextInterface(QWidget* widget)
+      : QAccessibleWidget(widget, QAccessible::StaticText), m_text(dynamic_cast<AccessibleText*>(widget)) {}
+
+  [[nodiscard]] QString text(QAccessible::Text kind) const override {
+    const QString own = QAccessibleWidget::text(kind);
+    return own.isEmpty() && kind == QAccessible::Name ? m_text->shownText() : own;
+  }
+
+ private:
+  AccessibleText* m_text;
+};
 
 /// A gauge, a ring, a bar, a painted button: one widget without parts.
 class ControlInterface : public QAccessibleWidget, public QAccessibleValueInterface {
@@ -102,11 +121,13 @@ class ItemInterface : public QAccessibleInterface, public QAccessibleActionInter
     if (state.invalid) return state;
     const AccessibleItems::Item item = items()->itemAt(m_index);
     state.disabled = !m_widget->isEnabled();
-    state.invisible = !m_widget->isVisible();
-    state.focusable = m_widget->focusPolicy() != Qt::NoFocus;
-    state.focused = item.current && m_widget->hasFocus();
+    state.invisible = !item.shown || !m_widget->isVisible();
+    state.focusable = item.shown && (m_widget->focusPolicy() != Qt::NoFocus || hasKeyboard(m_widget));
+    state.focused = item.current && hasKeyboard(m_widget);
     state.checkable = item.checkable;
     state.checked = item.checked;
+    state.selectable = item.selectable;
+    state.selected = item.selected;
     return state;
   }
 
@@ -160,7 +181,7 @@ class ItemsInterface : public QAccessibleWidget {
     return nullptr;
   }
   [[nodiscard]] QAccessibleInterface* focusChild() const override {
-    if (!widget()->hasFocus()) return nullptr;
+    if (!hasKeyboard(widget())) return nullptr;
     for (int index = 0; index < childCount(); ++index)
       if (m_items->itemAt(index).current) return child(index);
     return QAccessibleWidget::focusChild();
@@ -177,12 +198,56 @@ class ItemsInterface : public QAccessibleWidget {
   mutable std::vector<QAccessible::Id> m_children; ///< 0 for a part that nobody asked for yet
 };
 
+/// A control with parts of which one is chosen. Says its own name before the choice: the stock interface of combo boxes
+/// gives the choice as the name where a label is expected to stand beside them.
+class DropDownInterface : public ItemsInterface {
+ public:
+  explicit DropDownInterface(QWidget* widget)
+      : ItemsInterface(widget), m_choice(dynamic_cast<AccessibleDropDown*>(widget)) {}
+
+  [[nodiscard]] QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Value) return m_choice->chosenText();
+    const QString own = QAccessibleWidget::text(kind);
+    return own.isEmpty() && kind == QAccessible::Name ? m_choice->chosenText() : own;
+  }
+
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.hasPopup = true;
+    state.expandable = true;
+    state.expanded = m_choice->isExpanded();
+    state.collapsed = !state.expanded;
+    return state;
+  }
+
+  // The control itself has the keyboard; its list is another window.
+  [[nodiscard]] QAccessibleInterface* focusChild() const override { return QAccessibleWidget::focusChild(); }
+  [[nodiscard]] QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
+
+  [[nodiscard]] QStringList actionNames() const override {
+    QStringList names = QAccessibleWidget::actionNames();
+    if (widget()->isEnabled()) names.prepend(showMenuAction());
+    return names;
+  }
+  void doAction(const QString& name) override {
+    if (name == showMenuAction() && widget()->isEnabled())
+      m_choice->setExpanded(!m_choice->isExpanded());
+    else
+      QAccessibleWidget::doAction(name);
+  }
+
+ private:
+  AccessibleDropDown* m_choice;
+};
+
 QAccessibleInterface* make(const QString& /*className*/, QObject* object) {
   auto* widget = qobject_cast<QWidget*>(object);
   if (!widget) return nullptr;
+  if (dynamic_cast<AccessibleDropDown*>(widget)) return new DropDownInterface(widget);
   if (dynamic_cast<AccessibleItems*>(widget)) return new ItemsInterface(widget);
   if (dynamic_cast<AccessibleValue*>(widget) || dynamic_cast<AccessibleButton*>(widget))
     return new ControlInterface(widget);
+  if (dynamic_cast<AccessibleText*>(widget)) return new TextInterface(widget);
   return nullptr;
 }
 
@@ -200,6 +265,18 @@ void accessibleValueChanged(QWidget* widget) {
   QAccessible::updateAccessibility(&event);
 }
 
+void accessibleTextChanged(QWidget* widget) {
+  QAccessibleEvent event(widget, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&event);
+}
+
+void accessibleExpandedChanged(QWidget* widget) {
+  QAccessible::State touched;
+  touched.expanded = true;
+  QAccessibleStateChangeEvent event(widget, touched);
+  QAccessible::updateAccessibility(&event);
+}
+
 void accessibleItemsChanged(QWidget* widget, int current) {
   const auto* parts = dynamic_cast<ItemsInterface*>(QAccessible::queryAccessibleInterface(widget));
   if (!parts) return;
@@ -210,10 +287,12 @@ void accessibleItemsChanged(QWidget* widget, int current) {
     return;
   }
   QAccessible::State touched;
-  touched.checked = true;
+  const bool selectable = dynamic_cast<AccessibleItems*>(widget)->itemAt(current).selectable;
+  touched.selected = selectable;
+  touched.checked = !selectable;
   QAccessibleStateChangeEvent state(parts->child(current), touched);
   QAccessible::updateAccessibility(&state);
-  if (!widget->hasFocus()) return;
+  if (!hasKeyboard(widget)) return;
   QAccessibleEvent focus(widget, QAccessible::Focus);
   focus.setChild(current);
   QAccessible::updateAccessibility(&focus);

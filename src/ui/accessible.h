@@ -30,6 +30,14 @@ class AccessibleButton {
   virtual void press() = 0;
 };
 
+/// A control that paints a text and does nothing else: a badge, a big number.
+class AccessibleText {
+ public:
+  virtual ~AccessibleText() = default;
+  /// What the sighted user reads; its name, unless QWidget::accessibleName is set.
+  [[nodiscard]] virtual QString shownText() const = 0;
+};
+
 /// A control with parts that can be reached and worked one by one: segments, tiles.
 class AccessibleItems {
  public:
@@ -38,7 +46,10 @@ class AccessibleItems {
     QRect rect;   ///< in the control's coordinates
     bool checkable = false;
     bool checked = false;
+    bool selectable = false; ///< a row of a list, of which one is chosen
+    bool selected = false;
     bool current = false; ///< has the control's keyboard focus
+    bool shown = true;    ///< is on the screen, as far as the control is
   };
 
   virtual ~AccessibleItems() = default;
@@ -51,11 +62,24 @@ class AccessibleItems {
   virtual void activateItem(int index) = 0;
 };
 
+/// A control that shows one of its parts and lists all of them when it is opened.
+class AccessibleDropDown : public AccessibleItems {
+ public:
+  /// What the sighted user reads of the closed control.
+  [[nodiscard]] virtual QString chosenText() const = 0;
+  [[nodiscard]] virtual bool isExpanded() const = 0;
+  virtual void setExpanded(bool on) = 0;
+};
+
 /// Makes the interfaces known to Qt; Theme::install does it. More calls do nothing.
 void installAccessibility();
 
 /// Tells assistive tools, if there are any, that the value of @p widget has changed.
 void accessibleValueChanged(QWidget* widget);
+/// Tells assistive tools, if there are any, that the text of @p widget has changed.
+void accessibleTextChanged(QWidget* widget);
+/// Tells assistive tools, if there are any, that @p widget has been opened or closed.
+void accessibleExpandedChanged(QWidget* widget);
 /// Tells assistive tools, if there are any, that the parts of @p widget, or their states, have changed.
 /// @param current  the part that the change is about and that the keyboard works now; -1 for none
 void accessibleItemsChanged(QWidget* widget, int current);

@@ -50,21 +50,19 @@ PillLayout pillLayout(const QSize& widget, int textWidth) {
 Pill::Pill(Safety safety, QWidget* parent) : QWidget(parent), m_safety(safety) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   setFont(Theme::get().font(kFontPx, kFontWeight));
-  tellLabel();
   connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
 }
 
 void Pill::setSafety(Safety safety) {
   m_safety = safety;
-  tellLabel();
   updateGeometry();
   update();
+  accessibleTextChanged(this);
 }
 
-// What it paints is text, and is read out as such.
-void Pill::tellLabel() { setAccessibleName(categories::safetyLabel(m_safety)); }
+QString Pill::shownText() const { return categories::safetyLabel(m_safety); }
 
-int Pill::textWidth() const { return fontMetrics().horizontalAdvance(categories::safetyLabel(m_safety)); }
+int Pill::textWidth() const { return fontMetrics().horizontalAdvance(shownText()); }
 
 QSize Pill::sizeHint() const { return {textWidth() + kRoom, kHeight}; }
 
@@ -77,7 +75,7 @@ void Pill::paintEvent(QPaintEvent* /*event*/) {
   painter.setBrush(colours.strong);
   painter.drawEllipse(layout.dot);
   painter.setPen(colours.strong);
-  painter.drawText(layout.text, Qt::AlignLeft | Qt::AlignVCenter, categories::safetyLabel(m_safety));
+  painter.drawText(layout.text, Qt::AlignLeft | Qt::AlignVCenter, shownText());
 }
 
 } // namespace ui

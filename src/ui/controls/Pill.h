@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/records.h"
+#include "ui/accessible.h"
 
 #include <QWidget>
 
@@ -16,7 +17,7 @@ struct PillLayout {
 /// @param textWidth  in the badge's font
 [[nodiscard]] PillLayout pillLayout(const QSize& widget, int textWidth);
 
-class Pill : public QWidget {
+class Pill : public QWidget, public AccessibleText {
   Q_OBJECT
 
  public:
@@ -25,13 +26,13 @@ class Pill : public QWidget {
 
   void setSafety(Safety safety);
   [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QString shownText() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   [[nodiscard]] int textWidth() const;
-  void tellLabel();
 
   Safety m_safety;
 };
