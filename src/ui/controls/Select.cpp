@@ -79,6 +79,17 @@ void Select::hidePopup() {
   if (m_popup) m_popup->close();
 }
 
+AccessibleItems::Item Select::itemAt(int index) const {
+  return {.name = itemText(index), .rect = {}, .selectable = true, .selected = index == currentIndex(), .shown = false};
+}
+
+// As a choice in the list does.
+void Select::activateItem(int index) {
+  if (index == currentIndex()) return;
+  setCurrentIndex(index);
+  emit activated(index);
+}
+
 bool Select::event(QEvent* event) {
   if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverLeave) update();
   return QComboBox::event(event);

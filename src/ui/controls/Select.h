@@ -1,6 +1,8 @@
 /// The drop-down choice of the interface: a combo box that paints itself and opens a list of its own.
 #pragma once
 
+#include "ui/accessible.h"
+
 #include <QComboBox>
 #include <QPointer>
 
@@ -21,7 +23,7 @@ struct SelectLayout {
 [[nodiscard]] SelectLayout selectLayout(const QSize& size, bool open);
 
 /// Space, Enter and F4 open the list; the arrow keys choose without opening it.
-class Select : public QComboBox {
+class Select : public QComboBox, public AccessibleDropDown {
   Q_OBJECT
 
  public:
@@ -34,6 +36,16 @@ class Select : public QComboBox {
   /// Without items nothing opens.
   void showPopup() override;
   void hidePopup() override;
+
+  [[nodiscard]] QAccessible::Role itemsRole() const override { return QAccessible::ComboBox; }
+  [[nodiscard]] QAccessible::Role itemRole() const override { return QAccessible::ListItem; }
+  [[nodiscard]] int itemCount() const override { return count(); }
+  /// Nowhere on the screen: the rows that one can see are those of the list.
+  [[nodiscard]] Item itemAt(int index) const override;
+  void activateItem(int index) override;
+  [[nodiscard]] QString chosenText() const override { return currentText(); }
+  [[nodiscard]] bool isExpanded() const override { return isOpen(); }
+  void setExpanded(bool on) override { on ? showPopup() : hidePopup(); }
 
  protected:
   bool event(QEvent* event) override;

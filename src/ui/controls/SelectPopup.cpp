@@ -106,6 +106,8 @@ void SelectPopup::open() {
   m_sinceOpening.start();
   show();
   fadeIn();
+  accessibleExpandedChanged(m_select);
+  accessibleItemsChanged(this, m_hovered);
 }
 
 void SelectPopup::fadeIn() {
@@ -122,7 +124,8 @@ int SelectPopup::current() const { return m_select ? m_select->currentIndex() : 
 AccessibleItems::Item SelectPopup::itemAt(int index) const {
   return {.name = m_select ? m_select->itemText(index) : QString(),
           .rect = m_layout.rowRect(index, width()).toRect(),
-          .checked = index == current(),
+          .selectable = true,
+          .selected = index == current(),
           .current = index == m_hovered};
 }
 
@@ -182,6 +185,11 @@ void SelectPopup::keyPressEvent(QKeyEvent* event) {
 void SelectPopup::closeEvent(QCloseEvent* event) {
   if (m_select) m_select->update();
   QWidget::closeEvent(event);
+}
+
+void SelectPopup::hideEvent(QHideEvent* event) {
+  QWidget::hideEvent(event);
+  if (m_select) accessibleExpandedChanged(m_select);
 }
 
 void SelectPopup::paintEvent(QPaintEvent* /*event*/) {

@@ -62,6 +62,7 @@ class SelectPopup : public QWidget, public AccessibleItems {
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
  private:
   [[nodiscard]] int rows() const;

@@ -135,6 +135,8 @@ class TestSelect : public QObject {
   void selectGoesWhileOpen();
   void popupPaintsMac();
   void popupPaintsWin();
+  void isReadOut();
+  void readersChoose();
   void popupIsReadOut();
 };
 
@@ -521,13 +523,54 @@ void TestSelect::popupPaintsWin() {
   }
 }
 
+void TestSelect::isReadOut() {
+  Shown shown;
+  QAccessibleInterface* face = QAccessible::queryAccessibleInterface(shown.select.data());
+  QVERIFY(face);
+  QCOMPARE(face->role(), QAccessible::ComboBox);
+  QCOMPARE(face->text(QAccessible::Name), u"Light"_s); // better than nothing
+  shown.select->setAccessibleName(u"Look"_s);
+  QCOMPARE(face->text(QAccessible::Name), u"Look"_s);
+  QCOMPARE(face->text(QAccessible::Value), u"Light"_s);
+  QVERIFY(face->state().focusable);
+  QVERIFY(face->state().hasPopup);
+  QVERIFY(face->state().expandable);
+  QVERIFY(face->state().collapsed);
+  QCOMPARE(face->childCount(), 3);
+  QCOMPARE(face->child(0)->text(QAccessible::Name), u"System"_s);
+  QVERIFY(face->child(1)->state().selected);
+  QVERIFY(!face->child(0)->state().selected);
+  QVERIFY(face->child(0)->state().invisible);
+
+  QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
+  const QString open = QAccessibleActionInterface::showMenuAction();
+  QVERIFY(face->actionInterface()->actionNames().contains(open));
+  face->actionInterface()->doAction(open);
+  QVERIFY(popup());
+  QVERIFY(face->state().expanded);
+  QVERIFY(!face->state().collapsed);
+  face->actionInterface()->doAction(open);
+  QVERIFY(!popup());
+  QVERIFY(face->state().collapsed);
+  shown.select->setEnabled(false);
+  face->actionInterface()->doAction(open);
+  QVERIFY(!popup());
+}
+
+void TestSelect::readersChoose() {
+  Shown shown;
+  QSignalSpy activated(shown.select, &QComboBox::activated);
+  QAccessibleInterface* face = QAccessible::queryAccessibleInterface(shown.select.data());
+  for (int round = 0; round < 2; ++round) {
+    face->child(2)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(shown.select->currentIndex(), 2);
+    QCOMPARE(activated.count(), 1); // the second time it is the current one
+  }
+}
+
 void TestSelect::popupIsReadOut() {
   Shown shown;
   shown.select->setAccessibleName(u"Look"_s);
-  QAccessibleInterface* closed = QAccessible::queryAccessibleInterface(shown.select.data());
-  QVERIFY(closed);
-  QCOMPARE(closed->role(), QAccessible::ComboBox);
-  QCOMPARE(closed->text(QAccessible::Value), u"Light"_s);
   QVERIFY(shown.open());
   QAccessibleInterface* list = QAccessible::queryAccessibleInterface(popup());
   QVERIFY(list);
@@ -536,7 +579,17 @@ void TestSelect::popupIsReadOut() {
   QCOMPARE(list->childCount(), 3);
   QCOMPARE(list->child(2)->role(), QAccessible::ListItem);
   QCOMPARE(list->child(2)->text(QAccessible::Name), u"Dark and long"_s);
-  QVERIFY(list->child(1)->state().checked);
+  QVERIFY(list->child(1)->state().selected);
+  QVERIFY(!list->child(1)->state().invisible);
+  // The keys of the keyboard go to the popup, which has no focus of its own.
+  QCOMPARE(list->focusChild(), list->child(1));
+  QVERIFY(list->child(1)->state().focused);
+  QTest::keyClick(popup(), Qt::Key_Down);
+  QCOMPARE(list->focusChild(), list->child(2));
+  QVERIFY(list->child(2)->state().focused);
+  QVERIFY(list->child(2)->state().focusable);
+  QVERIFY(!list->child(2)->state().selected);
+  QVERIFY(!list->child(1)->state().focused);
   list->child(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   QCOMPARE(shown.select->currentIndex(), 0);
   QVERIFY(!popup());
