@@ -98,7 +98,7 @@ QString CleanRun::refusal(std::optional<RunLock>* lock) const {
   if (!places::homeIsOwn())
     return words(QT_TRANSLATE_NOOP("Cleaner", "The home folder belongs to another user. Nothing was cleaned."));
   if (isDry()) return {};
-  lock->emplace(m_world.lockPath);
+  lock->emplace(m_world.lockPath.isEmpty() ? RunLock::defaultPaths() : QStringList{m_world.lockPath});
   switch ((*lock)->state()) {
   case RunLock::State::Held:
     break;

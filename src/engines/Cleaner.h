@@ -18,7 +18,7 @@ struct CleanerWorld {
   std::function<QDateTime()> now;                       ///< empty: the local time
   std::function<bool()> emptyRecycleBin;                ///< empty: the system's
   appguard::Sources sources;
-  QString lockPath = RunLock::defaultPath();
+  QString lockPath; ///< empty: where all processes of the user meet
 };
 
 class Cleaner : public QObject {
