@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QProcess>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -47,13 +48,18 @@ QLatin1StringView words(SkipReason reason) {
   return {};
 }
 
-/// Opens the file for writing from its start, but not what might be somebody else's under this name.
-UniqueFd openOwn(const QString& path, struct stat* status) {
-  UniqueFd fd(::open(names::encode(path).constData(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
-  const bool isOwn = fd && ::fstat(fd.get(), status) == 0 && S_ISREG(status->st_mode) && status->st_nlink == 1 &&
-                     status->st_uid == ::geteuid() && ::fchmod(fd.get(), 0600) == 0;
-  if (!isOwn || ::ftruncate(fd.get(), 0) != 0) fd.reset();
-  return fd;
+/// So many names are tried before a run goes without a log.
+constexpr int kMostLogs = 1000;
+
+/// The @p number-th name for a log that is to lie at @p path.
+QString numbered(const QString& path, int number) {
+  const qsizetype dot = path.lastIndexOf(u'.');
+  return number == 1 ? path : path.first(dot) + u'-' + QString::number(number) + path.sliced(dot);
+}
+
+/// Makes a file that wasn't there; for the user alone.
+UniqueFd makeNew(const QString& path) {
+  return UniqueFd(::open(names::encode(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
 }
 
 } // namespace
@@ -67,19 +73,26 @@ QString CleanLog::pathFor(const QDateTime& when) {
   return Cleaner::logDir() + u"/cleanup-"_s + when.toString(u"yyyyMMdd-HHmmss"_s) + u".log"_s;
 }
 
-void CleanLog::openFile(const QString& path) {
+QString CleanLog::openFile(const QString& path) {
   QDir().mkpath(QFileInfo(path).path());
+  QString free = path;
+  UniqueFd fd = makeNew(free);
+  for (int number = 2; !fd && errno == EEXIST && number <= kMostLogs; ++number) {
+    free = numbered(path, number);
+    fd = makeNew(free);
+  }
   struct stat status = {};
-  UniqueFd fd = openOwn(path, &status);
-  if (!fd || !m_file.open(fd.get(), QIODevice::WriteOnly | QIODevice::Text, QFileDevice::AutoCloseHandle)) {
+  if (!fd || ::fstat(fd.get(), &status) != 0 ||
+      !m_file.open(fd.get(), QIODevice::WriteOnly | QIODevice::Text, QFileDevice::AutoCloseHandle)) {
     goNowhere();
-    return;
+    return path;
   }
   (void)fd.release();
-  m_fileName = QFileInfo(path).fileName();
+  m_fileName = QFileInfo(free).fileName();
   m_device = status.st_dev;
   m_inode = status.st_ino;
   m_stream.setDevice(&m_file);
+  return free;
 }
 
 // The lines of a run without a log aren't kept: there may be very many.

@@ -30,10 +30,10 @@ class CleanLog {
   /// Where the log of a run that begins at @p when lies.
   [[nodiscard]] static QString pathFor(const QDateTime& when);
 
-  /// Writes to the file at @p path from now on, made with its folder and for the user's eyes alone. A file of the
-  /// user's own is replaced; what is a link, has a second name or belongs to somebody else isn't. After a failure
-  /// the lines go nowhere.
-  void openFile(const QString& path);
+  /// Writes from now on to a new file at @p path, made with its folder and for the user's eyes alone. Never touches
+  /// what stands there, the log of an earlier run in the same second above all: then "-2", "-3" and so on come before
+  /// the ending. @return the path of the file; where none could be made, @p path, and the lines go nowhere
+  QString openFile(const QString& path);
   /// What was collected so far.
   [[nodiscard]] QString text() const { return m_text; }
   /// Whether the file at @p path is the open log. Reads the disk only if the name is the log's.

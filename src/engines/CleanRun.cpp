@@ -115,8 +115,7 @@ QString CleanRun::refusal(std::optional<RunLock>* lock) const {
 void CleanRun::openLog() {
   const QDateTime now = m_world.now ? m_world.now() : QDateTime::currentDateTime();
   if (!isDry()) {
-    m_report.logPath = CleanLog::pathFor(now);
-    m_log.openFile(m_report.logPath);
+    m_report.logPath = m_log.openFile(CleanLog::pathFor(now));
   }
   m_judge.emplace(m_order.exclusions, m_world.sources, [this](const QString& path) { return m_log.isOwnFile(path); });
   if (!isDry()) m_judge->addOpen(m_report.logPath);

@@ -41,7 +41,8 @@ class tst_CleanLog : public QObject {
   void oddCharacters();
   void oddNamesMakeNoLines();
   void fileIsTheUsersAlone();
-  void sameSecondReplaces();
+  void sameSecondHasAFileOfItsOwn();
+  void ownFileIsKnownByItsNumber();
   void neverThroughALink();
   void neverIntoASecondName();
   void neverIntoAPipe();
@@ -53,6 +54,10 @@ class tst_CleanLog : public QObject {
     QList<CleanItem> items;
     for (const QString& name : names) items << CleanBench::item(m_bench->home.file(u"a/"_s + name));
     m_bench->run({CleanBench::category(u"x"_s, items)});
+  }
+  [[nodiscard]] static QString logPath(int number = 1) {
+    const QString more = number == 1 ? QString() : u"-%1"_s.arg(number);
+    return Cleaner::logDir() + u"/cleanup-20240506-070809%1.log"_s.arg(more);
   }
   [[nodiscard]] static QString textOf(const QString& path) {
     QFile file(path);
@@ -78,7 +83,7 @@ void tst_CleanLog::folder() {
 
 void tst_CleanLog::fileName() {
   clean({u"one"_s});
-  QCOMPARE(m_bench->report.logPath, Cleaner::logDir() + "/cleanup-20240506-070809.log"_L1);
+  QCOMPARE(m_bench->report.logPath, logPath());
   QVERIFY(CleanBench::isThere(m_bench->report.logPath));
 }
 
@@ -189,49 +194,59 @@ void tst_CleanLog::oddNamesMakeNoLines() {
 }
 
 void tst_CleanLog::fileIsTheUsersAlone() {
-  const QString existing = m_bench->home.file(Cleaner::logDir() + "/cleanup-20240506-070809.log"_L1);
-  QCOMPARE(::chmod(QFile::encodeName(existing).constData(), 0644), 0);
-  for (int pass = 0; pass < 2; ++pass) {
-    clean({u"one"_s});
-    struct stat status = {};
-    QCOMPARE(::lstat(QFile::encodeName(m_bench->report.logPath).constData(), &status), 0);
-    QCOMPARE(status.st_mode & 07777, mode_t{0600});
-    QFile::remove(existing);
-  }
+  const mode_t before = ::umask(0);
+  clean({u"one"_s});
+  ::umask(before);
+  struct stat status = {};
+  QCOMPARE(::lstat(QFile::encodeName(m_bench->report.logPath).constData(), &status), 0);
+  QCOMPARE(status.st_mode & 07777, mode_t{0600});
 }
 
-void tst_CleanLog::sameSecondReplaces() {
+void tst_CleanLog::sameSecondHasAFileOfItsOwn() {
   clean({u"a"_s, u"b"_s, u"c"_s});
   const QString first = m_bench->report.logPath;
+  const QString firstText = textOf(first);
   clean({u"d"_s});
-  QCOMPARE(m_bench->report.logPath, first);
+  QCOMPARE(m_bench->report.logPath, logPath(2));
   QCOMPARE(m_bench->lines("DELETED").size(), 1);
   QCOMPARE(m_bench->lines("Freed"), QStringList{u"Freed 4 KB, removed 1 files, skipped 0."_s});
+  clean({u"e"_s});
+  QCOMPARE(m_bench->report.logPath, logPath(3));
+  QCOMPARE(textOf(first), firstText);
+}
+
+void tst_CleanLog::ownFileIsKnownByItsNumber() {
+  clean({u"a"_s});
+  CleanLog log;
+  const QString path = log.openFile(logPath());
+  QCOMPARE(path, logPath(2));
+  QVERIFY(log.isOwnFile(path));
+  QVERIFY(!log.isOwnFile(logPath()));
 }
 
 void tst_CleanLog::neverThroughALink() {
   const QString precious = m_bench->home.file(u"precious"_s, 100);
-  m_bench->home.link(Cleaner::logDir() + "/cleanup-20240506-070809.log"_L1, precious);
+  m_bench->home.link(logPath(), precious);
+  m_bench->home.link(logPath(2), m_bench->home.path(u"made through a link"_s));
   clean({u"one"_s});
   QCOMPARE(textOf(precious).size(), 100);
-  QCOMPARE(m_bench->report.logPath, Cleaner::logDir() + "/cleanup-20240506-070809.log"_L1);
-  QCOMPARE(m_bench->report.removedFiles, 1);
+  QVERIFY(!CleanBench::isThere(m_bench->home.path(u"made through a link"_s)));
+  QCOMPARE(m_bench->report.logPath, logPath(3));
+  QCOMPARE(m_bench->lines("DELETED").size(), 1);
 }
 
 void tst_CleanLog::neverIntoASecondName() {
   const QString precious = m_bench->home.file(u"precious"_s, 100);
   m_bench->home.folder(Cleaner::logDir());
-  QCOMPARE(::link(QFile::encodeName(precious).constData(),
-                  QFile::encodeName(Cleaner::logDir() + "/cleanup-20240506-070809.log"_L1).constData()),
-           0);
+  QCOMPARE(::link(QFile::encodeName(precious).constData(), QFile::encodeName(logPath()).constData()), 0);
   clean({u"one"_s});
   QCOMPARE(textOf(precious).size(), 100);
-  QCOMPARE(m_bench->report.removedFiles, 1);
+  QCOMPARE(m_bench->lines("DELETED").size(), 1);
 }
 
 void tst_CleanLog::neverIntoAPipe() {
   m_bench->home.folder(Cleaner::logDir());
-  QCOMPARE(::mkfifo(QFile::encodeName(Cleaner::logDir() + "/cleanup-20240506-070809.log"_L1).constData(), 0600), 0);
+  QCOMPARE(::mkfifo(QFile::encodeName(logPath()).constData(), 0600), 0);
   Cleaner cleaner(nullptr, m_bench->world);
   m_bench->start(&cleaner, {});
   QTRY_COMPARE(m_bench->finishedCount.load(), 1); // doesn't wait for a reader
@@ -240,7 +255,7 @@ void tst_CleanLog::neverIntoAPipe() {
 void tst_CleanLog::unwritableFolderIsNoMatter() {
   m_bench->home.file(m_bench->home.path(u".local/share/Tarnwick"_s)); // where the folder would be
   clean({u"one"_s});
-  QCOMPARE(m_bench->report.logPath, Cleaner::logDir() + "/cleanup-20240506-070809.log"_L1);
+  QCOMPARE(m_bench->report.logPath, logPath());
   QVERIFY(!CleanBench::isThere(m_bench->report.logPath));
   QCOMPARE(m_bench->report.removedFiles, 1);
   QCOMPARE(m_bench->report.dryRunLog, QString());
@@ -251,7 +266,7 @@ void tst_CleanLog::flushedAfterHeadAndCategories() {
   const CleanItem two = CleanBench::item(m_bench->home.file(u"a/two"_s));
   const CleanItem three = CleanBench::item(m_bench->home.file(u"a/three"_s));
   QStringList texts;
-  m_bench->onProgress = [&](const QString&) { texts << textOf(Cleaner::logDir() + "/cleanup-20240506-070809.log"_L1); };
+  m_bench->onProgress = [&](const QString&) { texts << textOf(logPath()); };
   m_bench->run({CleanBench::category(u"x"_s, {one}), CleanBench::category(u"y"_s, {two}),
                 CleanBench::category(u"z"_s, {three})});
   QCOMPARE(texts.size(), 4);
