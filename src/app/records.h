@@ -48,6 +48,7 @@ struct CleanItem {
   qint64 bytes = 0;       ///< on disk; at least 1
   qint64 files = 0;
   qint64 modified = 0; ///< newest, ms since the epoch; 0 unknown
+  qint64 unread = 0;   ///< what of it the scan couldn't look into
 };
 
 /// What a scan found in a category.

@@ -1,6 +1,7 @@
 #include "core/TreeWalk.h"
 
 #include <algorithm>
+#include <cerrno>
 
 namespace fs {
 
@@ -13,7 +14,10 @@ TreeWalk::Step TreeWalk::next() {
   }
   for (;;) {
     while (m_waiting.size() == m_levels.back().waiting) {
-      if (!m_chain.leave()) return Step::End;
+      if (!m_chain.leave()) {
+        if (m_levels.size() > 1) ++m_unread; // the way back is lost, and what waits with it
+        return Step::End;
+      }
       m_names.truncate(m_levels.back().name);
       m_levels.pop_back();
     }
@@ -25,8 +29,14 @@ TreeWalk::Step TreeWalk::next() {
       m_reader.startFresh(fd());
       return Step::Folder;
     }
-    m_names.truncate(name);
+    passOver(name, errno);
   }
+}
+
+// What isn't there any more, or is no folder now, holds nothing.
+void TreeWalk::passOver(size_t name, int error) {
+  m_names.truncate(name);
+  if (error != ENOENT && error != ENOTDIR && error != ELOOP) ++m_unread;
 }
 
 void TreeWalk::Bytes::grow(size_t more) {

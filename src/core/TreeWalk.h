@@ -15,7 +15,7 @@
 namespace fs {
 
 /// The folders of a tree, depth first, the one that was listed last first: an explicit stack of names that aren't
-/// entered yet, below a chain of open folders. A folder that can't be entered is passed over without a word. Cancelling
+/// entered yet, below a chain of open folders. A folder that can't be entered is passed over and counted. Cancelling
 /// is asked for once a folder, before it. One thread at a time.
 class TreeWalk {
  public:
@@ -29,6 +29,8 @@ class TreeWalk {
 
   /// Descriptor of the current folder; stays the walk's.
   [[nodiscard]] int fd() const { return m_chain.fd(); }
+  /// Folders that were kept for later and that are there, but couldn't be entered or weren't reached.
+  [[nodiscard]] qint64 unread() const { return m_unread; }
   /// How many folders the current one lies below the top.
   [[nodiscard]] size_t depth() const { return m_chain.depth(); }
   /// Name of the folder on the way from the top to the current one that lies @p depth folders below the top; at
@@ -72,12 +74,15 @@ class TreeWalk {
     size_t waiting; ///< the first in m_waiting that lies in it
   };
 
+  [[gnu::cold, gnu::noinline]] void passOver(size_t name, int error);
+
   DirChain m_chain;
   const std::atomic<bool>& m_cancel;
   sys::DirReader m_reader;
   Bytes m_names;                 ///< of the folders that the walk is in or that wait, each with its zero byte
   std::vector<size_t> m_waiting; ///< where the names begin of those that wait
   std::vector<Level> m_levels;   ///< one for each folder of the chain; none before the top
+  qint64 m_unread = 0;
 };
 
 } // namespace fs

@@ -38,6 +38,7 @@ struct Totals {
   qint64 bytes = 0;    ///< allocated
   qint64 files = 0;    ///< everything but folders
   qint64 newestMs = 0; ///< latest modification of what was counted; 0 when nothing was
+  qint64 unread = 0;   ///< folders and entries that couldn't be looked at, with all below them; not what had gone
 
   bool operator==(const Totals&) const = default;
 };
@@ -69,7 +70,8 @@ using Progress = std::function<void(const QString&, qint64, qint64)>;
 
 /// Sums what the tree under @p path holds on disk.
 /// Folders count nothing; a link counts as one file of 0 bytes; the hard links of one file count once. Stays on the
-/// device of @p path. Sees trees deeper than the system's path limit, and names that aren't text.
+/// device of @p path. Sees trees deeper than the system's path limit, and names that aren't text. What can't be read
+/// adds nothing but to Totals::unread.
 /// @param progress  called on this thread after every 400th file with the current folder and the sums; may be empty
 /// @param exclude   exact folder paths that aren't entered; the root isn't compared
 /// @return what was counted until the end, or until @p cancel was raised (asked once a folder)

@@ -11,6 +11,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <limits>
 
 namespace fs {
@@ -57,7 +58,11 @@ class Measure {
     const int fd = walk->fd();
     struct stat status;
     walk->reader().drain([&](const dirent& entry) {
-      if (::fstatat(fd, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0 || sys::isDataless(status)) return;
+      if (::fstatat(fd, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+        missed(errno);
+        return;
+      }
+      if (sys::isDataless(status)) return;
       if (S_ISREG(status.st_mode)) {
         count(*walk, status, status.st_blocks);
       } else if (!S_ISDIR(status.st_mode)) {
@@ -66,9 +71,12 @@ class Measure {
         walk->push(entry);
       }
     });
+    if (walk->reader().error() != 0) ++m_unread;
   }
 
-  [[nodiscard]] Totals totals() const { return {bytes(), m_files, sys::toMs(m_newest)}; }
+  [[nodiscard]] Totals totals(const TreeWalk& walk) const {
+    return {bytes(), m_files, sys::toMs(m_newest), m_unread + walk.unread()};
+  }
 
  private:
   void count(const TreeWalk& walk, const struct stat& status, qint64 blocks) {
@@ -77,6 +85,10 @@ class Measure {
     ++m_files;
     raise(sys::modifiedTime(status));
     if (--m_untilTell == 0) tell(walk);
+  }
+
+  [[gnu::cold, gnu::noinline]] void missed(int error) {
+    if (error != ENOENT) ++m_unread;
   }
 
   [[nodiscard]] qint64 bytes() const { return m_blocks * 512; }
@@ -99,6 +111,7 @@ class Measure {
   qint64 m_blocks = 0; ///< of 512 bytes
   timespec m_newest{};
   qint64 m_files = 0;
+  qint64 m_unread = 0;
   const QString& m_root;
   dev_t m_device;
   LinkSet m_links;
@@ -107,23 +120,27 @@ class Measure {
   qint64 m_untilTell = std::numeric_limits<qint64>::max(); ///< files until the next progress
 };
 
+/// The root itself couldn't be looked at.
+Totals unread(int error) { return {.unread = error == ENOENT || error == ENOTDIR ? 0 : 1}; }
+
 } // namespace
 
 Totals measure(const QString& path, const std::atomic<bool>& cancel, const Progress& progress,
                const QList<QString>& exclude) {
   struct stat root;
-  if (!statusOf(path, &root) || sys::isDataless(root)) return {};
+  if (!statusOf(path, &root)) return unread(errno);
+  if (sys::isDataless(root)) return {};
   if (!S_ISDIR(root.st_mode)) {
     Entry entry;
     fill(&entry, root);
     return {entry.allocated, 1, entry.modifiedMs};
   }
   UniqueFd top = openFolder(path, O_NOFOLLOW);
-  if (!top) return {};
+  if (!top) return unread(errno);
   Measure measure(path, root.st_dev, progress, exclude);
   TreeWalk walk(std::move(top), cancel);
   while (walk.next() == TreeWalk::Step::Folder) measure.folder(&walk);
-  return measure.totals();
+  return measure.totals(walk);
 }
 
 } // namespace fs

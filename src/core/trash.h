@@ -2,7 +2,7 @@
 /// On Linux by the freedesktop.org trash rules, version 1.0. Only core/removal and undo call what moves.
 #pragma once
 
-#include <QByteArray>
+#include <QByteArrayList>
 #include <QList>
 #include <QString>
 
@@ -49,11 +49,13 @@ class Session {
 [[nodiscard]] int restore(const QString& trashedPath, const QString& infoPath, const QString& originalPath);
 
 /// The folders that hold the trashed things of the user: the home Trash and that of every mounted local volume that the
-/// user can write to. Existing ones only. Reads the disk.
+/// user can write to, in this order. Existing ones only: real folders of the user's own, no links, that a text path
+/// reaches. Reads the disk.
 [[nodiscard]] QList<QString> filesFolders();
 
-/// Removes the info file of a thing that was deleted from the Trash folder @p filesFolder, and brings the size cache
-/// file up to date. Does nothing for another folder, or while the thing is still there.
-void forget(const QString& filesFolder, const QByteArray& name);
+/// Removes the info files of things that were deleted from the Trash folder @p filesFolder, and brings the size cache
+/// file up to date: read once and replaced once at most, however many @p names there are. Passes over what is still
+/// there, and does nothing for a folder that is no Trash of the user's.
+void forget(const QString& filesFolder, const QByteArrayList& names);
 
 } // namespace trash

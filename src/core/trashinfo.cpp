@@ -1,7 +1,5 @@
 #include "core/trashinfo.h"
 
-#include <QSet>
-
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -43,14 +41,15 @@ QByteArray candidate(const QByteArray& name, int number, qsizetype nameMax) {
   return name.left(start <= room ? start : edgeBefore(name, qMax(room, qsizetype(1)))) + tail;
 }
 
-QByteArray withoutSize(const QByteArray& sizes, const QByteArray& name) {
+QByteArray withoutSizes(const QByteArray& sizes, const QSet<QByteArray>& names) {
   QByteArray kept;
+  kept.reserve(sizes.size());
   for (qsizetype begin = 0; begin < sizes.size();) {
     const qsizetype newline = sizes.indexOf('\n', begin);
     const qsizetype end = newline < 0 ? sizes.size() : newline + 1;
     const QByteArray line = sizes.mid(begin, end - begin);
     const QByteArray encoded = line.trimmed().split(' ').value(2);
-    if (encoded.isEmpty() || QByteArray::fromPercentEncoding(encoded) != name) kept += line;
+    if (encoded.isEmpty() || !names.contains(QByteArray::fromPercentEncoding(encoded))) kept += line;
     begin = end;
   }
   return kept;

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QByteArrayList>
+#include <QSet>
 
 namespace trashinfo {
 
@@ -17,8 +18,8 @@ namespace trashinfo {
 /// shortened before its extension, at a character's edge, so that its info file's name has at most @p nameMax bytes.
 [[nodiscard]] QByteArray candidate(const QByteArray& name, int number, qsizetype nameMax);
 
-/// The text of a "directorysizes" file without the line for @p name. The same text where there is none.
-[[nodiscard]] QByteArray withoutSize(const QByteArray& sizes, const QByteArray& name);
+/// The text of a "directorysizes" file without the lines for @p names, in one pass. The same text where there are none.
+[[nodiscard]] QByteArray withoutSizes(const QByteArray& sizes, const QSet<QByteArray>& names);
 
 /// Mount points of the volumes that can hold a Trash of the user's to be emptied, from the text of a mountinfo file,
 /// raw: disks and the like, mounted for writing; no network, FUSE, autofs, loop or bind mounts, nothing in memory.

@@ -258,6 +258,7 @@ void CleanRun::sleep(std::chrono::milliseconds time) const {
 void CleanRun::measure() {
   m_log.emptyLine();
   for (const Done& done : m_done) measureItem(done);
+  forgetGone();
 }
 
 void CleanRun::measureItem(const Done& done) {
@@ -274,14 +275,21 @@ fs::Totals CleanRun::measureLeft(const CleanWork& work) {
   const CleanItem& item = *work.item;
   const QString& path = work.place.realPath;
   if (!item.wholeRoot && !fs::exists(path)) {
-    if (work.isTrash) trash::forget(path.section(u'/', 0, -2), names::encode(path.section(u'/', -1)));
+    if (work.isTrash) m_gone[path.section(u'/', 0, -2)].append(names::encode(path.section(u'/', -1)));
     return {};
   }
+  const fs::Totals all{item.bytes, item.files, 0};
   fs::Entry entry;
+  if (!fs::stat(path, &entry)) return fs::exists(path) ? all : fs::Totals{};
   // A folder to be emptied that is none any more was swapped for something else: nothing of it is known to have gone.
-  const auto canBeMeasured = [&] { return entry.isDir ? fs::isReadable(path) : !item.wholeRoot; };
-  const bool isKnown = fs::stat(path, &entry) ? canBeMeasured() : !fs::exists(path);
-  return isKnown ? fs::measure(path, kNever) : fs::Totals{item.bytes, item.files, 0};
+  if (item.wholeRoot && !entry.isDir) return all;
+  const fs::Totals left = fs::measure(path, kNever);
+  return left.unread > item.unread ? all : left;
+}
+
+/// Once a folder, as each time means reading what the Trash knows of all its folders.
+void CleanRun::forgetGone() {
+  for (auto folder = m_gone.cbegin(); folder != m_gone.cend(); ++folder) trash::forget(folder.key(), folder.value());
 }
 
 void CleanRun::end() {

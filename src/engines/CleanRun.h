@@ -8,6 +8,9 @@
 #include "engines/CleanLog.h"
 #include "engines/Cleaner.h"
 
+#include <QByteArrayList>
+#include <QHash>
+
 #include <atomic>
 #include <deque>
 #include <functional>
@@ -56,7 +59,8 @@ class CleanRun {
   void retryRound();
   void measure();
   void measureItem(const Done& done);
-  [[nodiscard]] static fs::Totals measureLeft(const CleanWork& work);
+  [[nodiscard]] fs::Totals measureLeft(const CleanWork& work);
+  void forgetGone();
   void end();
 
   [[nodiscard]] removal::Remover& removerFor(const CleanWork& work);
@@ -79,6 +83,7 @@ class CleanRun {
   bool m_itemRefused = false;        ///< the item in hand itself, as a whole
   std::vector<Retry> m_retries;
   std::vector<Done> m_done;
+  QHash<QString, QByteArrayList> m_gone; ///< names that left a Trash, by the folder that they lay in
   qint64 m_doneBytes = 0;
   qint64 m_totalBytes = 0;
 };

@@ -120,6 +120,7 @@ class CategoryScan {
     item.path = place.path;
     item.bytes = totals.bytes;
     item.files = totals.files;
+    item.unread = totals.unread;
     if (m_hasOwners) item.owner = place.runningOwner(m_scan.apps);
     m_result.items.append(std::move(item));
   }

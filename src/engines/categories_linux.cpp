@@ -55,7 +55,6 @@ constexpr catalogue::RootRow kRoots[] = {
     {"dev", Place::Home, ".ccache", "ccache cache"},
     {"dev", Place::Home, "go/pkg/mod/cache/download", "Go module cache"},
     {"dev", Place::Home, ".bun/install/cache", "Bun cache"},
-    {"trash", Place::Data, "Trash/files"},
 };
 
 /// Below the session's cache root, and below that of each packaged browser.
@@ -145,7 +144,7 @@ void addBrowsers(QList<ScanRoot>* roots, const places::CacheRoot& root) {
   for (const catalogue::RootRow& row : kBrowserRoots) catalogue::addRow(roots, row, root.path, suffix);
 }
 
-/// The Trash of each further volume; the one below the data folder is in the table.
+/// The home Trash and that of each further volume, as they may be used: what a link stands for is none.
 void addTrashes(QList<ScanRoot>* roots) {
   const auto listed = [&](const QString& path) {
     return std::any_of(roots->begin(), roots->end(),

@@ -1,14 +1,20 @@
 #include "RemovalRecorder.h"
 #include "core/UniqueFd.h"
 #include "core/trash.h"
+#include "engines/Mounts.h"
+#include "support/Arrivals.h"
 #include "support/FixtureHome.h"
+#include "support/child.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QTest>
 
 #include <fcntl.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 using trash::Outcome;
@@ -36,6 +42,16 @@ mode_t modeOf(const QString& path) {
 
 QStringList namesIn(const QString& folder) {
   return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+/// A file system at @p point that counts as a disk and needs none.
+bool mountDisk(const QByteArray& point) {
+  const QByteArray base = point + ".layers";
+  for (const char* part : {"", "/lower", "/upper", "/work"}) ::mkdir((base + part).constData(), 0700);
+  if (::mount("tmpfs", base.constData(), "tmpfs", 0, "size=1m,mode=0700") != 0) return false;
+  for (const char* part : {"/lower", "/upper", "/work"}) ::mkdir((base + part).constData(), 0700);
+  const QByteArray options = "lowerdir=" + base + "/lower,upperdir=" + base + "/upper,workdir=" + base + "/work";
+  return ::mount("overlay", point.constData(), "overlay", 0, options.constData()) == 0;
 }
 
 } // namespace
@@ -72,6 +88,8 @@ class TestTrash : public QObject {
   void forgets();
   void forgetsNothingElse();
   void keepsTheSizeCacheUpToDate();
+  void replacesTheSizeCacheOnceForAll();
+  void listsOnlyWhatATextReaches();
 
  private:
   Outcome move(const QString& path);
@@ -391,10 +409,10 @@ void TestTrash::listsFilesFolders() {
 
 void TestTrash::forgets() {
   const Outcome outcome = move(m_home.file(u"a/file.txt"_s));
-  trash::forget(m_trash + u"/files"_s, "file.txt"); // still there
+  trash::forget(m_trash + u"/files"_s, {"file.txt"}); // still there
   QVERIFY(isThere(outcome.infoPath));
   QFile::remove(outcome.trashedPath);
-  trash::forget(m_trash + u"/files"_s, "file.txt");
+  trash::forget(m_trash + u"/files"_s, {"file.txt"});
   QVERIFY(!isThere(outcome.infoPath));
   QVERIFY(isThere(m_trash + u"/info"_s));
 }
@@ -403,21 +421,21 @@ void TestTrash::forgetsNothingElse() {
   // A folder that only looks like a Trash.
   m_home.folder(u"fake/files"_s);
   const QString info = m_home.file(u"fake/info/a.trashinfo"_s);
-  trash::forget(m_home.path(u"fake/files"_s), "a");
-  trash::forget(m_home.path(u"fake"_s), "a");
-  trash::forget({}, "a");
+  trash::forget(m_home.path(u"fake/files"_s), {"a"});
+  trash::forget(m_home.path(u"fake"_s), {"a"});
+  trash::forget({}, {"a"});
   QVERIFY(isThere(info));
   // The real one, with names that lead elsewhere.
   const Outcome outcome = move(m_home.file(u"b"_s));
   const QString outside = m_home.file(u".local/share/Trash/x.trashinfo"_s);
-  trash::forget(m_trash + u"/files"_s, "../x");
-  trash::forget(m_trash + u"/files"_s, "");
+  trash::forget(m_trash + u"/files"_s, {"../x"});
+  trash::forget(m_trash + u"/files"_s, {""});
   QVERIFY(isThere(outside) && isThere(outcome.infoPath));
   // A planted link in the place of the info folder.
   QDir().rename(m_trash + u"/info"_s, m_home.path(u"old info"_s));
   m_home.link(u".local/share/Trash/info"_s, m_home.path(u"old info"_s));
   QFile::remove(outcome.trashedPath);
-  trash::forget(m_trash + u"/files"_s, "b");
+  trash::forget(m_trash + u"/files"_s, {"b"});
   QVERIFY(isThere(m_home.path(u"old info/b.trashinfo"_s)));
 }
 
@@ -431,7 +449,7 @@ void TestTrash::keepsTheSizeCacheUpToDate() {
   cache.write("4096 1700000000 one%20two\n4096 1700000000 three\n4096 1700000000 other\n");
   cache.close();
   QDir(first.trashedPath).removeRecursively();
-  trash::forget(m_trash + u"/files"_s, "one two");
+  trash::forget(m_trash + u"/files"_s, {"one two"});
   QCOMPARE(contentsOf(cache.fileName()), "4096 1700000000 three\n4096 1700000000 other\n");
   QCOMPARE(trash::restore(second.trashedPath, second.infoPath, m_home.path(u"three"_s)), 0);
   QCOMPARE(contentsOf(cache.fileName()), "4096 1700000000 other\n");
@@ -440,9 +458,57 @@ void TestTrash::keepsTheSizeCacheUpToDate() {
   cache.remove();
   const QString target = m_home.file(u"target"_s, 1);
   QFile::link(target, cache.fileName());
-  trash::forget(m_trash + u"/files"_s, "other");
+  trash::forget(m_trash + u"/files"_s, {"other"});
   QVERIFY(QFileInfo(cache.fileName()).isSymLink());
   QCOMPARE(contentsOf(target), "x");
+}
+
+void TestTrash::replacesTheSizeCacheOnceForAll() {
+  QByteArrayList names;
+  QByteArray sizes;
+  for (int i = 0; i < 300; ++i) {
+    names << "folder " + QByteArray::number(i);
+    sizes += "4096 1700000000 " + names.last().toPercentEncoding() + '\n';
+    m_home.file(m_trash + u"/info/folder %1.trashinfo"_s.arg(i));
+  }
+  m_home.folder(m_trash + u"/files/folder 7"_s); // still there
+  QFile cache(m_trash + u"/directorysizes"_s);
+  QVERIFY(cache.open(QIODevice::WriteOnly));
+  cache.write(sizes + "1 1 other\n");
+  cache.close();
+
+  const Arrivals arrivals(m_trash);
+  trash::forget(m_trash + u"/files"_s, names);
+  QCOMPARE(arrivals.count("directorysizes"), 1);
+  QCOMPARE(contentsOf(cache.fileName()), "4096 1700000000 folder%207\n1 1 other\n");
+  QCOMPARE(namesIn(m_trash + u"/info"_s), QStringList{u"folder 7.trashinfo"_s});
+  trash::forget(m_trash + u"/files"_s, names);
+  trash::forget(m_trash + u"/files"_s, {});
+  QCOMPARE(arrivals.count("directorysizes"), 0); // there was nothing to take out
+}
+
+void TestTrash::listsOnlyWhatATextReaches() {
+  const auto listed = [&](const QByteArray& name) {
+    const QByteArray user = QByteArray::number(::geteuid());
+    const QByteArray point = raw(m_home.path()) + '/' + name;
+    const QByteArray files = point + "/.Trash-" + user + "/files";
+    QList<QString> found;
+    ::mkdir(point.constData(), 0700);
+    if (!mountDisk(point)) return std::optional<QList<QString>>();
+    ::mkdir((point + "/.Trash-" + user).constData(), 0700);
+    if (::mkdir(files.constData(), 0700) == 0) found = trash::filesFolders().filter(u"/.Trash-"_s);
+    ::umount2(point.constData(), MNT_DETACH);
+    return std::optional(found.filter(m_home.path()));
+  };
+  const int result = child::run("/", [&] {
+    if (!mounts::enter()) return 2;
+    const auto plain = listed("disk");
+    const auto odd = listed("d\xffsk");
+    if (!plain || !odd) return 2;
+    return plain->size() == 1 && odd->isEmpty() ? 0 : 1;
+  });
+  if (result == 2) QSKIP("no permission to mount anything here");
+  QCOMPARE(result, 0);
 }
 
 QTEST_GUILESS_MAIN(TestTrash)

@@ -11,7 +11,7 @@ class TestTrashInfo : public QObject {
   void numbersNames_data();
   void numbersNames();
   void shortensAtACharacter();
-  void forgetsOneSize();
+  void forgetsSizes();
   void findsLocalMounts_data();
   void findsLocalMounts();
   void countsAVolumeOnce();
@@ -84,14 +84,16 @@ void TestTrashInfo::shortensAtACharacter() {
   QCOMPARE(trashinfo::candidate(QByteArray(255, '\x80'), 1, 255).size(), 245);
 }
 
-void TestTrashInfo::forgetsOneSize() {
+void TestTrashInfo::forgetsSizes() {
   const QByteArray sizes = "4096 1700000000 one\n8192 1700000001 two%20words\n12 1700000002 %FF\n1 1 one.2\n";
-  QCOMPARE(trashinfo::withoutSize(sizes, "two words"), "4096 1700000000 one\n12 1700000002 %FF\n1 1 one.2\n");
-  QCOMPARE(trashinfo::withoutSize(sizes, "\xff"), "4096 1700000000 one\n8192 1700000001 two%20words\n1 1 one.2\n");
-  QCOMPARE(trashinfo::withoutSize(sizes, "one.2"), sizes.left(sizes.size() - 10));
-  QCOMPARE(trashinfo::withoutSize(sizes, "none"), sizes);
-  QCOMPARE(trashinfo::withoutSize("", "one"), "");
-  QCOMPARE(trashinfo::withoutSize("garbage\n\n1 1 one", "one"), "garbage\n\n");
+  QCOMPARE(trashinfo::withoutSizes(sizes, {"two words"}), "4096 1700000000 one\n12 1700000002 %FF\n1 1 one.2\n");
+  QCOMPARE(trashinfo::withoutSizes(sizes, {"\xff"}), "4096 1700000000 one\n8192 1700000001 two%20words\n1 1 one.2\n");
+  QCOMPARE(trashinfo::withoutSizes(sizes, {"one.2"}), sizes.left(sizes.size() - 10));
+  QCOMPARE(trashinfo::withoutSizes(sizes, {"none"}), sizes);
+  QCOMPARE(trashinfo::withoutSizes("", {"one"}), "");
+  QCOMPARE(trashinfo::withoutSizes(sizes, {"one.2", "none", "one", "\xff"}), "8192 1700000001 two%20words\n");
+  QCOMPARE(trashinfo::withoutSizes(sizes, {}), sizes);
+  QCOMPARE(trashinfo::withoutSizes("garbage\n\n1 1 one", {"one"}), "garbage\n\n");
 }
 
 void TestTrashInfo::findsLocalMounts_data() {

@@ -43,6 +43,7 @@ class CleanBench {
     one.wholeRoot = wholeRoot;
     one.bytes = totals.bytes;
     one.files = totals.files;
+    one.unread = totals.unread;
     return one;
   }
   /// A category of these items.

@@ -4,6 +4,7 @@
 #include "engines/CleanBench.h"
 #include "engines/ScanRun.h"
 #include "engines/Scanner.h"
+#include "support/Arrivals.h"
 
 #include <QDir>
 #include <QTest>
@@ -33,6 +34,8 @@ class tst_Cleaner : public QObject {
   void movesToTheTrash();
   void trashCategoryIsAlwaysDeleted();
   void infoFileGoesWithATrashedItem();
+  void emptyingRewritesTheSizesOnce_data();
+  void emptyingRewritesTheSizesOnce();
   void wholeRootKeepsItsFolder();
   void emptyWholeRootFreesItsStaleBytes();
   void linkIsRemovedAsALink();
@@ -113,6 +116,45 @@ void tst_Cleaner::infoFileGoesWithATrashedItem() {
   QVERIFY(!CleanBench::isThere(m_bench->home.path(u".local/share/Trash/info/thrown.trashinfo"_s)));
   QVERIFY(CleanBench::isThere(m_bench->home.path(u".local/share/Trash/info/kept.trashinfo"_s)));
   QVERIFY(CleanBench::isThere(kept));
+}
+
+void tst_Cleaner::emptyingRewritesTheSizesOnce_data() {
+  QTest::addColumn<int>("stopAt"); // the run is stopped while it is at this item
+  QTest::addColumn<int>("left");
+  QTest::newRow("to its end") << -1 << 0;
+  QTest::newRow("stopped") << 30 << 9;
+}
+
+// Each rewriting reads all that the Trash knows of its folders: one for each item would be the square of them.
+void tst_Cleaner::emptyingRewritesTheSizesOnce() {
+  QFETCH(int, stopAt);
+  QFETCH(int, left);
+  constexpr int kFolders = 40;
+  const QString trash = m_bench->home.path(u".local/share/Trash"_s);
+  QList<CleanItem> items;
+  QFile sizes(trash + u"/directorysizes"_s);
+  for (int i = 0; i < kFolders; ++i) {
+    m_bench->home.file(trash + u"/files/thrown %1/file"_s.arg(i));
+    m_bench->home.file(trash + u"/info/thrown %1.trashinfo"_s.arg(i));
+    items << CleanBench::item(trash + u"/files/thrown %1"_s.arg(i));
+  }
+  QVERIFY(sizes.open(QIODevice::WriteOnly));
+  for (int i = 0; i < kFolders; ++i) sizes.write("4096 1700000000 thrown%20" + QByteArray::number(i) + '\n');
+  sizes.close();
+
+  Cleaner cleaner(nullptr, m_bench->world);
+  m_bench->onProgress = [&](const QString& path) {
+    if (stopAt >= 0 && path == items[stopAt].path) cleaner.stop();
+  };
+  const Arrivals arrivals(trash);
+  m_bench->start(&cleaner, {CleanBench::category(u"trash"_s, items)});
+  m_bench->wait(&cleaner);
+  m_bench->onProgress = {};
+  QCOMPARE(m_bench->trashed().size(), left);
+  QCOMPARE(arrivals.count("directorysizes"), 1);
+  QCOMPARE(QDir(trash + u"/info"_s).entryList(QDir::Files).size(), left);
+  QVERIFY(sizes.open(QIODevice::ReadOnly));
+  QCOMPARE(sizes.readAll().count('\n'), left);
 }
 
 void tst_Cleaner::wholeRootKeepsItsFolder() {

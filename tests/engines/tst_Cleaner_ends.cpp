@@ -37,6 +37,9 @@ class tst_Cleaner_ends : public QObject {
   void retryBelowAFolderThatTheRunChanged();
   void retryFollowsNoLink();
   void unreachableIsNotGone();
+  void whatBecomesUnreadableIsNotFreed_data();
+  void whatBecomesUnreadableIsNotFreed();
+  void whatWasNeverReadableIsNoMatter();
   void needsAdmin_data();
   void needsAdmin();
   void stopFinishesTheItem();
@@ -203,6 +206,53 @@ void tst_Cleaner_ends::unreachableIsNotGone() {
   QCOMPARE(m_bench->lines("SKIPPED"), QStringList{u"SKIPPED  %1  (in use or access denied)"_s.arg(stuck)});
   QCOMPARE(m_bench->report.freedBytes, 0);
   QCOMPARE(m_bench->report.removedFiles, 0);
+}
+
+void tst_Cleaner_ends::whatBecomesUnreadableIsNotFreed_data() {
+  QTest::addColumn<int>("mode");
+  QTest::addColumn<bool>("wholeRoot");
+  QTest::newRow("closed") << 0 << false;
+  QTest::newRow("closed, in a root") << 0 << true;
+  QTest::newRow("not to be listed") << 0300 << true;
+  QTest::newRow("not to be searched") << 0400 << true;
+}
+
+void tst_Cleaner_ends::whatBecomesUnreadableIsNotFreed() {
+  QFETCH(int, mode);
+  QFETCH(bool, wholeRoot);
+  const QString top = m_bench->home.path(u"a/top"_s);
+  m_bench->home.file(u"a/top/other"_s, 4096);
+  const QString inside = m_bench->home.file(u"a/top/sub/closed/inside"_s, 8192);
+  const QByteArray closed = QFile::encodeName(m_bench->home.path(u"a/top/sub/closed"_s));
+  const QString next = m_bench->home.file(u"b/next"_s, 4096);
+  const QList<CleanItem> items{CleanBench::item(top, wholeRoot), CleanBench::item(next)};
+  const Unprivileged user(m_bench->home);
+  m_bench->onProgress = [&](const QString& path) {
+    if (path == top) ::chmod(closed.constData(), static_cast<mode_t>(mode));
+  };
+  m_bench->run({CleanBench::category(u"x"_s, items)});
+  m_bench->onProgress = {};
+  ::chmod(closed.constData(), 0700);
+  QVERIFY(CleanBench::isThere(inside));
+  QCOMPARE(m_bench->report.freedBytes, 4096); // the next item's
+  QCOMPARE(m_bench->report.removedFiles, 1);
+  QCOMPARE(m_bench->lines("DELETED").first(), u"DELETED  %1  0 KB"_s.arg(top));
+}
+
+// What the scan couldn't count doesn't take from what went.
+void tst_Cleaner_ends::whatWasNeverReadableIsNoMatter() {
+  const QString top = m_bench->home.path(u"a/top"_s);
+  m_bench->home.file(u"a/top/other"_s, 4096);
+  m_bench->home.file(u"a/top/closed/inside"_s, 8192);
+  const QByteArray closed = QFile::encodeName(m_bench->home.path(u"a/top/closed"_s));
+  const Unprivileged user(m_bench->home);
+  ::chmod(closed.constData(), 0);
+  const CleanItem item = CleanBench::item(top);
+  m_bench->run({CleanBench::category(u"x"_s, {item})});
+  ::chmod(closed.constData(), 0700);
+  QCOMPARE(item.unread, 1);
+  QCOMPARE(m_bench->report.freedBytes, 4096);
+  QCOMPARE(m_bench->report.removedFiles, 1);
 }
 
 void tst_Cleaner_ends::needsAdmin_data() {

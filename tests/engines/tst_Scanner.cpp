@@ -74,6 +74,7 @@ class tst_Scanner : public QObject {
   void ownersOfRunningApps();
   void noOwnersElsewhere();
   void linkedRootKeepsTheUsersSpelling();
+  void tellsWhatItCouldNotRead();
   void linkedRootAsksBothSpellings_data();
   void linkedRootAsksBothSpellings();
   void nameThatIsNoTextIsNoItem();
@@ -328,7 +329,7 @@ void tst_Scanner::linkedRootKeepsTheUsersSpelling() {
   m_home->file(real + "/mine/a"_L1, 8192);
   m_home->file(real + "/Trash/files/thrown"_L1, 4096);
   m_home->link(u".cache"_s, real);
-  m_home->link(u".local/share/Trash"_s, real + "/Trash"_L1);
+  m_home->link(u".local/share"_s, real);
   ScanRun run;
   scan(&run, {}, {u"appcache"_s, u"trash"_s});
   const QList<CleanItem> items = run.category(u"appcache"_s).items;
@@ -339,6 +340,20 @@ void tst_Scanner::linkedRootKeepsTheUsersSpelling() {
   QVERIFY(std::any_of(thrown.begin(), thrown.end(), [&](const CleanItem& item) {
     return item.path == m_home->path(u".local/share/Trash/files/thrown"_s) && item.bytes == 4096;
   }));
+}
+
+void tst_Scanner::tellsWhatItCouldNotRead() {
+  m_home->file(u".cache/mine/open/a"_s);
+  const QByteArray closed = QFile::encodeName(m_home->folder(u".cache/mine/closed"_s));
+  m_home->file(u".cache/other/a"_s);
+  const Unprivileged user(*m_home);
+  ::chmod(closed.constData(), 0);
+  ScanRun run;
+  scan(&run, {}, {u"appcache"_s});
+  ::chmod(closed.constData(), 0700);
+  const QList<CleanItem> items = run.category(u"appcache"_s).items;
+  QCOMPARE(items.size(), 2);
+  for (const CleanItem& item : items) QCOMPARE(item.unread, item.name == u"mine" ? 1 : 0);
 }
 
 void tst_Scanner::linkedRootAsksBothSpellings_data() {

@@ -77,6 +77,7 @@ class tst_categories_linux : public QObject {
   void linuxPackagedCacheIsSharedOut();
   void linuxMountsAreLeftAlone();
   void linuxTrashes();
+  void linkedTrashIsNone();
   void linuxPlacesFollowTheVariables();
   void badVariablesDoNotCount();
   void mountPoints();
@@ -269,6 +270,15 @@ void tst_categories_linux::linuxTrashes() {
   QStringList roots = rootsOf(categories::forLinux(), u"trash"_s);
   QCOMPARE(roots.count(files + "||"_L1), 1);
   QCOMPARE(roots.first(), files + "||"_L1);
+}
+
+// Its info files can't be reached through the link, as nothing is moved there either.
+void tst_categories_linux::linkedTrashIsNone() {
+  const QString real = m_home->folder(m_home->outside(u"volume/Trash"_s));
+  m_home->file(real + "/files/thrown"_L1);
+  m_home->link(u".local/share/Trash"_s, real);
+  const auto roots = rootsOf(categories::forLinux(), u"trash"_s).filter(m_home->outside());
+  QCOMPARE(roots, QStringList());
 }
 
 void tst_categories_linux::linuxPlacesFollowTheVariables() {

@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QHash>
+#include <QSet>
 
 #include <cerrno>
 #include <cstdio>
@@ -191,22 +192,23 @@ QByteArray readFile(int dirFd, const char* name) {
   return file.open(fd.get(), QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Takes @p name out of the size cache of an open Trash folder: a new file in the old one's place.
-void forgetSize(int trashFd, const QByteArray& name) {
+/// Takes @p names out of the size cache of an open Trash folder: a new file in the old one's place.
+void forgetSizes(int trashFd, const QSet<QByteArray>& names) {
   constexpr char kSizes[] = "directorysizes";
   const QByteArray sizes = readFile(trashFd, kSizes);
-  const QByteArray kept = trashinfo::withoutSize(sizes, name);
+  const QByteArray kept = trashinfo::withoutSizes(sizes, names);
   if (kept == sizes) return;
   const QByteArray fresh = kSizes + ("." + QByteArray::number(::getpid())) + ".new";
   if (writeNew(trashFd, fresh, kept) != 0) return;
   if (::renameat(trashFd, fresh.constData(), trashFd, kSizes) != 0) ::unlinkat(trashFd, fresh.constData(), 0);
 }
 
-/// Removes the info file and the cached size of a thing that isn't in the open Trash folder any more.
-void forgetIn(int trashFd, const QByteArray& name) {
+/// Removes the info files and the cached sizes of things that aren't in the open Trash folder any more.
+void forgetIn(int trashFd, const QSet<QByteArray>& names) {
   const UniqueFd info = openOwn(trashFd, "info");
-  if (info) ::unlinkat(info.get(), trashinfo::infoName(name).constData(), 0);
-  forgetSize(trashFd, name);
+  if (info)
+    for (const QByteArray& name : names) ::unlinkat(info.get(), trashinfo::infoName(name).constData(), 0);
+  forgetSizes(trashFd, names);
 }
 
 bool isSameFolder(int one, int other) {
@@ -237,11 +239,14 @@ int restore(const QString& trashedPath, const QString& infoPath, const QString& 
   const int error = sys::renameNoReplace(files.get(), name.constData(), folder.get(), nameOf(original).constData());
   if (error != 0) return error;
   const UniqueFd trash(::openat(files.get(), "..", kFolderFlags));
-  if (trash && nameOf(names::encode(infoPath)) == trashinfo::infoName(name)) forgetIn(trash.get(), name);
+  if (trash && nameOf(names::encode(infoPath)) == trashinfo::infoName(name)) forgetIn(trash.get(), {name});
   return 0;
 }
 
-QList<QString> filesFolders() {
+namespace {
+
+/// Where Trash folders of the user's may lie, the home Trash first.
+QByteArrayList possibleTrashes() {
   const QByteArray user = QByteArray::number(::geteuid());
   QByteArrayList trashes = {homeTrash()};
   for (const QByteArray& point : trashinfo::localMountPoints(readFile(AT_FDCWD, "/proc/self/mountinfo"))) {
@@ -252,9 +257,16 @@ QList<QString> filesFolders() {
     if (sticky) trashes.append(prefix + "/.Trash/" + user);
     trashes.append(prefix + "/.Trash-" + user);
   }
+  return trashes;
+}
+
+} // namespace
+
+QList<QString> filesFolders() {
   QList<QString> folders;
-  for (const QByteArray& trash : trashes) {
-    const UniqueFd own = trash.isEmpty() ? UniqueFd() : openOwn(AT_FDCWD, trash);
+  for (const QByteArray& trash : possibleTrashes()) {
+    if (trash.isEmpty() || !names::survives(trash)) continue; // by its text another folder would be reached, or none
+    const UniqueFd own = openOwn(AT_FDCWD, trash);
     const UniqueFd files = own ? openOwn(own.get(), "files") : UniqueFd();
     if (files && ::faccessat(files.get(), ".", W_OK | X_OK, AT_EACCESS) == 0)
       folders.append(names::decode(trash + "/files"));
@@ -262,12 +274,16 @@ QList<QString> filesFolders() {
   return folders;
 }
 
-void forget(const QString& filesFolder, const QByteArray& name) {
+void forget(const QString& filesFolder, const QByteArrayList& things) {
   const QByteArray path = names::encode(filesFolder);
-  if (nameOf(path) != "files" || name.isEmpty() || name.contains('/')) return;
+  if (nameOf(path) != "files") return;
   const UniqueFd trash = openOwn(AT_FDCWD, folderOf(path));
   const UniqueFd files = trash ? openOwn(trash.get(), "files") : UniqueFd();
-  if (files && isTrash(trash.get(), folderOf(path)) && !isThere(files.get(), name)) forgetIn(trash.get(), name);
+  if (!files || !isTrash(trash.get(), folderOf(path))) return;
+  QSet<QByteArray> gone;
+  for (const QByteArray& name : things)
+    if (!name.isEmpty() && !name.contains('/') && !isThere(files.get(), name)) gone.insert(name);
+  if (!gone.isEmpty()) forgetIn(trash.get(), gone);
 }
 
 } // namespace trash

@@ -63,6 +63,6 @@ QList<QString> filesFolders() {
 }
 
 // The system keeps no info files.
-void forget(const QString&, const QByteArray&) {}
+void forget(const QString&, const QByteArrayList&) {}
 
 } // namespace trash
