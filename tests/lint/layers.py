@@ -24,6 +24,7 @@ LAYERS = {
         ["src/app/main."],
         ["shell", "pages", "ui", "update", "i18n", "state", "engines", "records", "core"],
     ),
+    "gallery": (["src/gallery/"], ["pages", "ui", "i18n", "state", "engines", "records", "core"]),
     "terminal program": (["src/cli/"], ["i18n", "state", "engines", "records", "core"]),
 }
 

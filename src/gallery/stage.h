@@ -1,0 +1,38 @@
+/// Puts controls into states that otherwise need a pointer or a keyboard. They keep them until one really comes.
+#pragma once
+
+#include <QAbstractButton>
+#include <QWidget>
+
+namespace gallery {
+
+template <typename Control>
+Control* hovered(Control* control) {
+  control->setAttribute(Qt::WA_UnderMouse);
+  return control;
+}
+
+template <typename Control>
+Control* disabled(Control* control) {
+  control->setEnabled(false);
+  return control;
+}
+
+template <typename Control>
+Control* pressed(Control* control) {
+  hovered(control)->setDown(true);
+  return control;
+}
+
+template <typename Control>
+Control* checked(Control* control) {
+  control->setCheckable(true);
+  control->setChecked(true);
+  return control;
+}
+
+/// As if the focus had come to @p control by Tab. Several look focused at once, as each of them says that it has the
+/// focus when @p keeper has it.
+void giveFocus(QWidget* control, QWidget* keeper);
+
+} // namespace gallery

@@ -1,0 +1,235 @@
+#include "app/AppSettings.h"
+#include "gallery/GalleryWindow.h"
+#include "gallery/Sheet.h"
+#include "gallery/Snapshot.h"
+#include "gallery/shots.h"
+#include "support/uitest.h"
+#include "ui/Theme.h"
+#include "ui/controls/ElidedLabel.h"
+#include "ui/controls/Segmented.h"
+
+#include <QDir>
+#include <QImage>
+#include <QLabel>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QScrollArea>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void setLook(AppSettings::ThemeMode mode) { AppSettings::instance().setThemeMode(mode); }
+
+/// One run of the program: its exit code, -1 if it didn't end by itself, and what it complained of.
+struct Run {
+  int code = -1;
+  QString errors;
+};
+
+Run runGallery(const QStringList& arguments, const QString& look = {}, const QString& scale = {}) {
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  if (!look.isEmpty()) environment.insert(u"TARNWICK_LOOK"_s, look);
+  if (!scale.isEmpty()) environment.insert(u"QT_SCALE_FACTOR"_s, scale);
+  environment.remove(u"QT_QPA_PLATFORM"_s); // the program finds its way without a screen itself
+  QProcess process;
+  process.setProcessEnvironment(environment);
+  process.start(QStringLiteral(TARNWICK_GALLERY), arguments);
+  if (!process.waitForFinished(60'000) || process.exitStatus() != QProcess::NormalExit) return {};
+  return {process.exitCode(), QString::fromUtf8(process.readAllStandardError())};
+}
+
+QColor colourAt(const QString& path, const QPoint& place) { return QImage(path).pixelColor(place); }
+
+/// Whether a scrolling view shows as much of it as it wants to.
+bool isInView(const QWidget* widget) {
+  for (const QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget())
+    if (parent->inherits("QAbstractScrollArea")) return true;
+  return false;
+}
+
+ui::Segmented* segmentedWith(const QWidget& window, const QString& item) {
+  for (auto* control : window.findChildren<ui::Segmented*>())
+    for (int index = 0; index < control->itemCount(); ++index)
+      if (control->itemAt(index).name == item && !qobject_cast<gallery::Sheet*>(control->parentWidget()))
+        return control;
+  return nullptr;
+}
+
+} // namespace
+
+class TestGallery : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase() { Theme::get().install(qApp); }
+  void init() { setLook(AppSettings::Light); }
+
+  void shotNames_data();
+  void shotNames();
+  void sheetsHaveNamesOfTheirOwn();
+  void nothingIsSqueezed_data();
+  void nothingIsSqueezed();
+  void sheetFollowsTheLook();
+  void whatOpensIsTakenInEveryLook();
+  void otherLookStandsBesideTheLiveOne();
+  void otherMetricsNeedAnotherProcess();
+  void programWritesBothLooks_data();
+  void programWritesBothLooks();
+  void programTellsWhatWentWrong();
+};
+
+void TestGallery::shotNames_data() {
+  QTest::addColumn<bool>("dark");
+  QTest::addColumn<bool>("mac");
+  QTest::addColumn<double>("scale");
+  QTest::addColumn<QString>("name");
+  QTest::newRow("dark mac 2") << true << true << 2.0 << u"gallery-dark-mac-2x.png"_s;
+  QTest::newRow("light mac 1") << false << true << 1.0 << u"gallery-light-mac-1x.png"_s;
+  QTest::newRow("dark win 1.5") << true << false << 1.5 << u"gallery-dark-win-1.5x.png"_s;
+}
+
+void TestGallery::shotNames() {
+  QFETCH(bool, dark);
+  QFETCH(bool, mac);
+  QFETCH(double, scale);
+  QTEST(gallery::shotName(u"gallery"_s, dark, mac, scale), "name");
+}
+
+void TestGallery::sheetsHaveNamesOfTheirOwn() {
+  QSet<QByteArray> names;
+  for (const gallery::SheetEntry& entry : gallery::sheets()) names << QByteArray(entry.name);
+  QCOMPARE(size_t(names.size()), gallery::sheets().size());
+  QVERIFY(names.contains("gallery"));
+}
+
+void TestGallery::nothingIsSqueezed_data() {
+  QTest::addColumn<int>("mode");
+  QTest::newRow("light") << int(AppSettings::Light);
+  QTest::newRow("dark") << int(AppSettings::Dark);
+}
+
+void TestGallery::nothingIsSqueezed() {
+  QFETCH(int, mode);
+  setLook(AppSettings::ThemeMode(mode));
+  gallery::Sheet sheet;
+  sheet.show();
+  for (const auto* widget : sheet.findChildren<QWidget*>()) {
+    if (!widget->isVisible() || isInView(widget)) continue;
+    const QByteArray what = widget->metaObject()->className() + QByteArray(" ") + widget->objectName().toUtf8();
+    QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()), what);
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    if (!label || label->wordWrap() || qobject_cast<const ui::ElidedLabel*>(label)) continue;
+    QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
+    QVERIFY2(label->height() >= label->sizeHint().height(), qPrintable(label->text()));
+  }
+}
+
+void TestGallery::sheetFollowsTheLook() {
+  gallery::Sheet sheet;
+  sheet.show();
+  const auto heading = [&] { return sheet.findChild<QLabel*>()->text(); };
+  QVERIFY(heading().startsWith(u"Light"_s));
+  QVERIFY(sheet.grab().toImage().pixelColor(sheet.width() / 2, 2).lightness() > 200);
+  setLook(AppSettings::Dark);
+  QVERIFY(heading().startsWith(u"Dark"_s));
+  QVERIFY(sheet.grab().toImage().pixelColor(sheet.width() / 2, 2).lightness() < 60);
+}
+
+void TestGallery::whatOpensIsTakenInEveryLook() {
+  gallery::Sheet sheet;
+  sheet.show();
+  const auto pictures = [&] {
+    QList<QImage> images;
+    for (const auto* snapshot : sheet.findChildren<gallery::Snapshot*>()) images << snapshot->pixmap().toImage();
+    return images;
+  };
+  const QList<QImage> light = pictures();
+  setLook(AppSettings::Dark);
+  const QList<QImage> dark = pictures();
+  QVERIFY(light.size() >= 5);
+  for (qsizetype at = 0; at < light.size(); ++at) {
+    const QPoint middle = light.at(at).rect().center();
+    QVERIFY(light.at(at).width() > 50 && light.at(at).height() > 20);
+    QVERIFY(light.at(at) != dark.at(at));
+    QVERIFY(light.at(at).pixelColor(middle).alpha() > 0);
+  }
+  // Nothing that was opened for its picture stays open.
+  for (const QWidget* widget : QApplication::topLevelWidgets()) QVERIFY(widget == &sheet || !widget->isVisible());
+}
+
+void TestGallery::otherLookStandsBesideTheLiveOne() {
+  gallery::GalleryWindow window;
+  window.show();
+  const auto* area = window.findChild<QScrollArea*>();
+  const auto picture = [&] {
+    for (const auto* label : area->widget()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly))
+      if (!label->pixmap().isNull()) return label->pixmap().toImage();
+    return QImage();
+  };
+  const auto* sheet = window.findChild<gallery::Sheet*>();
+  QTRY_VERIFY(!picture().isNull());
+  QCOMPARE(picture().size(), sheet->size());
+  QVERIFY(picture().pixelColor(600, 2).lightness() < 60);
+  QVERIFY(!Theme::get().dark);
+  segmentedWith(window, u"Dark"_s)->setCurrent(1);
+  QVERIFY(Theme::get().dark);
+  QVERIFY(picture().pixelColor(600, 2).lightness() > 200);
+}
+
+void TestGallery::otherMetricsNeedAnotherProcess() {
+  gallery::GalleryWindow window;
+  QSignalSpy wanted(&window, &gallery::GalleryWindow::restartWanted);
+  segmentedWith(window, u"win"_s)->setCurrent(1);
+  QCOMPARE(wanted.takeFirst(), QVariantList({false, u"1"_s}));
+  segmentedWith(window, u"1.5"_s)->setCurrent(2);
+  QCOMPARE(wanted.takeFirst(), QVariantList({false, u"2"_s}));
+}
+
+void TestGallery::programWritesBothLooks_data() {
+  QTest::addColumn<QString>("look");
+  QTest::addColumn<QString>("scale");
+  QTest::addColumn<QString>("suffix");
+  QTest::newRow("as it comes") << QString() << QString() << u"mac-1x.png"_s;
+  QTest::newRow("win at 1.5") << u"win"_s << u"1.5"_s << u"win-1.5x.png"_s;
+}
+
+void TestGallery::programWritesBothLooks() {
+  QFETCH(QString, look);
+  QFETCH(QString, scale);
+  QFETCH(QString, suffix);
+  const QTemporaryDir folder;
+  const QDir shots(folder.filePath(u"a/b"_s));
+  const Run run = runGallery({u"--write"_s, shots.path()}, look, scale);
+  QVERIFY2(run.code == 0, qPrintable(run.errors));
+  QCOMPARE(shots.entryList(QDir::Files, QDir::Name),
+           QStringList({u"gallery-dark-"_s + suffix, u"gallery-light-"_s + suffix}));
+  const QString dark = shots.filePath(u"gallery-dark-"_s + suffix);
+  const QString light = shots.filePath(u"gallery-light-"_s + suffix);
+  QVERIFY(colourAt(dark, {600, 2}).lightness() < 60);
+  QVERIFY(colourAt(light, {600, 2}).lightness() > 200);
+  const double ratio = scale.isEmpty() ? 1 : scale.toDouble();
+  QVERIFY(QImage(dark).width() >= int(1340 * ratio));
+}
+
+void TestGallery::programTellsWhatWentWrong() {
+  const QTemporaryDir folder;
+  Run run = runGallery({u"--write"_s, folder.path(), u"--sheet"_s, u"nothing"_s});
+  QCOMPARE(run.code, 1);
+  QVERIFY(run.errors.contains(u"no sheet called nothing"_s));
+  QVERIFY(QDir(folder.path()).isEmpty());
+
+  QFile file(folder.filePath(u"file"_s));
+  QVERIFY(file.open(QIODevice::WriteOnly));
+  run = runGallery({u"--write"_s, folder.filePath(u"file/below"_s)});
+  QCOMPARE(run.code, 1);
+  QVERIFY(run.errors.contains(u"can't make the folder"_s));
+
+  QCOMPARE(runGallery({u"--write"_s, folder.path(), u"--loud"_s}).code, 2);
+}
+
+int main(int argc, char** argv) { return uitest::run<TestGallery>(argc, argv); }
+
+#include "tst_Gallery.moc"
