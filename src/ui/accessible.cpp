@@ -106,7 +106,11 @@ class ItemInterface : public QAccessibleInterface, public QAccessibleActionInter
     return isValid() ? items()->itemRole() : QAccessible::NoRole;
   }
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
-    return kind == QAccessible::Name && isValid() ? items()->itemAt(m_index).name : QString();
+    if (!isValid()) return {};
+    if (kind == QAccessible::Name) return items()->itemAt(m_index).name;
+    // Some readers look at a name and a description and at no value text.
+    const bool asked = kind == QAccessible::Value || kind == QAccessible::Description;
+    return asked ? items()->itemAt(m_index).value : QString();
   }
   void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
   [[nodiscard]] QRect rect() const override {
@@ -292,7 +296,7 @@ void accessibleItemsChanged(QWidget* widget, int current) {
   touched.checked = !selectable;
   QAccessibleStateChangeEvent state(parts->child(current), touched);
   QAccessible::updateAccessibility(&state);
-  if (!hasKeyboard(widget)) return;
+  if (!hasKeyboard(widget) || parts->focusChild() != parts->child(current)) return;
   QAccessibleEvent focus(widget, QAccessible::Focus);
   focus.setChild(current);
   QAccessible::updateAccessibility(&focus);

@@ -42,11 +42,12 @@ class AccessibleText {
 class AccessibleItems {
  public:
   struct Item {
-    QString name; ///< what the sighted user reads of it
-    QRect rect;   ///< in the control's coordinates
+    QString name;       ///< what the sighted user reads of it
+    QString value = {}; ///< what it shows besides, such as a size
+    QRect rect;         ///< in the control's coordinates
     bool checkable = false;
     bool checked = false;
-    bool selectable = false; ///< a row of a list, of which one is chosen
+    bool selectable = false; ///< a row or tile of a list, which can be chosen
     bool selected = false;
     bool current = false; ///< has the control's keyboard focus
     bool shown = true;    ///< is on the screen, as far as the control is
