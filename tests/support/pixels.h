@@ -1,9 +1,10 @@
-/// What tests of painted controls look at: a look, a picture of a widget, and colours as a painter mixes them.
+/// What tests of painted controls look at: a look, a picture of a widget, colours as a painter mixes them, repaints.
 #pragma once
 
 #include "app/AppSettings.h"
 
 #include <QColor>
+#include <QEvent>
 #include <QImage>
 #include <QPainter>
 #include <QWidget>
@@ -30,6 +31,17 @@ inline QColor over(const QColor& upper, const QColor& lower) {
   return image.pixelColor(0, 0);
 }
 
+/// The colour of the pixel that holds a point.
+inline QColor at(const QImage& image, const QPointF& point) { return image.pixelColor(int(point.x()), int(point.y())); }
+
+/// What a gradient has at a point.
+inline QColor brushAt(const QBrush& brush, const QPointF& point) {
+  QImage image(int(point.x()) + 1, int(point.y()) + 1, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter(&image).fillRect(image.rect(), brush);
+  return at(image, point);
+}
+
 /// @p colour with another alpha, as a fraction.
 inline QColor faded(QColor colour, double alpha) {
   colour.setAlphaF(float(alpha));
@@ -50,5 +62,28 @@ inline bool isBlank(const QImage& image) {
       if (image.pixelColor(x, y).alpha() != 0) return false;
   return true;
 }
+
+/// How many pixels of a part of a picture are near a colour.
+inline int count(const QImage& image, const QRectF& part, const QColor& wanted) {
+  const QRect rect = part.toRect() & image.rect();
+  int found = 0;
+  for (int y = rect.top(); y <= rect.bottom(); ++y)
+    for (int x = rect.left(); x <= rect.right(); ++x)
+      if (isNear(image.pixelColor(x, y), wanted)) ++found;
+  return found;
+}
+
+/// Counts the paint events of a widget.
+class Repaints : public QObject {
+ public:
+  explicit Repaints(QWidget* widget) { widget->installEventFilter(this); }
+  int count = 0;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count;
+    return QObject::eventFilter(watched, event);
+  }
+};
 
 } // namespace pixels

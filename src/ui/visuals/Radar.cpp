@@ -1,0 +1,138 @@
+#include "ui/visuals/Radar.h"
+
+#include "ui/Theme.h"
+#include "ui/controls/Ticker.h"
+#include "ui/paint.h"
+#include "ui/visuals/hues.h"
+
+#include <QConicalGradient>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <cmath>
+
+namespace ui {
+
+namespace {
+// Lengths in pixels.
+constexpr QSize kSize(250, 250);
+constexpr double kMargin = 1;     // from the sweep to the widget's edge
+constexpr double kFirstRing = 50; // from the innermost ring to the sweep's edge
+constexpr double kRingStep = 16;
+constexpr double kRim = 0.5;
+constexpr double kHollowShare = 0.55; // of the sweep's radius
+constexpr double kCoreRadius = 62;
+constexpr double kHeadlineTop = -24; // from the centre
+constexpr double kHeadlineHeight = 34;
+constexpr double kCaptionTop = 12;
+constexpr double kCaptionHeight = 16;
+constexpr int kHeadlinePx = 26;
+constexpr int kHeadlineWeight = 600;
+constexpr int kCaptionPx = 10;
+// The core's halo: circles that shrink by a step; the outermost but one step more would have nothing left.
+constexpr int kHaloReach = 22;
+constexpr int kHaloStep = 2;
+constexpr double kHaloEnd = 24;
+constexpr double kHaloPeak = 7;
+// Movement of a beat, in degrees.
+constexpr double kSweepStep = 3.2;
+constexpr double kFullTurn = 360;
+
+/// The beam: its leading edge, then its tail.
+struct Stop {
+  double place; ///< in turns behind the edge
+  double alpha;
+};
+constexpr Stop kBeam[] = {{0, 0.95}, {0.02, 0.32}, {0.3, 0}, {1, 0}};
+
+QConicalGradient beam(const QPointF& centre, double angle) {
+  QConicalGradient gradient(centre, -angle);
+  for (const auto& [place, alpha] : kBeam) gradient.setColorAt(place, paint::withAlphaF(hues::kCyan, alpha));
+  return gradient;
+}
+
+void paintRings(QPainter* painter, const RadarLayout& layout) {
+  painter->setPen(paint::pen(Theme::get().line));
+  painter->setBrush(Qt::NoBrush);
+  for (const double radius : layout.rings) painter->drawEllipse(layout.centre, radius, radius);
+}
+
+void paintCore(QPainter* painter, const RadarLayout& layout) {
+  const Theme& theme = Theme::get();
+  painter->setPen(Qt::NoPen);
+  for (int k = kHaloReach; k > 0; k -= kHaloStep) {
+    painter->setBrush(paint::withAlpha(hues::kCyan, int((1 - k / kHaloEnd) * kHaloPeak) + 1));
+    painter->drawEllipse(layout.centre, layout.coreRadius + k, layout.coreRadius + k);
+  }
+  painter->setPen(paint::pen(theme.lineStrong));
+  painter->setBrush(theme.core);
+  painter->drawEllipse(layout.centre, layout.coreRadius, layout.coreRadius);
+}
+} // namespace
+
+RadarLayout radarLayout(const QSize& size) {
+  const QPointF centre = QRectF(QPointF(), size).center();
+  const double radius = size.width() / 2.0 - kMargin;
+  RadarLayout layout{.centre = centre,
+                     .radius = radius,
+                     .hollow = kHollowShare * radius,
+                     .rings = {},
+                     .coreRadius = kCoreRadius,
+                     .text = {}};
+  for (double ring = radius - kFirstRing; ring < radius; ring += kRingStep) layout.rings << ring;
+  layout.rings << radius - kRim;
+  const double left = centre.x() - kCoreRadius;
+  layout.text.headline = QRectF(left, centre.y() + kHeadlineTop, 2 * kCoreRadius, kHeadlineHeight);
+  layout.text.caption = QRectF(left, centre.y() + kCaptionTop, 2 * kCoreRadius, kCaptionHeight);
+  return layout;
+}
+
+double radarSwept(double angle) { return std::fmod(angle + kSweepStep, kFullTurn); }
+
+Radar::Radar(QWidget* parent) : QWidget(parent), m_ticker(new Ticker(this, [this] { turn(); })) {
+  setFixedSize(kSize);
+  connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
+}
+
+void Radar::setText(const QString& headline, const QString& caption) {
+  m_headline = headline;
+  m_caption = caption;
+  update();
+  accessibleValueChanged(this);
+}
+
+void Radar::setRunning(bool on) {
+  if (on == isRunning()) return;
+  m_ticker->setRunning(on);
+  accessibleValueChanged(this);
+}
+
+bool Radar::isRunning() const { return m_ticker->isRunning(); }
+
+void Radar::turn() {
+  m_angle = radarSwept(m_angle);
+  update();
+}
+
+void Radar::paintEvent(QPaintEvent* /*event*/) {
+  const Theme& theme = Theme::get();
+  const RadarLayout layout = radarLayout(size());
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  paintRings(&painter, layout);
+  paintSweep(&painter, layout);
+  paintCore(&painter, layout);
+  dial::paintText(&painter, layout.text, {m_headline, theme.mono(kHeadlinePx, kHeadlineWeight), theme.text},
+                  {m_caption, theme.eyebrow(kCaptionPx), theme.text3});
+}
+
+void Radar::paintSweep(QPainter* painter, const RadarLayout& layout) const {
+  QPainterPath annulus;
+  annulus.addEllipse(layout.centre, layout.radius, layout.radius);
+  annulus.addEllipse(layout.centre, layout.hollow, layout.hollow);
+  painter->setPen(Qt::NoPen);
+  painter->setBrush(beam(layout.centre, m_angle));
+  painter->drawPath(annulus);
+}
+
+} // namespace ui
