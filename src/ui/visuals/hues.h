@@ -9,5 +9,6 @@ inline constexpr QColor kCyan(34, 211, 238);    // hue: what can be cleaned, the
 inline constexpr QColor kIndigo(99, 102, 241);  // hue: what is used, and the orb's light
 inline constexpr QColor kViolet(168, 85, 247);  // hue: the far end of what is used
 inline constexpr QColor kEmerald(52, 211, 153); // hue: the beginning of a good ring
+inline constexpr QColor kSheen(255, 255, 255);  // hue: the light on the orb's core
 
 } // namespace ui::hues
