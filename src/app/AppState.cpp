@@ -7,13 +7,20 @@
 #include <algorithm>
 #include <numeric>
 
-AppState::AppState(QObject* parent)
+AppState::AppState(QObject* parent) : AppState(parent, CleanerWorld()) {}
+
+AppState::AppState(QObject* parent, const CleanerWorld& world)
     : QObject(parent),
       volume(platform::systemVolume()),
       scanner(new Scanner(this)),
       lastScan(AppSettings::instance().lastScan()),
-      cleaner(new Cleaner(this)) {
+      cleaner(new Cleaner(this, world)) {
   connectScanner();
+  connect(cleaner, &Cleaner::filesProgress, this, [this](const QString& category, qint64 done, qint64 total) {
+    cleanCategory = category;
+    cleanFiles = done;
+    cleanFilesTotal = total;
+  });
   connect(cleaner, &Cleaner::progress, this, &AppState::cleanProgress);
   connect(cleaner, &Cleaner::finished, this, &AppState::onCleanFinished);
 }
@@ -99,6 +106,9 @@ void AppState::clean(const RunOptions& options) {
     return;
   }
   freeBeforeClean = volume.availableBytes;
+  cleanCategory.clear();
+  cleanFiles = 0;
+  cleanFilesTotal = 0;
   setPhase(Cleaning);
   cleaner->start(chosen, options.moveToTrash.value_or(settings.moveToTrash()),
                  settings.exclusions() + options.furtherExclusions,

@@ -13,6 +13,7 @@
 #include <optional>
 
 class Cleaner;
+struct CleanerWorld;
 class Scanner;
 
 /// What a run takes from its caller instead of from the stored settings. The defaults are what the window uses.
@@ -39,6 +40,8 @@ class AppState : public QObject {
 
   /// Makes the engines; reads the volume's figures and the time of the last scan.
   explicit AppState(QObject* parent = nullptr);
+  /// The same over another outside world, for tests.
+  AppState(QObject* parent, const CleanerWorld& world);
   /// Raises the flags of what runs and waits for it.
   ~AppState() override;
 
@@ -58,6 +61,9 @@ class AppState : public QObject {
   const QSet<QString>& selected = m_selected; ///< ids of ticked categories
   const QSet<QString>& unticked = m_unticked; ///< item paths taken out of ticked categories
   Cleaner* cleaner = nullptr;                 ///< a child
+  QString cleanCategory;                      ///< title of the category at work; empty before and after
+  qint64 cleanFiles = 0;                      ///< of the selected items that the clean has dealt with
+  qint64 cleanFilesTotal = 0;                 ///< of all selected items
   CleanReport report;                         ///< of the last clean
   qint64 freeBeforeClean = 0;                 ///< bytes available when the last clean began
 
@@ -120,7 +126,7 @@ class AppState : public QObject {
   /// results were replaced.
   void resultsChanged();
   void selectionChanged();
-  /// In selected bytes.
+  /// In selected bytes; cleanCategory and the files are brought up to date before.
   void cleanProgress(qint64 done, qint64 total, QString path);
   void volumeChanged();
   /// A short message for the user; @p undoable offers to undo.

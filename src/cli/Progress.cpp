@@ -56,7 +56,10 @@ QString Progress::scanning() const {
 }
 
 QString Progress::cleaning() const {
-  return Words::tr("Cleaning") + kGap + Words::tr("%1 of %2").arg(fmt::bytes(m_done), fmt::bytes(m_total));
+  const QString& title = m_state.cleanCategory;
+  return (title.isEmpty() ? Words::tr("Cleaning") : title) + kGap +
+         Words::tr("%1 of %2").arg(fmt::bytes(m_done), fmt::bytes(m_total)) + kGap +
+         Words::tr("%1 of %2 files").arg(fmt::count(m_state.cleanFiles), fmt::count(m_state.cleanFilesTotal));
 }
 
 void Progress::draw() const {

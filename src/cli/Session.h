@@ -4,6 +4,7 @@
 #include "app/AppState.h"
 #include "cli/Interrupts.h"
 #include "cli/Progress.h"
+#include "engines/Cleaner.h"
 
 namespace cli {
 
@@ -13,7 +14,7 @@ class Session : public QObject {
  public:
   enum class Answer { Yes, No };
 
-  Session() = default;
+  explicit Session(const CleanerWorld& world = {}) : m_state(nullptr, world) {}
 
   /// Returns when the scan is over; Ctrl-C cancels it.
   /// @return how long it took, in ms

@@ -4,6 +4,7 @@
 #include "cli/terminal.h"
 #include "cli/words.h"
 #include "core/names.h"
+#include "core/places.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -162,18 +163,32 @@ bool climbsFromWildcard(const QString& rule) {
   return (rule + u'/').indexOf(u"/../"_s, wildcard - rule.cbegin()) >= 0;
 }
 
+/// @p path without what cleaning takes out of it; empty if it is the root itself, or would lie above it.
+QString belowRoot(const QString& path) {
+  const QString clean = QDir::cleanPath(path);
+  const bool aboveRoot = (clean + u'/').startsWith(u"/../"_s);
+  return clean.size() > 1 && clean.contains(u'/') && !aboveRoot ? clean : QString();
+}
+
+/// Whether a rule that begins with "~" names something below the root, with a home folder in its place.
+bool namesAPlace(const QString& rule) {
+  if (rule.size() > 1 && rule.at(1) != u'/') return false;
+  const QStringList homes{QDir::homePath(), places::home()};
+  return std::any_of(homes.cbegin(), homes.cend(), [&](const QString& home) {
+    return !home.isEmpty() && !belowRoot(home + rule.sliced(1)).isEmpty();
+  });
+}
+
 /// @p rule as it is held against paths, which are clean and end in no slash; empty if none can match. Paths are
 /// absolute, so a rule with a slash in it must not begin with a name; and what "~" begins is cleaned with the home
 /// folder in its place.
 QString matchable(QString rule) {
   while (rule.size() > 1 && rule.endsWith(u'/')) rule.chop(1);
   if (climbsFromWildcard(rule)) return {};
-  if (rule.startsWith(u'~')) return rule.size() == 1 || rule.at(1) == u'/' ? rule : QString();
+  if (rule.startsWith(u'~')) return namesAPlace(rule) ? rule : QString();
   if (!rule.contains(u'/')) return rule == u"."_s || rule == u".."_s ? QString() : rule;
   if (!rule.startsWith(u'/') && !rule.startsWith(u'*')) return {};
-  const QString clean = QDir::cleanPath(rule);
-  const bool aboveRoot = (clean + u'/').startsWith(u"/../"_s);
-  return clean.size() > 1 && clean.contains(u'/') && !aboveRoot ? clean : QString();
+  return belowRoot(rule);
 }
 
 /// Reads the rules into @p exclude. A rule that could never match is an error, for somebody relies on it.
@@ -182,7 +197,7 @@ QString readExclude(const QStringList& values, QStringList* exclude) {
     if (value.trimmed().isEmpty()) return Words::tr("--exclude wants a rule");
     const QString rule = matchable(value.trimmed());
     if (rule.isEmpty())
-      return Words::tr("the rule %1 matches nothing: a path begins with / or ~/, a name has no slash")
+      return Words::tr("the rule %1 matches nothing: a path begins with / or ~/ and lies below /, a name has no slash")
           .arg(quoted(value));
     *exclude << rule;
   }

@@ -22,10 +22,11 @@ int placeToAsk(const Command& command) {
 
 class Clean {
  public:
-  Clean(const Command& command, Output* out)
+  Clean(const Command& command, Output* out, const CleanerWorld& world)
       : m_command(command),
         m_out(out),
-        m_toTrash(command.moveToTrash.value_or(AppSettings::instance().moveToTrash())) {}
+        m_toTrash(command.moveToTrash.value_or(AppSettings::instance().moveToTrash())),
+        m_session(world) {}
 
   ExitCode run();
 
@@ -111,12 +112,12 @@ ExitCode Clean::run() {
 
 } // namespace
 
-ExitCode clean(const Command& command, Output* out) {
+ExitCode clean(const Command& command, Output* out, const CleanerWorld& world) {
   if (!command.yes && !command.dryRun && placeToAsk(command) == kNowhere) {
     complain(Words::tr("there is no terminal to ask on, so nothing is cleaned without --yes"));
     return kUsage;
   }
-  return Clean(command, out).run();
+  return Clean(command, out, world).run();
 }
 
 } // namespace cli

@@ -4,6 +4,7 @@
 #include "cli/arguments.h"
 #include "cli/output.h"
 #include "cli/words.h"
+#include "engines/Cleaner.h"
 
 namespace cli {
 
@@ -11,6 +12,6 @@ namespace cli {
 [[nodiscard]] ExitCode scan(const Command& command, Output* out);
 
 /// Scans, shows the plan, asks, and cleans: moves to the Trash or deletes, unless it is a dry run.
-[[nodiscard]] ExitCode clean(const Command& command, Output* out);
+[[nodiscard]] ExitCode clean(const Command& command, Output* out, const CleanerWorld& world);
 
 } // namespace cli

@@ -25,7 +25,8 @@ struct RunningApps {
   QList<QString> processDirs;       ///< folder of each executable, lower case, with a "/" at the end; may repeat
 };
 
-/// The user's open files at one moment. A folder that some process works in counts as open.
+/// The user's open files at one moment. A folder that some process works in, or holds open, counts as open itself; that
+/// says nothing of what lies in it.
 struct OpenFiles {
   QSet<QString> files;   ///< clean absolute paths
   QSet<QString> parents; ///< every folder above them, except "/"

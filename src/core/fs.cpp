@@ -54,6 +54,10 @@ UniqueFd openFolder(const QString& path, int moreFlags) {
   return UniqueFd(::openat(place.at(), place.rest.constData(), kFolderFlags | moreFlags));
 }
 
+UniqueFd openFolderAt(int dirFd, const QByteArray& rawName) {
+  return UniqueFd(::openat(dirFd, rawName.constData(), kFolderFlags | O_NOFOLLOW));
+}
+
 void fill(Entry* entry, const struct stat& status) {
   const bool regular = S_ISREG(status.st_mode);
   entry->isDir = S_ISDIR(status.st_mode);
@@ -105,6 +109,7 @@ QList<Entry> list(const QString& dir, bool* complete) {
     Entry& entry = entries.emplace_back();
     entry.name = names::decode(name);
     entry.reachable = !joinsWrongly(dir) && reaches(fd.get(), name, status);
+    if (!entry.reachable) entry.rawName = name.toByteArray();
     fill(&entry, status);
   }
   if (complete && reader.error() != 0) *complete = false;

@@ -31,6 +31,7 @@ struct Entry {
   /// Whether the path that goes with this entry, by its text, reaches this very file. False where a name on the way is
   /// no text: the entry is measured, and is never acted on through a text path.
   bool reachable = true;
+  QByteArray rawName = {}; ///< the name's bytes; from list() alone, and only where the name itself isn't reachable
 };
 
 /// What a tree holds.
@@ -77,6 +78,10 @@ using Progress = std::function<void(const QString&, qint64, qint64)>;
 /// @return what was counted until the end, or until @p cancel was raised (asked once a folder)
 [[nodiscard]] Totals measure(const QString& path, const std::atomic<bool>& cancel, const Progress& progress = {},
                              const QList<QString>& exclude = {});
+
+/// The same for the entry of the folder @p dir that bears this name in bytes: for what no text path reaches.
+[[nodiscard]] Totals measureEntry(const QString& dir, const QByteArray& rawName, const std::atomic<bool>& cancel,
+                                  const Progress& progress = {});
 
 /// Calls @p visit for every entry below @p root that is neither folder nor link, with its path and metadata; both are
 /// valid during the call and may be copied. No hard-link logic, no throttle. Stays on the device of @p root, which may

@@ -12,6 +12,8 @@ namespace fs {
 [[nodiscard]] bool statusOf(const QString& path, struct stat* status);
 /// Opens the folder @p path for listing. @p moreFlags may hold O_NOFOLLOW.
 [[nodiscard]] UniqueFd openFolder(const QString& path, int moreFlags = 0);
+/// Opens the folder @p rawName of an open folder for listing, never through a link.
+[[nodiscard]] UniqueFd openFolderAt(int dirFd, const QByteArray& rawName);
 /// Everything of an entry but its name and whether it is reachable.
 void fill(Entry* entry, const struct stat& status);
 /// Whether the text of @p name leads to this file in the open folder @p dirFd.

@@ -13,6 +13,7 @@
 
 #include <cerrno>
 #include <limits>
+#include <optional>
 
 namespace fs {
 namespace {
@@ -123,24 +124,54 @@ class Measure {
 /// The root itself couldn't be looked at.
 Totals unread(int error) { return {.unread = error == ENOENT || error == ENOTDIR ? 0 : 1}; }
 
+/// A tree by its top. @p path is its text, for showing.
+class Tree {
+ public:
+  Tree(const QString& path, const struct stat& top) : m_path(path), m_top(top) {}
+
+  /// What it holds where there is nothing to walk.
+  [[nodiscard]] std::optional<Totals> leaf() const {
+    if (sys::isDataless(m_top)) return Totals();
+    if (S_ISDIR(m_top.st_mode)) return std::nullopt;
+    Entry entry;
+    fill(&entry, m_top);
+    return Totals{entry.allocated, 1, entry.modifiedMs};
+  }
+  /// Walks it from its open top folder.
+  [[nodiscard]] Totals walk(UniqueFd top, const std::atomic<bool>& cancel, const Progress& progress,
+                            const QList<QString>& exclude) const {
+    if (!top) return unread(errno);
+    Measure measure(m_path, m_top.st_dev, progress, exclude);
+    TreeWalk walk(std::move(top), cancel);
+    while (walk.next() == TreeWalk::Step::Folder) measure.folder(&walk);
+    return measure.totals(walk);
+  }
+
+ private:
+  const QString& m_path;
+  const struct stat& m_top;
+};
+
 } // namespace
 
 Totals measure(const QString& path, const std::atomic<bool>& cancel, const Progress& progress,
                const QList<QString>& exclude) {
-  struct stat root;
-  if (!statusOf(path, &root)) return unread(errno);
-  if (sys::isDataless(root)) return {};
-  if (!S_ISDIR(root.st_mode)) {
-    Entry entry;
-    fill(&entry, root);
-    return {entry.allocated, 1, entry.modifiedMs};
-  }
-  UniqueFd top = openFolder(path, O_NOFOLLOW);
-  if (!top) return unread(errno);
-  Measure measure(path, root.st_dev, progress, exclude);
-  TreeWalk walk(std::move(top), cancel);
-  while (walk.next() == TreeWalk::Step::Folder) measure.folder(&walk);
-  return measure.totals(walk);
+  struct stat top;
+  if (!statusOf(path, &top)) return unread(errno);
+  const Tree tree(path, top);
+  if (const std::optional<Totals> leaf = tree.leaf()) return *leaf;
+  return tree.walk(openFolder(path, O_NOFOLLOW), cancel, progress, exclude);
+}
+
+Totals measureEntry(const QString& dir, const QByteArray& rawName, const std::atomic<bool>& cancel,
+                    const Progress& progress) {
+  const UniqueFd folder = openFolder(dir);
+  struct stat top;
+  if (!folder || ::fstatat(folder.get(), rawName.constData(), &top, AT_SYMLINK_NOFOLLOW) != 0) return unread(errno);
+  const QString path = join(dir, names::decode(rawName));
+  const Tree tree(path, top);
+  if (const std::optional<Totals> leaf = tree.leaf()) return *leaf;
+  return tree.walk(openFolderAt(folder.get(), rawName), cancel, progress, {});
 }
 
 } // namespace fs

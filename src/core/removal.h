@@ -36,7 +36,8 @@ enum class Verdict {
   KeepProtectedData,
   KeepProtectedLocation,
   KeepOpen,
-  NotWhole, ///< a folder that must not leave as a whole, because something below it must stay
+  NotWhole,   ///< a folder that must not leave as a whole, because something below it must stay
+  KeepFolder, ///< a folder that itself stays, told as Kept::Open; what lies in it is asked one by one
 };
 
 /// Why something stays for good.
@@ -51,9 +52,9 @@ struct Stay {
 
 /// What the caller decides and learns, all on the removing thread.
 struct Handlers {
-  /// Asked of every node: first of the target, then only of what lies in folders that got Remove or NotWhole; never of
-  /// the folder that removeChildren() empties. Where things move to the Trash, what lies in a folder that has to be
-  /// opened is asked twice, as a folder is surveyed before it may leave whole. May not be empty.
+  /// Asked of every node: first of the target, then only of what lies in folders that don't stay with all in them;
+  /// never of the folder that removeChildren() empties. Where things move to the Trash, what lies in a folder that has
+  /// to be opened is asked twice, as a folder is surveyed before it may leave whole. May not be empty.
   std::function<Verdict(const Node&)> judge;
   /// The node stays, with all that lies in it. Each is told once. May be empty, as may busy.
   std::function<void(const Node&, Kept)> kept = {};

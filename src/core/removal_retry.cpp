@@ -50,7 +50,9 @@ class Attempt {
   // Nothing: the walk goes on below it.
   std::optional<Retry> enterFolder() {
     if (const auto kept = keptNow()) return kept;
+    const bool stays = m_staysItself;
     if (!m_chain.enter(m_path.name())) return notEntered(errno);
+    if (stays) m_lowestStaying = m_chain.depth();
     const std::optional<Volume> own = Volume::of(m_chain.fd());
     if (!own) return stayed(errno);
     if (*own != m_volume) return keep(Kept::AnotherVolume);
@@ -74,6 +76,7 @@ class Attempt {
     m_path.setDir(S_ISDIR(status.st_mode));
     m_stay.node.isDir = m_path.node().isDir;
     if (const auto kept = keptNow()) return *kept;
+    if (m_staysItself) return keep(Kept::Open);
     pauseBefore(m_path.node());
     const Act act = this->act();
     if (act.noTrash) return keep(Kept::NoTrash);
@@ -90,7 +93,9 @@ class Attempt {
   }
 
   std::optional<Retry> keptNow() {
-    if (const std::optional<Kept> reason = keptBy(m_run.handlers.judge(m_path.node()))) return keep(*reason);
+    const Verdict verdict = m_run.handlers.judge(m_path.node());
+    if (const std::optional<Kept> reason = keptBy(verdict)) return keep(*reason);
+    m_staysItself = verdict == Verdict::KeepFolder;
     if (m_volume.endsAt(m_chain.fd(), m_path.name())) return keep(Kept::AnotherVolume);
     return std::nullopt;
   }
@@ -105,9 +110,9 @@ class Attempt {
     return Retry::Stayed;
   }
 
-  // The folders on the way up to the top go too while they are empty; they were asked on the way down.
+  // The folders on the way up to the top go too while they are empty and may go; they were asked on the way down.
   Retry gone() {
-    for (size_t depth = m_chain.depth(); depth > 0; --depth) {
+    for (size_t depth = m_chain.depth(); depth > m_lowestStaying; --depth) {
       const QByteArray& name = m_below.at(static_cast<qsizetype>(depth) - 1);
       if (!m_chain.leave() || removeEmptyFolder(m_chain.fd(), name.constData()) != 0) break;
       ++m_run.removedNodes;
@@ -121,6 +126,8 @@ class Attempt {
   DirChain m_chain;
   Volume m_volume;
   NodePath m_path;
+  bool m_staysItself = false; ///< the folder that was asked last
+  size_t m_lowestStaying = 0; ///< depth of the lowest folder on the way that stays itself; 0: none does
 };
 
 /// The components of @p raw below @p top; empty where it doesn't lie below it.

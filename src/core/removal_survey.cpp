@@ -24,7 +24,7 @@ void Survey::file() {
 bool Survey::folder() {
   const Verdict verdict = m_judge(node());
   if (verdict != Verdict::Remove) level().holds = true;
-  m_notWhole = verdict == Verdict::NotWhole;
+  m_notWhole = verdict == Verdict::NotWhole || verdict == Verdict::KeepFolder;
   return verdict == Verdict::Remove || m_notWhole;
 }
 

@@ -40,6 +40,7 @@ class TreeWalk {
     int readError = 0;           ///< errno that ended a listing early
     bool holds = false;          ///< something in it stays
     bool isClean = false;        ///< a survey found that nothing in it must stay
+    bool staysItself = false;    ///< whatever becomes of what lies in it
     QList<quint64> clean = {};   ///< inodes of its sub-folders of which a survey found that
     QSet<QByteArray> stays = {}; ///< names of what stays directly in it, where the walk keeps them
   };

@@ -29,6 +29,7 @@ std::optional<Kept> keptBy(Verdict verdict) {
     return Kept::Open;
   case Verdict::Remove:
   case Verdict::NotWhole:
+  case Verdict::KeepFolder:
     break;
   }
   return std::nullopt;
@@ -81,13 +82,17 @@ void RemovalWalk::file() {
 bool RemovalWalk::folder() {
   const Verdict verdict = m_run.handlers.judge(node());
   if (!mayGo(verdict)) return false;
-  m_entersClean = m_run.options.toTrash && isClean() && verdict != Verdict::NotWhole;
+  m_entersClean = m_run.options.toTrash && isClean() && verdict == Verdict::Remove;
+  m_entersStaying = verdict == Verdict::KeepFolder;
   if (!m_run.options.dryRun) pauseBefore(node());
   return !m_entersClean || moveWhole() == Whole::Open;
 }
 
 // What is entered though it was found clean didn't let itself be moved; what lies in it may.
-void RemovalWalk::entered() { level().isClean = m_entersClean; }
+void RemovalWalk::entered() {
+  level().isClean = m_entersClean;
+  level().staysItself = m_entersStaying;
+}
 
 // What holds before anything is tried: the verdict, the mount, the Trash.
 bool RemovalWalk::mayGo(Verdict verdict) {
@@ -146,6 +151,10 @@ void RemovalWalk::closed(int error) {
 void RemovalWalk::unknown(int error) { busy(error); }
 
 void RemovalWalk::left() {
+  if (level().staysItself) {
+    leftStaying();
+    return;
+  }
   const int error = m_run.options.dryRun ? predictedFolderRefusal() : removeOwnFolder();
   if (isNotEmpty(error) && !m_run.options.dryRun && level().passes < kMaxPasses && readAgain()) return;
   const bool holds = level().holds;
@@ -158,6 +167,19 @@ void RemovalWalk::left() {
     stays();
   else
     settle(error);
+}
+
+// What was passed over while others went is looked for here too, though there is no removal that would fail for it.
+void RemovalWalk::leftStaying() {
+  if (!m_run.options.dryRun && level().passes < kMaxPasses && readAgain()) return;
+  const int readError = level().readError;
+  popLevel();
+  if (readError != 0) {
+    busy(readError);
+    return;
+  }
+  if (m_run.handlers.kept) m_run.handlers.kept(node(), Kept::Open);
+  stays();
 }
 
 int RemovalWalk::removeOwnFolder() {

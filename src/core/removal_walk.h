@@ -73,6 +73,7 @@ class RemovalWalk : public TreeWalk {
   [[nodiscard]] int predictedRefusal();
   [[nodiscard]] int predictedFolderRefusal();
   [[nodiscard]] int removeOwnFolder();
+  void leftStaying();
   void settle(int error);
   void keep(Kept reason);
   void busy(int error);
@@ -82,8 +83,10 @@ class RemovalWalk : public TreeWalk {
   QByteArray m_topRaw;
   bool m_all = false;
   bool m_hasTrash = true;
-  QSet<quint64> m_clean;      ///< what the last survey found
-  bool m_entersClean = false; ///< the folder that is about to be entered was found clean
+  QSet<quint64> m_clean; ///< what the last survey found
+  // Of the folder that is about to be entered:
+  bool m_entersClean = false;   ///< it was found clean
+  bool m_entersStaying = false; ///< it stays itself
 };
 
 } // namespace removal

@@ -78,12 +78,14 @@ removal::Verdict CleanJudge::judgeTarget(const CleanWork& work, const removal::N
   return judgeOpen(work, node);
 }
 
-/// A folder that some process works in stays with all in it. One with something open inside is emptied around it.
+/// A folder that is itself in use, as some process works in it or holds it open, stays in its place: that process must
+/// find it again. It is emptied around what is open in it, like any folder with something open inside.
 removal::Verdict CleanJudge::judgeOpen(const CleanWork& work, const removal::Node& node) const {
   const auto in = [&](const QSet<QString>& set) {
     return set.contains(node.path) || (!work.isOnePath && set.contains(node.realPath));
   };
-  if (in(m_open.files)) return removal::Verdict::KeepOpen;
+  const bool isOpen = in(m_open.files);
+  if (isOpen) return node.isDir ? removal::Verdict::KeepFolder : removal::Verdict::KeepOpen;
   if (node.isDir) return in(m_open.parents) ? removal::Verdict::NotWhole : removal::Verdict::Remove;
   return m_isOwnLog(node.realPath) ? removal::Verdict::KeepOpen : removal::Verdict::Remove;
 }

@@ -11,6 +11,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -48,6 +49,13 @@ CleanWork workFor(const CleanItem& item, const CategoryDef& def, bool toTrash) {
   return work;
 }
 
+/// Of the items alone: a scan's own figure counts also what gave no item, and that isn't dealt with.
+qint64 sumOfFiles(const CategoryResult& result) {
+  if (result.def.usesRecycleBin) return result.files;
+  return std::accumulate(result.items.begin(), result.items.end(), qint64{0},
+                         [](qint64 sum, const CleanItem& item) { return sum + item.files; });
+}
+
 SkipReason reasonFor(removal::Kept kept) {
   switch (kept) {
   case removal::Kept::ProtectedData:
@@ -75,7 +83,10 @@ CleanRun::CleanRun(Order order, const CleanerWorld& world, const std::atomic<boo
     : m_order(std::move(order)), m_world(world), m_stopped(stopped), m_progress(std::move(progress)) {}
 
 CleanReport CleanRun::run() {
-  for (const CategoryResult& result : m_order.results) m_totalBytes += result.bytes;
+  for (const CategoryResult& result : m_order.results) {
+    m_step.totalBytes += result.bytes;
+    m_step.totalFiles += sumOfFiles(result);
+  }
   std::optional<RunLock> lock;
   m_report.refusal = refusal(&lock);
   if (m_report.refusal.isEmpty()) {
@@ -89,8 +100,20 @@ CleanReport CleanRun::run() {
     measure();
     end();
   }
-  m_progress(m_totalBytes, m_totalBytes, {});
+  deal(m_step.totalBytes - m_step.doneBytes, m_step.totalFiles - m_step.doneFiles);
+  tell({}, {});
   return m_report;
+}
+
+void CleanRun::tell(const QString& category, const QString& path) {
+  m_step.category = category;
+  m_step.path = path;
+  m_progress(m_step);
+}
+
+void CleanRun::deal(qint64 bytes, qint64 files) {
+  m_step.doneBytes += bytes;
+  m_step.doneFiles += files;
 }
 
 QString CleanRun::refusal(std::optional<RunLock>* lock) const {
@@ -119,7 +142,7 @@ void CleanRun::openLog() {
   }
   m_judge.emplace(m_order.exclusions, m_world.sources, [this](const QString& path) { return m_log.isOwnFile(path); });
   if (!isDry()) m_judge->addOpen(m_report.logPath);
-  m_log.head(now, m_order.moveToTrash, m_totalBytes);
+  m_log.head(now, m_order.moveToTrash, m_step.totalBytes);
   m_log.flush();
 }
 
@@ -138,7 +161,7 @@ void CleanRun::cleanCategory(const CategoryResult& result) {
 
 void CleanRun::emptyRecycleBin(const CategoryResult& result) {
   const QString name = platform::trashName();
-  m_progress(m_doneBytes, m_totalBytes, name);
+  tell(result.def.title, name);
   const bool emptied = isDry() || (m_world.emptyRecycleBin ? m_world.emptyRecycleBin() : platform::emptyRecycleBin());
   if (emptied) {
     m_report.freedBytes += result.bytes;
@@ -148,12 +171,12 @@ void CleanRun::emptyRecycleBin(const CategoryResult& result) {
     skip(name, name, SkipReason::CouldNotEmpty);
   }
   m_report.cleanedIds.append(result.def.id);
-  m_doneBytes += result.bytes;
+  deal(result.bytes, result.files);
 }
 
 void CleanRun::cleanItem(const CategoryResult& result, const CleanItem& item) {
-  m_progress(m_doneBytes, m_totalBytes, QDir::toNativeSeparators(item.path));
-  m_doneBytes += item.bytes;
+  tell(result.def.title, QDir::toNativeSeparators(item.path));
+  deal(item.bytes, item.files);
   // What can't be undone is said to be deleted, whatever the setting: emptying the Trash into the Trash frees nothing.
   const bool toTrash = m_order.moveToTrash && result.def.safety != Permanent;
   const CleanWork& work = m_works.emplace_back(workFor(item, result.def, toTrash));

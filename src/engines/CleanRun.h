@@ -26,7 +26,16 @@ class CleanRun {
     QList<QString> exclusions;
     Cleaner::Run kind = Cleaner::Run::ForReal;
   };
-  using Progress = std::function<void(qint64 done, qint64 total, const QString& path)>;
+  /// What was dealt with so far, of what was selected.
+  struct Step {
+    QString category; ///< title of the one at work; empty at the end
+    qint64 doneFiles = 0;
+    qint64 totalFiles = 0;
+    qint64 doneBytes = 0;
+    qint64 totalBytes = 0;
+    QString path; ///< in hand, in native separators
+  };
+  using Progress = std::function<void(const Step&)>;
 
   /// @param stopped  once raised, the item in hand is finished and nothing more is begun
   CleanRun(Order order, const CleanerWorld& world, const std::atomic<bool>& stopped, Progress progress);
@@ -64,6 +73,8 @@ class CleanRun {
   void end();
 
   [[nodiscard]] removal::Remover& removerFor(const CleanWork& work);
+  void tell(const QString& category, const QString& path);
+  void deal(qint64 bytes, qint64 files);
   void onKept(const removal::Node& node, removal::Kept kept);
   void onBusy(const removal::Stay& stay);
   void skip(const QString& sample, const LoggedPath& path, SkipReason reason, qint64 error = 0);
@@ -84,6 +95,5 @@ class CleanRun {
   std::vector<Retry> m_retries;
   std::vector<Done> m_done;
   QHash<QString, QByteArrayList> m_gone; ///< names that left a Trash, by the folder that they lay in
-  qint64 m_doneBytes = 0;
-  qint64 m_totalBytes = 0;
+  Step m_step;
 };

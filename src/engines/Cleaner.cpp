@@ -15,8 +15,10 @@ Cleaner::~Cleaner() = default;
 void Cleaner::start(const QList<CategoryResult>& results, bool moveToTrash, const QList<QString>& exclusions,
                     Run kind) {
   m_job.start([this, order = CleanRun::Order{results, moveToTrash, exclusions, kind}] {
-    CleanRun run(order, m_world, m_job.cancelled(),
-                 [this](qint64 done, qint64 total, const QString& path) { emit progress(done, total, path); });
+    CleanRun run(order, m_world, m_job.cancelled(), [this](const CleanRun::Step& step) {
+      emit filesProgress(step.category, step.doneFiles, step.totalFiles);
+      emit progress(step.doneBytes, step.totalBytes, step.path);
+    });
     emit finished(run.run());
   });
 }

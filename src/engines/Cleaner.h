@@ -42,7 +42,10 @@ class Cleaner : public QObject {
   [[nodiscard]] static QString logDir();
 
  signals:
-  // Both are emitted on the worker thread.
+  // All are emitted on the worker thread.
+  /// Before each progress(): title of the category at work, empty at the end, and files of the selected items dealt
+  /// with, of all.
+  void filesProgress(const QString& category, qint64 done, qint64 total);
   /// Selected bytes dealt with, of all; @p path in native separators.
   void progress(qint64 done, qint64 total, const QString& path);
   /// Exactly once a run.

@@ -80,7 +80,6 @@ class CategoryScan {
   void scanEntries(const ScanRoot& root, const Spelled& place) {
     for (const fs::Entry& entry : fs::list(place.realPath)) {
       if (m_scan.cancelled) return;
-      if (!entry.reachable) continue;
       if (!root.patterns.isEmpty() && !QDir::match(root.patterns, entry.name)) continue;
       if (root.ownOnly && entry.owner != ::geteuid()) continue;
       const Spelled full{fs::join(place.path, entry.name), fs::join(place.realPath, entry.name)};
@@ -88,13 +87,16 @@ class CategoryScan {
       if (m_result.def.id == u"temp" &&
           !categories::admits(entry, full.realPath, m_scan.admissionNow(), &m_scan.cancelled))
         continue;
-      scanEntry(entry, full);
+      scanEntry(place, entry, full);
     }
   }
 
-  void scanEntry(const fs::Entry& entry, const Spelled& full) {
-    const bool isFolder = entry.isDir && !entry.isSymlink;
-    const fs::Totals totals = isFolder ? measure(full.realPath) : fs::Totals{entry.allocated, 1, entry.modifiedMs};
+  void scanEntry(const Spelled& folder, const fs::Entry& entry, const Spelled& full) {
+    const fs::Totals totals = measureEntry(folder, entry, full);
+    if (!entry.reachable) { // no item: no path of ours leads to it
+      count(totals);
+      return;
+    }
     CleanItem item;
     item.name = entry.name;
     item.modified = std::max(entry.modifiedMs, totals.newestMs);
@@ -112,10 +114,14 @@ class CategoryScan {
     add(place, totals, std::move(item));
   }
 
-  /// Counts what was measured; only what holds bytes is an item.
-  void add(const Spelled& place, const fs::Totals& totals, CleanItem item) {
+  void count(const fs::Totals& totals) {
     m_scan.files += totals.files;
     m_bytes += totals.bytes;
+  }
+
+  /// Counts what was measured; only what holds bytes is an item.
+  void add(const Spelled& place, const fs::Totals& totals, CleanItem item) {
+    count(totals);
     if (totals.bytes < 1) return;
     item.path = place.path;
     item.bytes = totals.bytes;
@@ -125,12 +131,20 @@ class CategoryScan {
     m_result.items.append(std::move(item));
   }
 
-  fs::Totals measure(const QString& path) {
-    return fs::measure(path, m_scan.cancelled, [this](const QString& folder, qint64 bytes, qint64 files) {
+  fs::Totals measureEntry(const Spelled& folder, const fs::Entry& entry, const Spelled& full) {
+    if (!entry.isDir || entry.isSymlink) return {entry.allocated, 1, entry.modifiedMs};
+    if (entry.reachable) return measure(full.realPath);
+    return fs::measureEntry(folder.realPath, entry.rawName, m_scan.cancelled, throttled());
+  }
+
+  fs::Totals measure(const QString& path) { return fs::measure(path, m_scan.cancelled, throttled()); }
+
+  fs::Progress throttled() {
+    return [this](const QString& folder, qint64 bytes, qint64 files) {
       if (m_timer.elapsed() < kBetweenProgress.count()) return;
       m_timer.restart();
       m_scan.report(m_scan.bytesBefore + m_bytes + bytes, m_scan.files + files, folder);
-    });
+    };
   }
 
   CategoryResult recycleBin() {

@@ -15,6 +15,8 @@
 inline const QString kThumbs = QStringLiteral("thumbs"); ///< rated Safe
 inline const QString kUpdate = QStringLiteral("update"); ///< rated Review
 
+inline constexpr int kPatienceMs = 60'000; ///< for what takes a moment on any machine
+
 /// A category with one item.
 inline CategoryResult found(const QString& id, qint64 bytes, Safety safety = Safe) {
   CategoryResult made;
@@ -60,8 +62,15 @@ class FlowTest : public QObject {
     m_home->file(QStringLiteral(".cache/thumbnails/normal/2.png"), 10'000);
     m_home->file(QStringLiteral("Downloads/a.deb"), 50'000);
     m_home->file(QStringLiteral("Downloads/b.deb"), 30'000);
-    m_state = std::make_unique<AppState>();
+    m_state = newState();
   }
+  /// A state whose cleans have a lock of their own, so that no test waits for another one.
+  [[nodiscard]] std::unique_ptr<AppState> newState() const {
+    CleanerWorld world;
+    world.lockPath = cleanLock();
+    return std::make_unique<AppState>(nullptr, world);
+  }
+  [[nodiscard]] QString cleanLock() const { return m_home->outside(QStringLiteral("clean.lock")); }
   void empty() {
     m_state.reset();
     m_home.reset();
@@ -69,13 +78,13 @@ class FlowTest : public QObject {
 
   void scan(const RunOptions& options = {}) {
     m_state->startScan(options);
-    QTRY_VERIFY(m_state->phase != AppState::Scanning);
-    QTRY_VERIFY(!m_state->scanner->isRunning());
+    QTRY_VERIFY_WITH_TIMEOUT(m_state->phase != AppState::Scanning, kPatienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_state->scanner->isRunning(), kPatienceMs);
   }
   void clean(const RunOptions& options = {}) {
     m_state->clean(options);
-    QTRY_VERIFY_WITH_TIMEOUT(m_state->phase != AppState::Cleaning, 30'000);
-    QTRY_VERIFY(!m_state->cleaner->isRunning());
+    QTRY_VERIFY_WITH_TIMEOUT(m_state->phase != AppState::Cleaning, kPatienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_state->cleaner->isRunning(), kPatienceMs);
   }
 
  private:

@@ -1,4 +1,3 @@
-// ctest: RESOURCE_LOCK clean
 // How the state starts, and the flow of a scan: what each signal does to it, and real runs over real files.
 #include "FlowTest.h"
 
@@ -204,7 +203,7 @@ void tst_AppState_scan::startDuringAScanChangesNothing() {
   QCOMPARE(m_state->scanBytes, 77);
   QCOMPARE(m_state->scanPath, u"/seen"_s);
   QCOMPARE(m_state->scanTimer.msecsSinceReference(), started);
-  QTRY_COMPARE(m_state->phase, AppState::Review);
+  QTRY_COMPARE_WITH_TIMEOUT(m_state->phase, AppState::Review, kPatienceMs);
   QVERIFY(m_state->result(kThumbs)->bytes > 0); // the first one's options hold
   QVERIFY(m_state->lastScan.isValid());
 }
@@ -217,7 +216,7 @@ void tst_AppState_scan::startBeforeTheEndIsHeardChangesNothing() {
   m_state->startScan({.only = {kUpdate}, .furtherExclusions = {}, .moveToTrash = {}, .recordLastScan = false});
   QCOMPARE(m_state->scanBytes, 77);
   QVERIFY(!m_state->scanner->isRunning());
-  QTRY_COMPARE(m_state->phase, AppState::Review);
+  QTRY_COMPARE_WITH_TIMEOUT(m_state->phase, AppState::Review, kPatienceMs);
   QVERIFY(m_state->result(kThumbs)->bytes > 0);
   QVERIFY(m_state->lastScan.isValid());
 }
@@ -231,21 +230,23 @@ void tst_AppState_scan::startDuringACleanChangesNothing() {
   QCOMPARE(m_state->phase, AppState::Cleaning);
   QCOMPARE(m_state->scanDefs.size(), defs.size());
   QCOMPARE(m_state->scanBytes, bytes);
-  QTRY_COMPARE(m_state->phase, AppState::Done);
+  QTRY_COMPARE_WITH_TIMEOUT(m_state->phase, AppState::Done, kPatienceMs);
 }
 
 void tst_AppState_scan::cancelRealScan() {
+  // On the worker, before its first category.
+  connect(
+      m_state->scanner, &Scanner::started, m_state.get(), [this] { m_state->cancelScan(); }, Qt::DirectConnection);
   m_state->startScan();
-  m_state->cancelScan();
   QCOMPARE(m_state->phase, AppState::Scanning); // it changes nothing by itself
-  QTRY_COMPARE(m_state->phase, AppState::Empty);
+  QTRY_COMPARE_WITH_TIMEOUT(m_state->phase, AppState::Empty, kPatienceMs);
   QVERIFY(m_state->results.isEmpty());
 }
 
 void tst_AppState_scan::unrecordedScan() {
   const QDateTime when(QDate(2025, 1, 2), QTime(3, 4));
   AppSettings::instance().setLastScan(when);
-  m_state = std::make_unique<AppState>();
+  m_state = newState();
   scan({.only = {}, .furtherExclusions = {}, .moveToTrash = {}, .recordLastScan = false});
   QCOMPARE(m_state->phase, AppState::Review);
   QCOMPARE(m_state->lastScan, when);

@@ -1,10 +1,8 @@
-// ctest: RESOURCE_LOCK clean
 // The clean without a terminal: what goes, what stays, what it reports, and how it ends.
 #include "app/AppSettings.h"
 #include "app/identity.h"
 #include "core/runlock.h"
-#include "support/CliRun.h"
-#include "support/SampleHome.h"
+#include "support/CliTest.h"
 
 #include <QDir>
 #include <QFile>
@@ -24,28 +22,21 @@ namespace {
 const QStringList kCleanKeys{u"cleanedIds"_s, u"dryRun"_s,       u"freedBytes"_s,  u"logPath"_s, u"mode"_s,
                              u"needsAdmin"_s, u"removedFiles"_s, u"runningApps"_s, u"skipped"_s, u"skippedSamples"_s};
 
-constexpr int kManyItems = 200;
-
 QStringList strings(const QJsonValue& array) {
   QStringList all;
   for (const QJsonValue& one : array.toArray()) all << one.toString();
   return all;
 }
 
-QByteArray contents(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
-class tst_cli_clean : public QObject {
+class tst_cli_clean : public CliTest {
   Q_OBJECT
 
  private slots:
   void initTestCase() { identity::apply(); }
-  void init();
-  void cleanup();
+  void init() { make(); }
+  void cleanup() { drop(); }
 
   void jsonShape();
   void deletesWhatIsSafe();
@@ -77,7 +68,6 @@ class tst_cli_clean : public QObject {
   void interruptedWhileCleaning();
 
  private:
-  [[nodiscard]] bool there(const QString& relative) const { return QFileInfo::exists(m_home->path(relative)); }
   [[nodiscard]] static CliRun clean(const QStringList& further) {
     return runCli(QStringList{u"clean"_s, u"--yes"_s} + further);
   }
@@ -88,20 +78,7 @@ class tst_cli_clean : public QObject {
   [[nodiscard]] QVariant stored(const QString& key) const {
     return QSettings(m_home->path(u".config/Tarnwick/Tarnwick.conf"_s), QSettings::IniFormat).value(key);
   }
-
-  std::unique_ptr<FixtureHome> m_home;
 };
-
-void tst_cli_clean::init() {
-  m_home = std::make_unique<FixtureHome>();
-  qputenv("TARNWICK_HOST", "linux");
-  fillSampleHome(*m_home);
-}
-
-void tst_cli_clean::cleanup() {
-  qunsetenv("TARNWICK_HOST");
-  m_home.reset();
-}
 
 void tst_cli_clean::jsonShape() {
   const CliRun run = clean({u"--json"_s, u"--delete"_s});
@@ -395,7 +372,7 @@ void tst_cli_clean::historyGrowsAndLastScanStays() {
 }
 
 void tst_cli_clean::refusedWhileAnotherCleans() {
-  const RunLock other;
+  const RunLock other(cleanLock());
   QCOMPARE(other.state(), RunLock::State::Held);
   const auto before = wholeTree(*m_home);
   const CliRun asJson = clean({u"--delete"_s, u"--json"_s});
@@ -443,11 +420,9 @@ void tst_cli_clean::reportThatCannotBeShown() {
 }
 
 void tst_cli_clean::interruptedWhileScanning() {
-  addManyItems(*m_home, kManyItems);
-  QProcess process;
-  startCli(&process, QStringList{u"clean"_s, u"--yes"_s, u"--delete"_s, u"--json"_s} + slowRules());
-  ::kill(static_cast<pid_t>(process.processId()), SIGINT);
-  const CliRun run = finish(&process);
+  const CliRun run = interrupt({.arguments = {u"clean"_s, u"--yes"_s, u"--delete"_s, u"--json"_s},
+                                .signal = SIGINT,
+                                .wasInTime = [this] { return there(u".cache/acme-notes/index"_s); }});
   QCOMPARE(run.code, 130);
   QCOMPARE(run.json().keys(), kCleanKeys);
   QCOMPARE(run.json()[u"freedBytes"_s].toInteger(), 0);
@@ -465,17 +440,17 @@ void tst_cli_clean::interruptedWhileCleaning_data() {
 
 void tst_cli_clean::interruptedWhileCleaning() {
   QFETCH(int, signal);
-  addManyItems(*m_home, kManyItems);
-  const int all = kManyItems + 1; // with the one that is there already
-  const QDir downloads(m_home->path(u"Downloads"_s));
-  const auto left = [&] { return static_cast<int>(downloads.entryList({u"*.deb"_s}, QDir::Files).size()); };
-  QProcess process;
-  startCli(&process,
-           QStringList{u"clean"_s, u"--yes"_s, u"--json"_s, u"--delete"_s, u"--only"_s, u"update,dev"_s} + slowRules());
-  while (left() == all && process.state() == QProcess::Running) process.waitForFinished(1);
-  QCOMPARE(process.state(), QProcess::Running);
-  ::kill(static_cast<pid_t>(process.processId()), signal);
-  const CliRun run = finish(&process);
+  int all = 0;
+  const auto left = [this] {
+    const QDir downloads(m_home->path(u"Downloads"_s));
+    return static_cast<int>(downloads.entryList({u"*.deb"_s}, QDir::Files).size());
+  };
+  const CliRun run =
+      interrupt({.arguments = {u"clean"_s, u"--yes"_s, u"--json"_s, u"--delete"_s, u"--only"_s, u"update,dev"_s},
+                 .signal = signal,
+                 .isMidway = [&] { return left() < all; },
+                 .wasInTime = [&] { return left() > 0; }},
+                &all);
   QCOMPARE(run.code, 130);
   const int stayed = left();
   QVERIFY2(stayed > 0 && stayed < all, qPrintable(QString::number(stayed)));

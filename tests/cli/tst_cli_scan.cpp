@@ -1,8 +1,7 @@
 // The scan: its table, its JSON, what it leaves alone, and how it ends.
 #include "app/AppSettings.h"
 #include "app/identity.h"
-#include "support/CliRun.h"
-#include "support/SampleHome.h"
+#include "support/CliTest.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -45,13 +44,13 @@ qint64 allocated(const QString& path) {
 
 } // namespace
 
-class tst_cli_scan : public QObject {
+class tst_cli_scan : public CliTest {
   Q_OBJECT
 
  private slots:
   void initTestCase() { identity::apply(); }
-  void init();
-  void cleanup();
+  void init() { make(); }
+  void cleanup() { drop(); }
 
   void jsonShape();
   void jsonFigures();
@@ -76,20 +75,7 @@ class tst_cli_scan : public QObject {
   [[nodiscard]] QJsonObject scanned(const QStringList& further = {}) const {
     return runCli(QStringList{u"scan"_s, u"--json"_s} + further).json();
   }
-
-  std::unique_ptr<FixtureHome> m_home;
 };
-
-void tst_cli_scan::init() {
-  m_home = std::make_unique<FixtureHome>();
-  qputenv("TARNWICK_HOST", "linux");
-  fillSampleHome(*m_home);
-}
-
-void tst_cli_scan::cleanup() {
-  qunsetenv("TARNWICK_HOST");
-  m_home.reset();
-}
 
 void tst_cli_scan::jsonShape() {
   const CliRun run = runCli({u"scan"_s, u"--json"_s});
@@ -280,11 +266,7 @@ void tst_cli_scan::interrupted_data() {
 
 void tst_cli_scan::interrupted() {
   QFETCH(int, signal);
-  addManyItems(*m_home, kManyItems);
-  QProcess process;
-  startCli(&process, QStringList{u"scan"_s, u"--json"_s} + slowRules());
-  ::kill(static_cast<pid_t>(process.processId()), signal);
-  const CliRun run = finish(&process);
+  const CliRun run = interrupt({.arguments = {u"scan"_s, u"--json"_s}, .signal = signal});
   QCOMPARE(run.code, 130);
   QVERIFY(run.err.startsWith("tarnwick-cli: "));
   const QJsonObject scan = run.json();
@@ -299,11 +281,7 @@ void tst_cli_scan::interrupted() {
 }
 
 void tst_cli_scan::interruptedWithoutJson() {
-  addManyItems(*m_home, kManyItems);
-  QProcess process;
-  startCli(&process, QStringList{u"scan"_s} + slowRules());
-  ::kill(static_cast<pid_t>(process.processId()), SIGINT);
-  const CliRun run = finish(&process);
+  const CliRun run = interrupt({.arguments = {u"scan"_s}, .signal = SIGINT});
   QCOMPARE(run.code, 130);
   QCOMPARE(run.out, QByteArray());
   QVERIFY(run.err.contains("cancelled"));

@@ -1,11 +1,7 @@
-// ctest: RESOURCE_LOCK clean
 // Settings that can't be read: without the user's rules nothing is cleaned.
-#include "support/CliRun.h"
-#include "support/SampleHome.h"
+#include "support/CliTest.h"
 
-#include <QDir>
 #include <QFile>
-#include <QScopeGuard>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -14,16 +10,14 @@ namespace {
 const QString kStore = u".config/Tarnwick/Tarnwick.conf"_s;
 } // namespace
 
-class tst_cli_settings : public QObject {
+class tst_cli_settings : public CliTest {
   Q_OBJECT
 
  private slots:
-  void initTestCase() { qputenv("TARNWICK_HOST", "linux"); }
+  void init() { make(); }
+  void cleanup() { drop(); }
   void unreadable_data();
   void unreadable();
-
- private:
-  FixtureHome m_home;
 };
 
 void tst_cli_settings::unreadable_data() {
@@ -39,21 +33,19 @@ void tst_cli_settings::unreadable_data() {
 void tst_cli_settings::unreadable() {
   QFETCH(QByteArray, text);
   QFETCH(QStringList, further);
-  fillSampleHome(m_home);
   if (text.isEmpty()) {
-    m_home.folder(kStore);
+    m_home->folder(kStore);
   } else {
-    QFile file(m_home.file(kStore));
+    QFile file(m_home->file(kStore));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(text);
   }
-  const auto remove = qScopeGuard([this] { QDir(m_home.path(u".config/Tarnwick"_s)).removeRecursively(); });
-  const auto before = wholeTree(m_home);
+  const auto before = wholeTree(*m_home);
   const CliRun run = runCli(QStringList{u"clean"_s, u"--yes"_s} + further);
   QCOMPARE(run.code, 1);
   QCOMPARE(run.err, QByteArray("tarnwick-cli: The settings can't be read, so the rules on what to keep are unknown. "
                                "Nothing was cleaned.\n"));
-  QCOMPARE(wholeTree(m_home), before);
+  QCOMPARE(wholeTree(*m_home), before);
 }
 
 QTEST_GUILESS_MAIN(tst_cli_settings)

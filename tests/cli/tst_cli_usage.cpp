@@ -1,11 +1,12 @@
 // What the program makes of its arguments: help, version, and words for every mistake.
-#include "support/CliRun.h"
-#include "support/SampleHome.h"
+#include "core/runlock.h"
+#include "support/CliTest.h"
 
 #include <QFile>
 #include <QTest>
 
 #include <cerrno>
+#include <optional>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -14,12 +15,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int kManyItems = 1'000; // more of them than a pipe takes at once
+
+// The home folder lies six levels below the root.
+constexpr const char* kToRoot = "~/../../../../../..";
+constexpr const char* kAboveRoot = "~/../../../../../../../keep";
 } // namespace
 
-class tst_cli_usage : public QObject {
+class tst_cli_usage : public CliTest {
   Q_OBJECT
 
  private slots:
+  void init() { make(); }
+  void cleanup() { drop(); }
+
   void version_data();
   void version();
   void help_data();
@@ -35,9 +43,7 @@ class tst_cli_usage : public QObject {
   void readerThatTakesItsTime();
   void readerThatWentAway();
   void closedDescriptors();
-
- private:
-  FixtureHome m_home;
+  void theShippedProgramTakesTheUsersLock();
 };
 
 void tst_cli_usage::version_data() {
@@ -116,8 +122,9 @@ void tst_cli_usage::mistakes_data() {
   row("clean --yes --exclude keep/this", "'keep/this'");
   row("clean --yes --exclude ./keep", "'./keep'");
   row("clean --yes --exclude ?/keep", "'?/keep'");
-  for (const char* rule : {"/", "//", "/.", "/..", "/../keep", "/a/..", ".", "..", "~other/keep", "~keep", "~*", "*/.",
-                           "**/..", "**/../keep", "/a/*/../keep", "~/*/.."})
+  for (const char* rule :
+       {"/", "//", "/.", "/..", "/../keep", "/a/..", ".", "..", "~other/keep", "~keep", "~*", "*/.", "**/..",
+        "**/../keep", "/a/*/../keep", "~/*/..", kToRoot, kAboveRoot, "~/../../../../../../.."})
     QTest::addRow("clean --yes --exclude %s", rule)
         << QStringList{u"clean"_s, u"--yes"_s, u"--exclude"_s, QString::fromLatin1(rule)}
         << u"'%1' matches nothing"_s.arg(QLatin1String(rule));
@@ -141,19 +148,17 @@ void tst_cli_usage::mistakes() {
 }
 
 void tst_cli_usage::mistakesTouchNothing() {
-  fillSampleHome(m_home);
-  const auto before = wholeTree(m_home);
+  const auto before = wholeTree(*m_home);
   QCOMPARE(runCli({u"clean"_s, u"--yes"_s, u"--delete"_s, u"--only"_s, u""_s}).code, 2);
   QCOMPARE(runCli({u"clean"_s, u"--yes"_s, u"--delete"_s, u"--exclude"_s, u"  "_s}).code, 2);
   QCOMPARE(runCli({u"clean"_s, u"--yes"_s, u"--dleete"_s}).code, 2);
   const CliRun escaped = runCli({u"clean"_s, u"--yes"_s, u"\x1b[31m"_s});
   QVERIFY(!escaped.err.contains('\x1b'));
-  QCOMPARE(wholeTree(m_home), before);
+  QCOMPARE(wholeTree(*m_home), before);
 }
 
 void tst_cli_usage::noTerminalNoYes() {
-  fillSampleHome(m_home);
-  const auto before = wholeTree(m_home);
+  const auto before = wholeTree(*m_home);
   for (const QStringList& further : {QStringList{}, QStringList{u"--json"_s}, QStringList{u"--delete"_s}}) {
     const CliRun run = runCli(QStringList{u"clean"_s} + further);
     QCOMPARE(run.code, 2);
@@ -161,7 +166,7 @@ void tst_cli_usage::noTerminalNoYes() {
     QVERIFY(run.err.startsWith("tarnwick-cli: "));
     QVERIFY(run.err.contains("--yes"));
   }
-  QCOMPARE(wholeTree(m_home), before);
+  QCOMPARE(wholeTree(*m_home), before);
 }
 
 void tst_cli_usage::quietWhateverTheLocale() {
@@ -194,8 +199,7 @@ void tst_cli_usage::outputThatGoesNowhere() {
 }
 
 void tst_cli_usage::readerThatTakesItsTime() {
-  fillSampleHome(m_home);
-  addManyItems(m_home, kManyItems);
+  addManyItems(*m_home, kManyItems);
   int ends[2] = {-1, -1};
   QCOMPARE(::pipe(ends), 0);
   QCOMPARE(::fcntl(ends[1], F_SETFL, O_NONBLOCK), 0);
@@ -230,8 +234,7 @@ void tst_cli_usage::readerThatWentAway() {
 }
 
 void tst_cli_usage::closedDescriptors() {
-  fillSampleHome(m_home);
-  const auto before = wholeTree(m_home);
+  const auto before = wholeTree(*m_home);
   QProcess process;
   process.setChildProcessModifier([] {
     ::close(STDIN_FILENO);
@@ -241,7 +244,19 @@ void tst_cli_usage::closedDescriptors() {
   const CliRun run = finish(&process);
   QCOMPARE(run.code, 1);
   QVERIFY2(run.err.contains("Bad file descriptor"), run.err.constData());
-  QCOMPARE(wholeTree(m_home), before); // what can't be shown isn't done
+  QCOMPARE(wholeTree(*m_home), before); // what can't be shown isn't done
+}
+
+void tst_cli_usage::theShippedProgramTakesTheUsersLock() {
+  const auto before = wholeTree(*m_home);
+  std::optional<RunLock> lock;
+  QTRY_VERIFY_WITH_TIMEOUT((lock.emplace(), lock->state() == RunLock::State::Held), 60'000);
+  QProcess process;
+  process.start(shippedProgram(), {u"clean"_s, u"--yes"_s, u"--delete"_s});
+  const CliRun run = finish(&process);
+  QCOMPARE(run.code, 1);
+  QCOMPARE(run.err, QByteArray("tarnwick-cli: Another cleanup is already running.\n"));
+  QCOMPARE(wholeTree(*m_home), before);
 }
 
 QTEST_GUILESS_MAIN(tst_cli_usage)

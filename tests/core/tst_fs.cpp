@@ -229,6 +229,8 @@ void TestFs::tellsNamesThatAreNoText() {
   QCOMPARE(entries.size(), 2);
   QCOMPARE(entries[0].name, entries[1].name);
   QVERIFY(entries[0].reachable != entries[1].reachable);
+  for (const fs::Entry& entry : entries)
+    QCOMPARE(entry.rawName, entry.reachable ? QByteArray() : QByteArray("caf\xe9"));
   fs::Entry found;
   QVERIFY(fs::stat(fs::join(dir, entries[0].name), &found));
   QCOMPARE(found.inode, entries[entries[0].reachable ? 0 : 1].inode);

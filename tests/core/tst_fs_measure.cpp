@@ -58,6 +58,7 @@ class TestFsMeasure : public QObject {
   void seesTreesBeyondThePathLimit();
   void seesNamesOfBothForms();
   void seesNamesThatAreNoText();
+  void measuresAnEntryByItsBytes();
   void endsWhereAFolderWasMoved();
   void runsOnManyThreads();
 
@@ -336,6 +337,28 @@ void TestFsMeasure::seesNamesThatAreNoText() {
     trees::touch(dir + name + "/\xff\xff/file");
   }
   QCOMPARE(fs::measure(m_home.path(u"no text"_s), kNever).files, qint64{6});
+}
+
+void TestFsMeasure::measuresAnEntryByItsBytes() {
+  const QString dir = m_home.folder(u"by bytes"_s);
+  const QByteArray odd = trees::raw(dir) + "/caf\xe9";
+  QCOMPARE(::mkdir(odd.constData(), 0755), 0);
+  for (int i = 0; i < 400; ++i) trees::touch(odd + '/' + QByteArray::number(i));
+  m_home.file(u"by bytes/plain"_s, 8192);
+  QCOMPARE(::rename(trees::raw(m_home.path(u"by bytes/plain"_s)).constData(), (odd + "/\xff").constData()), 0);
+  QCOMPARE(::symlink(odd.constData(), (odd + "-link").constData()), 0);
+  QStringList told;
+  const auto tell = [&](const QString& folder, qint64, qint64) { told << folder; };
+  const fs::Totals totals = fs::measureEntry(dir, "caf\xe9", kNever, tell);
+  QCOMPARE(totals.files, qint64{401});
+  QCOMPARE(totals.bytes, qint64{8192});
+  QVERIFY(totals.newestMs > 0);
+  QCOMPARE(told, QStringList{dir + u"/caf\ufffd"_s});
+  QCOMPARE(fs::measureEntry(dir, "caf\xe9-link", kNever).files, qint64{1});
+  QCOMPARE(fs::measureEntry(dir, "missing", kNever), fs::Totals());
+  QCOMPARE(fs::measureEntry(m_home.path(u"missing"_s), "x", kNever), fs::Totals());
+  const std::atomic<bool> cancelled{true};
+  QCOMPARE(fs::measureEntry(dir, "caf\xe9", cancelled), fs::Totals());
 }
 
 void TestFsMeasure::endsWhereAFolderWasMoved() {

@@ -19,6 +19,9 @@ class CleanBench {
     qint64 done;
     qint64 total;
     QString path;
+    QString category; ///< this and the files come before the others
+    qint64 doneFiles;
+    qint64 totalFiles;
   };
 
   CleanBench() : proc(home) {
@@ -67,9 +70,17 @@ class CleanBench {
     progress.clear();
     waits.clear();
     QObject::connect(
+        cleaner, &Cleaner::filesProgress, cleaner,
+        [this](const QString& category, qint64 done, qint64 total) {
+          progress << Progress{-1, -1, {}, category, done, total};
+        },
+        direct);
+    QObject::connect(
         cleaner, &Cleaner::progress, cleaner,
         [this](qint64 done, qint64 total, const QString& path) {
-          progress << Progress{done, total, path};
+          progress.last().done = done;
+          progress.last().total = total;
+          progress.last().path = path;
           if (onProgress) onProgress(path);
         },
         direct);

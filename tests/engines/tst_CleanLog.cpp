@@ -1,7 +1,6 @@
 // The log of a clean: its place, its file, and each kind of line.
-#include "app/records.h"
-#include "engines/CleanBench.h"
 #include "engines/CleanLog.h"
+#include "engines/CleanTest.h"
 
 #include <QDir>
 #include <QStandardPaths>
@@ -10,23 +9,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 
-class tst_CleanLog : public QObject {
+class tst_CleanLog : public CleanTest {
   Q_OBJECT
 
  private slots:
-  void initTestCase() { records::registerMetaTypes(); }
-  void init() {
-    qputenv("TARNWICK_HOST", "linux");
-    m_bench = std::make_unique<CleanBench>();
-  }
+  void init() { make(); }
   void cleanup() {
-    m_bench.reset();
+    drop();
     QStandardPaths::setTestModeEnabled(false);
-    qunsetenv("TARNWICK_HOST");
     qunsetenv("XDG_DATA_HOME");
   }
 
@@ -63,8 +55,6 @@ class tst_CleanLog : public QObject {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
   }
-
-  std::unique_ptr<CleanBench> m_bench;
 };
 
 void tst_CleanLog::folder() {

@@ -1,7 +1,6 @@
 // The course of a clean: what goes, what is counted and told, and what a dry run tells of it.
-#include "app/records.h"
 #include "core/runlock.h"
-#include "engines/CleanBench.h"
+#include "engines/CleanTest.h"
 #include "engines/ScanRun.h"
 #include "engines/Scanner.h"
 #include "support/Arrivals.h"
@@ -12,23 +11,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 
-class tst_Cleaner : public QObject {
+class tst_Cleaner : public CleanTest {
   Q_OBJECT
 
  private slots:
-  void initTestCase() { records::registerMetaTypes(); }
-  void init() {
-    qputenv("TARNWICK_HOST", "linux");
-    m_bench = std::make_unique<CleanBench>();
-  }
-  void cleanup() {
-    m_bench.reset();
-    qunsetenv("TARNWICK_HOST");
-  }
+  void init() { make(); }
+  void cleanup() { drop(); }
 
   void deletes();
   void movesToTheTrash();
@@ -54,9 +44,6 @@ class tst_Cleaner : public QObject {
   void cleansWhatAScanFound_data();
   void cleansWhatAScanFound();
   void emptyOrder();
-
- private:
-  std::unique_ptr<CleanBench> m_bench;
 };
 
 void tst_Cleaner::deletes() {
@@ -299,7 +286,13 @@ void tst_Cleaner::progressCountsEverything() {
   QCOMPARE(told[3].done, 24576);
   QCOMPARE((QStringList{told[0].path, told[1].path, told[2].path, told[3].path}),
            (QStringList{one.path, excluded.path, three.path, QString()}));
-  for (const auto& step : told) QCOMPARE(step.total, 24576);
+  QCOMPARE((QStringList{told[0].category, told[1].category, told[2].category, told[3].category}),
+           (QStringList{u"X"_s, u"X"_s, u"Y"_s, QString()}));
+  for (int i = 0; i < 4; ++i) QCOMPARE(told[i].doneFiles, i);
+  for (const auto& step : told) {
+    QCOMPARE(step.total, 24576);
+    QCOMPARE(step.totalFiles, 3);
+  }
 }
 
 void tst_Cleaner::dryRunTouchesNothing() {

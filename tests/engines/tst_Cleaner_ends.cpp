@@ -1,7 +1,6 @@
 // What a clean does with what stays, how it ends early, and when it isn't begun.
-#include "app/records.h"
 #include "core/runlock.h"
-#include "engines/CleanBench.h"
+#include "engines/CleanTest.h"
 #include "engines/Unprivileged.h"
 
 #include <QDir>
@@ -11,23 +10,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 
-class tst_Cleaner_ends : public QObject {
+class tst_Cleaner_ends : public CleanTest {
   Q_OBJECT
 
  private slots:
-  void initTestCase() { records::registerMetaTypes(); }
-  void init() {
-    qputenv("TARNWICK_HOST", "linux");
-    m_bench = std::make_unique<CleanBench>();
-  }
-  void cleanup() {
-    m_bench.reset();
-    qunsetenv("TARNWICK_HOST");
-  }
+  void init() { make(); }
+  void cleanup() { drop(); }
 
   void retriesAfterGrowingWaits();
   void retrySucceedsAndPrunes();
@@ -62,7 +52,6 @@ class tst_Cleaner_ends : public QObject {
   void unstick() const { ::chmod(m_stuckFolder.constData(), 0700); }
 
   QByteArray m_stuckFolder;
-  std::unique_ptr<CleanBench> m_bench;
 };
 
 void tst_Cleaner_ends::retriesAfterGrowingWaits() {

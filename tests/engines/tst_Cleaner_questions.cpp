@@ -1,6 +1,5 @@
 // What a clean asks again before anything goes, of the item and of all that lies in it.
-#include "app/records.h"
-#include "engines/CleanBench.h"
+#include "engines/CleanTest.h"
 
 #include <QDir>
 #include <QTest>
@@ -8,23 +7,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 
-class tst_Cleaner_questions : public QObject {
+class tst_Cleaner_questions : public CleanTest {
   Q_OBJECT
 
  private slots:
-  void initTestCase() { records::registerMetaTypes(); }
-  void init() {
-    qputenv("TARNWICK_HOST", "linux");
-    m_bench = std::make_unique<CleanBench>();
-  }
-  void cleanup() {
-    m_bench.reset();
-    qunsetenv("TARNWICK_HOST");
-  }
+  void init() { make(); }
+  void cleanup() { drop(); }
 
   void excludedItem();
   void protectedDataItem();
@@ -41,8 +31,9 @@ class tst_Cleaner_questions : public QObject {
   void trashAsksExclusionsOfTheItem();
   void openFile_data();
   void openFile();
-  void workingFolder_data();
-  void workingFolder();
+  void folderInUse_data();
+  void folderInUse();
+  void folderInUseAboveTheItems();
   void openFileOfOddName();
   void linkedRootAsksBothSpellings_data();
   void linkedRootAsksBothSpellings();
@@ -56,20 +47,6 @@ class tst_Cleaner_questions : public QObject {
   void ownLogStays_data();
   void ownLogStays();
   void ownLogStaysUnderAnotherPath();
-
- private:
-  [[nodiscard]] QString at(const QString& relative) const { return m_bench->home.path(relative); }
-  void open(const QString& path) {
-    m_bench->proc.addProcess(812, u"/"_s);
-    m_bench->proc.addOpenFile(812, path);
-  }
-  static void modes() {
-    QTest::addColumn<bool>("toTrash");
-    QTest::newRow("delete") << false;
-    QTest::newRow("trash") << true;
-  }
-
-  std::unique_ptr<CleanBench> m_bench;
 };
 
 void tst_Cleaner_questions::excludedItem() {
@@ -246,17 +223,50 @@ void tst_Cleaner_questions::openFile() {
   if (toTrash) QCOMPARE(m_bench->trashed(), (QStringList{u"more"_s, u"other"_s}));
 }
 
-void tst_Cleaner_questions::workingFolder_data() { modes(); }
+void tst_Cleaner_questions::folderInUse_data() {
+  QTest::addColumn<bool>("toTrash");
+  QTest::addColumn<bool>("works");
+  QTest::newRow("worked in, delete") << false << true;
+  QTest::newRow("worked in, trash") << true << true;
+  QTest::newRow("held open, delete") << false << false;
+  QTest::newRow("held open, trash") << true << false;
+}
 
-void tst_Cleaner_questions::workingFolder() {
+// It stays where it is, for the process to find it again, and keeps nothing in it but what is open itself.
+void tst_Cleaner_questions::folderInUse() {
   QFETCH(bool, toTrash);
-  m_bench->home.file(u"a/top/work/file"_s);
+  QFETCH(bool, works);
+  const QString work = at(u"a/top/work"_s);
+  const QString used = m_bench->home.file(u"a/top/work/used"_s);
+  m_bench->home.file(u"a/top/work/sub/file"_s);
   m_bench->home.file(u"a/top/other"_s);
-  m_bench->proc.addProcess(812, at(u"a/top/work"_s));
-  m_bench->run({CleanBench::category(u"x"_s, {CleanBench::item(at(u"a/top"_s))})}, toTrash);
-  QVERIFY(CleanBench::isThere(at(u"a/top/work/file"_s)));
+  m_bench->proc.addProcess(812, works ? work : u"/"_s);
+  if (!works) m_bench->proc.addOpenFile(812, work);
+  m_bench->proc.addOpenFile(812, used);
+  const QList<CategoryResult> results = {CleanBench::category(u"x"_s, {CleanBench::item(at(u"a/top"_s))})};
+  const QStringList told = {u"SKIPPED  %1  (open in an app)"_s.arg(used), u"SKIPPED  %1  (open in an app)"_s.arg(work)};
+  m_bench->runDry(results, toTrash);
+  QCOMPARE(m_bench->lines("SKIPPED"), told);
+  QCOMPARE(m_bench->report.freedBytes, 8192);
+  m_bench->run(results, toTrash);
+  QVERIFY(CleanBench::isThere(used));
+  QVERIFY(!CleanBench::isThere(at(u"a/top/work/sub"_s)));
   QVERIFY(!CleanBench::isThere(at(u"a/top/other"_s)));
-  QCOMPARE(m_bench->lines("SKIPPED"), QStringList{u"SKIPPED  %1  (open in an app)"_s.arg(at(u"a/top/work"_s))});
+  QCOMPARE(m_bench->lines("SKIPPED"), told);
+  QCOMPARE(m_bench->report.skipped, 2);
+  QCOMPARE(m_bench->report.freedBytes, 8192);
+  QCOMPARE(m_bench->waits, QList<int>());
+}
+
+// A shell that stands in the folder of all caches, or in a cache, keeps none of them.
+void tst_Cleaner_questions::folderInUseAboveTheItems() {
+  m_bench->home.file(u".cache/mine/file"_s);
+  m_bench->proc.addProcess(812, at(u".cache"_s));
+  m_bench->proc.addProcess(813, at(u".cache/mine"_s));
+  m_bench->run({CleanBench::category(u"appcache"_s, {CleanBench::item(at(u".cache/mine"_s), true)})});
+  QVERIFY(!CleanBench::isThere(at(u".cache/mine/file"_s)));
+  QVERIFY(CleanBench::isThere(at(u".cache/mine"_s)));
+  QCOMPARE(m_bench->lines("SKIPPED"), QStringList());
 }
 
 void tst_Cleaner_questions::openFileOfOddName() {

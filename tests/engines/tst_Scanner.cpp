@@ -1,60 +1,25 @@
 // What a scan lists: which entries become items, and with which figures.
-#include "app/records.h"
 #include "core/fs.h"
-#include "engines/ProcStandIn.h"
-#include "engines/ScanRun.h"
+#include "engines/ScanTest.h"
 #include "engines/Unprivileged.h"
 #include "engines/categories.h"
-#include "support/FixtureHome.h"
 
 #include <QDateTime>
 #include <QDir>
-#include <QElapsedTimer>
-#include <QSemaphore>
 #include <QTest>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// A catalogue of one category with these roots.
-CategoryDef categoryOf(const QString& id, const QList<ScanRoot>& roots) {
-  CategoryDef def;
-  def.id = id;
-  def.roots = roots;
-  return def;
-}
-
-ScanRoot rootOf(const QString& path, const QString& label = {}) {
-  ScanRoot root;
-  root.path = path;
-  root.label = label;
-  return root;
-}
-
-} // namespace
-
-class tst_Scanner : public QObject {
+class tst_Scanner : public ScanTest {
   Q_OBJECT
 
  private slots:
-  void initTestCase() { records::registerMetaTypes(); }
-  void init() {
-    qputenv("TARNWICK_HOST", "linux");
-    m_home = std::make_unique<FixtureHome>();
-    m_proc = std::make_unique<ProcStandIn>(*m_home);
-  }
-  void cleanup() {
-    m_proc.reset();
-    m_home.reset();
-    qunsetenv("TARNWICK_HOST");
-  }
+  void init() { make(); }
+  void cleanup() { drop(); }
 
   void listedRoot_data();
   void listedRoot();
@@ -78,35 +43,13 @@ class tst_Scanner : public QObject {
   void linkedRootAsksBothSpellings_data();
   void linkedRootAsksBothSpellings();
   void nameThatIsNoTextIsNoItem();
+  void nameThatIsNoTextIsCounted_data();
+  void nameThatIsNoTextIsCounted();
   void linksAreNotFollowed();
   void onlyOwnWhereTheRootAsks();
   void tempIsAdmittedEntryByEntry();
   void tempOnMacTakesAll();
   void trashAsksExclusionsOfTheItemAlone();
-
- private:
-  [[nodiscard]] ScannerWorld world() const {
-    ScannerWorld bent;
-    bent.sources.procRoot = m_proc->root();
-    return bent;
-  }
-  [[nodiscard]] ScannerWorld worldWith(const QList<CategoryDef>& defs) const {
-    ScannerWorld bent = world();
-    bent.catalogue = [defs] { return defs; };
-    return bent;
-  }
-  void scan(ScanRun* run, const QStringList& exclusions = {}, const QStringList& only = {}) const {
-    Scanner scanner(nullptr, world());
-    run->run(&scanner, exclusions, only);
-  }
-  void scanCatalogue(ScanRun* run, const QList<CategoryDef>& defs, const QStringList& exclusions = {}) const {
-    Scanner scanner(nullptr, worldWith(defs));
-    run->run(&scanner, exclusions);
-  }
-  void makeOld(const QString& path) const { FixtureHome::age(path, QDateTime::currentDateTime().addDays(-2)); }
-
-  std::unique_ptr<FixtureHome> m_home;
-  std::unique_ptr<ProcStandIn> m_proc;
 };
 
 void tst_Scanner::listedRoot_data() {
@@ -395,6 +338,41 @@ void tst_Scanner::nameThatIsNoTextIsNoItem() {
   for (const CleanItem& item : run.category(u"trash"_s).items)
     if (item.path.startsWith(folder)) own << item.name;
   QCOMPARE(own, QStringList{u"plain"_s});
+}
+
+void tst_Scanner::nameThatIsNoTextIsCounted_data() {
+  QTest::addColumn<QStringList>("patterns");
+  QTest::addColumn<QStringList>("rules");
+  QTest::addColumn<int>("files");
+  QTest::newRow("all") << QStringList{} << QStringList{} << 4;
+  QTest::newRow("by pattern") << QStringList{u"*.deb"_s} << QStringList{} << 3;
+  QTest::newRow("by a rule") << QStringList{} << QStringList{u"odd?-folder.deb"_s} << 2;
+}
+
+// Among the files; what it holds is no item's, so the bytes stay the sum over the items.
+void tst_Scanner::nameThatIsNoTextIsCounted() {
+  QFETCH(QStringList, patterns);
+  QFETCH(QStringList, rules);
+  QFETCH(int, files);
+  m_home->file(u"a/plain.deb"_s, 4096);
+  const QByteArray odd = m_home->path(u"a"_s).toUtf8() + "/odd\xff";
+  const auto write = [](const QByteArray& path) {
+    const int fd = ::open(path.constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600);
+    QCOMPARE(::write(fd, "x", 1), 1);
+    ::close(fd);
+  };
+  write(odd);
+  QCOMPARE(::mkdir((odd + "-folder.deb").constData(), 0700), 0);
+  write(odd + "-folder.deb/one");
+  write(odd + "-folder.deb/two\xfe");
+  ScanRoot root = rootOf(m_home->path(u"a"_s));
+  root.patterns = patterns;
+  ScanRun run;
+  scanCatalogue(&run, QList<CategoryDef>{categoryOf(u"x"_s, {root})}, rules);
+  QCOMPARE(run.names(u"x"_s), QStringList{u"plain.deb"_s});
+  QCOMPARE(run.category(u"x"_s).files, files);
+  QCOMPARE(run.category(u"x"_s).bytes, 4096);
+  QCOMPARE(run.progress.last().files, files);
 }
 
 void tst_Scanner::linksAreNotFollowed() {

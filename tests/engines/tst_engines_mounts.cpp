@@ -1,6 +1,5 @@
 // Mounts in what is scanned and cleaned, bind mounts too, and volumes that have no Trash.
-#include "app/records.h"
-#include "engines/CleanBench.h"
+#include "engines/CleanTest.h"
 #include "engines/Mounts.h"
 #include "engines/ScanRun.h"
 #include "engines/Scanner.h"
@@ -8,15 +7,13 @@
 
 #include <QTest>
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 bool g_mayMount = false;
 }
 
-class tst_engines_mounts : public QObject {
+class tst_engines_mounts : public CleanTest {
   Q_OBJECT
 
  public:
@@ -25,16 +22,9 @@ class tst_engines_mounts : public QObject {
  private slots:
   void initTestCase() {
     if (!g_mayMount) QSKIP("no permission to mount anything here");
-    records::registerMetaTypes();
   }
-  void init() {
-    qputenv("TARNWICK_HOST", "linux");
-    m_bench = std::make_unique<CleanBench>();
-  }
-  void cleanup() {
-    m_bench.reset();
-    qunsetenv("TARNWICK_HOST");
-  }
+  void init() { make(); }
+  void cleanup() { drop(); }
 
   void mountBelowStays_data();
   void mountBelowStays();
@@ -45,11 +35,6 @@ class tst_engines_mounts : public QObject {
   void cacheMountIsLeftAlone();
   void tempMountIsNotAdmitted();
   void scanStaysOnTheDevice();
-
- private:
-  [[nodiscard]] QString at(const QString& relative) const { return m_bench->home.path(relative); }
-
-  std::unique_ptr<CleanBench> m_bench;
 };
 
 void tst_engines_mounts::mountBelowStays_data() {

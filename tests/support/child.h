@@ -9,6 +9,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstddef>
 #include <functional>
 
@@ -22,6 +23,9 @@ inline int run(const char* folder, const std::function<int()>& body) {
   if (pid < 0 || ::waitpid(pid, &status, 0) != pid || !WIFEXITED(status)) return -1;
   return WEXITSTATUS(status);
 }
+
+/// For a QProcess's child process modifier: the child ends when the thread that started it does, however that ends.
+inline void dieWithParent() { ::prctl(PR_SET_PDEATHSIG, SIGKILL); }
 
 /// Makes this process a user without rights, if it is root's. False on failure.
 inline bool dropRights() {

@@ -1,6 +1,8 @@
 /// Servers of a desktop that a test starts for itself: a session bus, a screen of X11. They end with their objects.
 #pragma once
 
+#include "support/child.h"
+
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QStandardPaths>
@@ -25,6 +27,7 @@ class Server {
   /// Starts @p program and waits for its first line. False if it isn't installed or says nothing in ten seconds.
   bool start(const QString& program, const QStringList& arguments) {
     if (QStandardPaths::findExecutable(program).isEmpty()) return false;
+    m_process.setChildProcessModifier([] { child::dieWithParent(); });
     m_process.start(program, arguments);
     while (!m_process.canReadLine())
       if (!m_process.waitForReadyRead(10000)) return false;

@@ -23,6 +23,8 @@ bool handles(qint64 pid, int signal) {
 
 QString cliProgram() { return QStringLiteral(TARNWICK_CLI); }
 
+QString shippedProgram() { return QStringLiteral(TARNWICK_CLI_SHIPPED); }
+
 QJsonObject CliRun::json() const {
   QJsonParseError error;
   const QJsonDocument document = QJsonDocument::fromJson(out, &error);

@@ -6,8 +6,12 @@
 #include <QProcess>
 #include <QStringList>
 
-/// Path of the program under test.
+/// Path of the program under test: all of the shipped one, but with a lock for cleans at the root of the fixture.
 [[nodiscard]] QString cliProgram();
+/// Path of the program as it ships, which takes the user's own lock.
+[[nodiscard]] QString shippedProgram();
+/// Where the program under test has its lock, from the home folder.
+inline constexpr const char* kCleanLock = "../../clean.lock";
 
 /// What one run left.
 struct CliRun {

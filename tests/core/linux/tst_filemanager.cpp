@@ -1,6 +1,7 @@
 #include "core/platform.h"
 
 #include "support/FixtureHome.h"
+#include "support/child.h"
 
 #include <QDBusConnection>
 #include <QDBusContext>
@@ -164,6 +165,7 @@ class TestFileManager : public QObject {
                  "</listen><policy context='default'><allow send_destination='*'/><allow receive_sender='*'/>"
                  "<allow own='*'/></policy></busconfig>");
     config.close();
+    m_bus.setChildProcessModifier([] { child::dieWithParent(); });
     m_bus.start(daemon, {u"--config-file="_s + config.fileName(), u"--nofork"_s, u"--print-address=1"_s});
     if (!m_bus.waitForReadyRead()) return false;
     m_address = QString::fromUtf8(m_bus.readLine()).trimmed();

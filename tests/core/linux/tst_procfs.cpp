@@ -187,6 +187,25 @@ class TestProcFs : public QObject {
     QCOMPARE(runningApps(proc.sources).bundleIds, snap.isEmpty() ? QSet<QString>() : QSet<QString>{snap});
   }
 
+  // TARNWICK_HOST chooses tables and words, never where the facts come from.
+  void theSourcesFollowTheBuiltSystem_data() {
+    QTest::addColumn<QByteArray>("host");
+    for (const char* host : {"", "linux", "mac"}) QTest::newRow(host) << QByteArray(host);
+  }
+  void theSourcesFollowTheBuiltSystem() {
+    QFETCH(QByteArray, host);
+    const FixtureHome home;
+    FakeProc proc(home);
+    const QString file = home.file(u"data/file"_s);
+    proc.link(u"12/exe"_s, u"/usr/bin/nautilus"_s);
+    proc.link(u"12/fd/3"_s, file);
+    proc.sources.ps = proc.sources.lsof = u"/bin/false"_s; // what the other system would ask
+    qputenv("TARNWICK_HOST", host);
+    QCOMPARE(runningApps(proc.sources).processes, QSet<QString>{u"nautilus"_s});
+    QVERIFY(openFiles(proc.sources).contains(file));
+    QVERIFY(isFileInUse(file, proc.sources));
+  }
+
   void ownersFollowFromTheProcesses() {
     const FixtureHome home;
     const FakeProc proc(home);
