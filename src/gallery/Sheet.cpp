@@ -30,12 +30,16 @@ constexpr Section kSections[] = {
     {"Select", selects},
     {"Badges, spinners, tiles, cards", marks},
     {"Notes", notes},
+    {"Page furniture", furniture},
+    {"Work in progress", progress},
+    {"Treemap", maps},
+    {"Bars and lines", bars},
     {"Check boxes and fields of the style sheet", stockFields},
     {"Tables and scroll bars of the style sheet", stockViews},
     {"Tool tips, menus, lists", stockPopups},
 };
 
-constexpr int kWidthPx = 1340;
+constexpr int kWidthPx = 1404;
 constexpr QMargins kMargins{40, 32, 40, 40};
 constexpr int kBetweenRowsPx = 16;
 constexpr int kBeforeSectionPx = 28;

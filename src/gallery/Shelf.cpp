@@ -26,6 +26,7 @@ void Shelf::place(QWidget* control, const QString& caption, int width) {
   const bool whole = width == kWholeRow;
   QVBoxLayout* cell = ui::vbox(kToCaptionPx);
   if (width > 0) control->setFixedWidth(width);
+  if (width > 0 && control->hasHeightForWidth()) control->setFixedHeight(control->heightForWidth(width));
   cell->addWidget(control, 0, whole ? Qt::Alignment() : Qt::AlignLeft | Qt::AlignBottom);
   if (!caption.isEmpty()) cell->addWidget(ui::label(caption, "micro"));
   // The stretch at the row's end keeps the others in their own size.

@@ -29,7 +29,7 @@ class Shelf {
     place(control, caption, width);
     return control;
   }
-  /// Adds a specimen as if the focus had come to it by Tab.
+  /// The same, in its own size, with the focus.
   template <typename Control>
   Control* putFocused(Control* control, const QString& caption) {
     place(control, caption, kOwnWidth);
@@ -43,13 +43,14 @@ class Shelf {
     place(control, caption, kWholeRow);
     return control;
   }
+  /// Makes a specimen look as if the focus had come to it by Tab.
+  void focus(QWidget* control);
 
  private:
   static constexpr int kOwnWidth = 0;
   static constexpr int kWholeRow = -1;
 
   void place(QWidget* control, const QString& caption, int width);
-  void focus(QWidget* control);
 
   QWidget* m_sheet;
   QVBoxLayout* m_column;

@@ -22,5 +22,11 @@ void choices(Shelf* shelf);
 void marks(Shelf* shelf);
 void notes(Shelf* shelf);
 void selects(Shelf* shelf);
+void furniture(Shelf* shelf);
+
+// The visuals.
+void progress(Shelf* shelf);
+void maps(Shelf* shelf);
+void bars(Shelf* shelf);
 
 } // namespace gallery

@@ -9,7 +9,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
-#include <QHoverEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -18,7 +17,6 @@
 #include <QStandardItemModel>
 #include <QStyleOptionFrame>
 #include <QTableView>
-#include <QTimer>
 #include <QToolTip>
 #include <QVBoxLayout>
 
@@ -66,14 +64,6 @@ QScrollArea* scrollArea(const QSize& size, const QSize& content) {
   area->setWidget(inner);
   area->setFixedSize(size);
   return area;
-}
-
-// The handle has a state of its own, which needs a place in it.
-void hoverHandle(QScrollBar* bar) {
-  hovered(bar);
-  const QPointF inside(bar->width() / 2.0, bar->width());
-  QHoverEvent move(QEvent::HoverMove, inside, bar->mapToGlobal(inside), inside);
-  QCoreApplication::sendEvent(bar, &move);
 }
 
 QTableView* table() {
@@ -174,7 +164,8 @@ void stockViews(Shelf* shelf) {
   shelf->put(table(), u"table"_s);
   shelf->put(scrollArea({200, 140}, {600, 600}), u"scroll area"_s);
   QScrollArea* area = scrollArea({120, 140}, {100, 400});
-  QTimer::singleShot(0, area, [bar = area->verticalScrollBar()] { hoverHandle(bar); });
+  QScrollBar* bar = area->verticalScrollBar();
+  onceShown(bar, [bar] { pointAt(bar, QPointF(bar->width() / 2.0, bar->width())); }); // in its handle
   shelf->put(area, u"scroll bar, hovered"_s);
 }
 

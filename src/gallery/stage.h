@@ -4,11 +4,19 @@
 #include <QAbstractButton>
 #include <QWidget>
 
+#include <functional>
+
 namespace gallery {
+
+/// Lets the pointer come to @p place, in the coordinates of @p control. One at a time for the application as a whole is
+/// what a real one could.
+void pointAt(QWidget* control, const QPointF& place);
+/// Calls @p act when @p control has its place and size for the first time.
+void onceShown(QWidget* control, std::function<void()> act);
 
 template <typename Control>
 Control* hovered(Control* control) {
-  control->setAttribute(Qt::WA_UnderMouse);
+  pointAt(control, QPointF(1, 1));
   return control;
 }
 

@@ -211,7 +211,7 @@ void TestGallery::programWritesBothLooks() {
   QVERIFY(colourAt(dark, {600, 2}).lightness() < 60);
   QVERIFY(colourAt(light, {600, 2}).lightness() > 200);
   const double ratio = scale.isEmpty() ? 1 : scale.toDouble();
-  QVERIFY(QImage(dark).width() >= int(1340 * ratio));
+  QVERIFY(QImage(dark).width() >= int(1404 * ratio));
 }
 
 void TestGallery::programTellsWhatWentWrong() {
