@@ -31,6 +31,7 @@ constexpr Section kSections[] = {
     {"Badges, spinners, tiles, cards", marks},
     {"Notes", notes},
     {"Page furniture", furniture},
+    {"Disk orb", orbs},
     {"Work in progress", progress},
     {"Treemap", maps},
     {"Bars and lines", bars},

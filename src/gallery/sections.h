@@ -25,6 +25,7 @@ void selects(Shelf* shelf);
 void furniture(Shelf* shelf);
 
 // The visuals.
+void orbs(Shelf* shelf);
 void progress(Shelf* shelf);
 void maps(Shelf* shelf);
 void bars(Shelf* shelf);

@@ -8,6 +8,7 @@
 #include "ui/controls/Headline.h"
 #include "ui/controls/PageHeader.h"
 #include "ui/controls/factory.h"
+#include "ui/visuals/DiskOrb.h"
 #include "ui/visuals/Gauge.h"
 #include "ui/visuals/ProgressRing.h"
 #include "ui/visuals/Radar.h"
@@ -59,6 +60,13 @@ ui::GradientText* gradientText(const QFont& font, const QString& text, const QLi
   auto* control = new ui::GradientText(font);
   control->setText(text);
   control->stops = stops;
+  return control;
+}
+
+ui::DiskOrb* orb(qint64 used, qint64 cleanable, const QString& value, const QString& action) {
+  auto* control = new ui::DiskOrb;
+  control->setDisk(1000, used, cleanable);
+  control->setCenter(value, action.isEmpty() ? u"free"_s : u"can be cleaned"_s, action);
   return control;
 }
 
@@ -148,6 +156,18 @@ void furniture(Shelf* shelf) {
   shelf->put(headline(u"Nothing to clean"_s, {}), u"without value"_s);
   shelf->row();
   shelf->put(headline(u"You can free %1 without losing anything that you made"_s, u"12.4 GB"_s), u"wrapped"_s, 420);
+}
+
+void orbs(Shelf* shelf) {
+  shelf->put(orb(620, 124, u"124 GB"_s, u"Clean"_s), u"found something"_s);
+  ui::DiskOrb* hovering = shelf->put(orb(620, 124, u"124 GB"_s, u"Clean"_s), u"core hovered"_s);
+  onceShown(hovering, [hovering] { pointAt(hovering, hovering->coreRect().center()); });
+  shelf->put(orb(940, 30, u"60 GB"_s, u"Scan"_s), u"nearly full"_s);
+  shelf->focus(shelf->put(orb(300, 0, u"700.5 GB"_s, u"Scan"_s), u"focused"_s));
+  shelf->row();
+  shelf->put(orb(500, 1, u"500 GB"_s, {}), u"tiny share, no action"_s);
+  shelf->put(orb(1000, 1000, u"0"_s, u"Clean"_s), u"all cleanable, no unit"_s);
+  shelf->put(orb(0, 0, u"1 TB"_s, u"Scan"_s), u"empty disk"_s);
 }
 
 void progress(Shelf* shelf) {
