@@ -45,11 +45,13 @@ QPushButton[kind="link"] {
   background: transparent; border: none; color: @accent; padding: 0; min-height: 0; font-weight: 500;
 }
 QPushButton[kind="link"]:hover { color: @accentHover; }
+QPushButton[kind="ghost"]:disabled, QPushButton[kind="link"]:disabled { color: @text3; }
 QPushButton[size="lg"] {
   min-height: @lgpx; max-height: @lgpx; padding: 0 22px; font-size: 14px; border-radius: 12px;
 }
 
 QCheckBox { spacing: 10px; background: transparent; }
+QCheckBox:disabled { color: @text3; }
 QCheckBox::indicator { width: 16px; height: 16px; border-radius: 5px; border: none; background: transparent; }
 QCheckBox::indicator:unchecked { image: url(:/ui/@box.svg); }
 QCheckBox::indicator:unchecked:hover { image: url(:/ui/@box-hover.svg); }
@@ -104,6 +106,7 @@ QHeaderView::up-arrow, QHeaderView::down-arrow { width: 0; height: 0; }
 QMenu { background: @surface; border: 1px solid @lineStrong; padding: 4px; border-radius: 8px; }
 QMenu::item { padding: 6px 16px; border-radius: 5px; }
 QMenu::item:selected { background: @accentSoft; }
+QMenu::item:disabled { color: @text3; }
 )";
 
 QString rgba(const QColor& colour) {

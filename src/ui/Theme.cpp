@@ -1,9 +1,11 @@
 #include "ui/Theme.h"
 
 #include "app/AppSettings.h"
+#include "ui/MenuStyler.h"
 #include "ui/TipStyler.h"
 #include "ui/accessible.h"
 #include "ui/compat.h"
+#include "ui/controls/FocusRing.h"
 #include "ui/i18n.h"
 #include "ui/paint.h"
 
@@ -12,6 +14,8 @@
 #include <QPainter>
 #include <QPalette>
 #include <QRadialGradient>
+
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -126,6 +130,32 @@ bool wideScript() {
   return wide;
 }
 
+// One character has several shapes in the Han scripts, and without a word from us the desktop's locale picks among
+// them. By language, the families that have the shapes of its readers, best first.
+struct HanFamilies {
+  QLatin1StringView language;
+  std::array<const char*, 3> families;
+};
+constexpr HanFamilies kHanFamilies[] = {
+    {"zh_CN"_L1, {"Noto Sans CJK SC", "Source Han Sans SC", "WenQuanYi Micro Hei"}},
+    {"zh_TW"_L1, {"Noto Sans CJK TC", "Source Han Sans TC", "WenQuanYi Micro Hei"}},
+    {"ja"_L1, {"Noto Sans CJK JP", "Source Han Sans", "IPAGothic"}},
+    {"ko"_L1, {"Noto Sans CJK KR", "Source Han Sans K", "NanumGothic"}},
+};
+
+// As a substitute of the interface font it serves every font that falls back to that one, the style sheet's included.
+void preferHanFamily() {
+  const QString language = i18n::effectiveLanguage();
+  for (const HanFamilies& row : kHanFamilies) {
+    if (row.language != language) continue;
+    for (const char* family : row.families)
+      if (const QString name = QString::fromLatin1(family); QFontDatabase::hasFamily(name)) {
+        QFont::insertSubstitution(generalFamily(), name);
+        return;
+      }
+  }
+}
+
 void paintGlow(QPainter* painter, const QPointF& centre, const Glow& glow, const QColor& colour) {
   painter->save();
   painter->translate(centre);
@@ -152,7 +182,10 @@ Theme::Theme() : mac(qEnvironmentVariable("TARNWICK_LOOK") != "win"_L1) {}
 void Theme::install(QApplication* app) {
   m_app = app;
   ui::installAccessibility();
+  preferHanFamily();
   app->installEventFilter(new TipStyler(this));
+  app->installEventFilter(new MenuStyler(this));
+  app->installEventFilter(new ui::FocusRings(this));
   QApplication::setEffectEnabled(Qt::UI_AnimateTooltip, false);
   QApplication::setEffectEnabled(Qt::UI_FadeTooltip, false);
   compat::watchColorScheme(this, [this] { refresh(); });

@@ -24,8 +24,8 @@ class Theme : public QObject {
   /// Built on first use; reads TARNWICK_LOOK then.
   static Theme& get();
 
-  /// Wires the theme to the application, makes painted controls readable (ui/accessible.h), and refreshes. Once, at
-  /// start-up.
+  /// Wires the theme to the application, makes painted controls readable (ui/accessible.h), names the family for the
+  /// characters of a language with Han script, and refreshes. Once, at start-up.
   void install(QApplication* app);
 
   [[nodiscard]] QColor tone(Tone tone) const;

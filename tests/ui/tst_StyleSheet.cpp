@@ -256,6 +256,12 @@ constexpr Rule kRules[] = {
     {"QMenu::item", "padding", "6px 16px"},
     {"QMenu::item", "border-radius", "5px"},
     {"QMenu::item:selected", "background", "{accentSoft}"},
+
+    // What can't be used looks like it, whatever it is.
+    {"QPushButton[kind=\"ghost\"]:disabled", "color", "{text3}"},
+    {"QPushButton[kind=\"link\"]:disabled", "color", "{text3}"},
+    {"QCheckBox:disabled", "color", "{text3}"},
+    {"QMenu::item:disabled", "color", "{text3}"},
 };
 
 struct Look {

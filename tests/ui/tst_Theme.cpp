@@ -4,12 +4,15 @@
 #include "ui/accessible.h"
 
 #include <QFontDatabase>
+#include <QGlyphRun>
 #include <QImage>
 #include <QPainter>
 #include <QPalette>
 #include <QProcess>
+#include <QRawFont>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTextLayout>
 #include <QTextStream>
 
 using namespace Qt::StringLiterals;
@@ -96,15 +99,37 @@ int probe(int argc, char** argv) {
   return 0;
 }
 
-QStringList probed(const QString& variable = {}, const QString& value = {}) {
+/// The family that really draws a Han character in the interface font.
+QString familyThatDraws(const QString& character) {
+  QTextLayout layout(character, Theme::get().font(13, 400));
+  layout.beginLayout();
+  layout.createLine();
+  layout.endLayout();
+  const QList<QGlyphRun> runs = layout.glyphRuns();
+  return runs.isEmpty() ? QString() : runs.first().rawFont().familyName();
+}
+
+/// The same of an installed theme's fonts.
+int fontProbe(int argc, char** argv) {
+  const FixtureHome home;
+  QApplication app(argc, argv);
+  Theme::get().install(&app);
+  const QFont font = Theme::get().font(13, 400);
+  QTextStream(stdout) << QFont::substitutes(font.family()).join(u',') << '|' << familyThatDraws(u"\u9aa8"_s) << '|'
+                      << (font.families().size() == 1 ? "one" : "more");
+  return 0;
+}
+
+QStringList probed(const QString& variable, const QString& value, const QString& kind = u"--probe"_s,
+                   QChar separator = u' ') {
   QProcess process;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert(u"TARNWICK_LANG"_s, u"en"_s);
   if (!variable.isEmpty()) environment.insert(variable, value);
   process.setProcessEnvironment(environment);
-  process.start(QCoreApplication::applicationFilePath(), {u"--probe"_s});
+  process.start(QCoreApplication::applicationFilePath(), {kind});
   if (!process.waitForFinished()) qFatal("the probe doesn't end");
-  return QString::fromUtf8(process.readAllStandardOutput()).split(u' ');
+  return QString::fromUtf8(process.readAllStandardOutput()).split(separator);
 }
 
 } // namespace
@@ -142,6 +167,8 @@ class TestTheme : public QObject {
   void wideScriptsAreNotSpacedOut_data();
   void wideScriptsAreNotSpacedOut();
   void languageIsAskedOnce();
+  void hanShapesFollowTheLanguage_data();
+  void hanShapesFollowTheLanguage();
 };
 
 void TestTheme::refreshWithoutApplicationIsLightAndTells() {
@@ -402,7 +429,31 @@ void TestTheme::languageIsAskedOnce() {
   QCOMPARE(Theme::get().eyebrow(10).letterSpacing(), before);
 }
 
+void TestTheme::hanShapesFollowTheLanguage_data() {
+  QTest::addColumn<QString>("language");
+  QTest::addColumn<QStringList>("families");
+  QTest::newRow("en") << u"en"_s << QStringList();
+  QTest::newRow("ru") << u"ru"_s << QStringList();
+  QTest::newRow("zh_CN") << u"zh_CN"_s
+                         << QStringList{u"Noto Sans CJK SC"_s, u"Source Han Sans SC"_s, u"WenQuanYi Micro Hei"_s};
+  QTest::newRow("zh_TW") << u"zh_TW"_s
+                         << QStringList{u"Noto Sans CJK TC"_s, u"Source Han Sans TC"_s, u"WenQuanYi Micro Hei"_s};
+  QTest::newRow("ja") << u"ja"_s << QStringList{u"Noto Sans CJK JP"_s, u"Source Han Sans"_s, u"IPAGothic"_s};
+  QTest::newRow("ko") << u"ko"_s << QStringList{u"Noto Sans CJK KR"_s, u"Source Han Sans K"_s, u"NanumGothic"_s};
+}
+
+void TestTheme::hanShapesFollowTheLanguage() {
+  QFETCH(QString, language);
+  QFETCH(QStringList, families);
+  const QStringList answer = probed(u"TARNWICK_LANG"_s, language, u"--fonts"_s, u'|');
+  QCOMPARE(answer.value(2), u"one"_s); // the font itself names the interface family alone
+  families.removeIf([](const QString& family) { return !QFontDatabase::hasFamily(family); });
+  QCOMPARE(answer.value(0), families.value(0).toLower());
+  if (!families.isEmpty()) QCOMPARE(answer.value(1).toLower(), families.first().toLower());
+}
+
 int main(int argc, char** argv) {
+  if (argc > 1 && QByteArray(argv[1]) == "--fonts") return fontProbe(argc, argv);
   if (argc > 1 && QByteArray(argv[1]) == "--probe") return probe(argc, argv);
   return uitest::run<TestTheme>(argc, argv);
 }

@@ -16,7 +16,6 @@ namespace ui {
 namespace {
 
 constexpr char kKind[] = "kind";
-constexpr char kShowFocus[] = "showFocus";
 constexpr QLatin1StringView kPrimary("primary");
 constexpr QLatin1StringView kDanger("danger");
 constexpr QLatin1StringView kGhost("ghost");
@@ -37,8 +36,6 @@ constexpr int kTextSlack = 2;
 constexpr int kFontPx = 13;
 constexpr int kFontPxLarge = 14;
 constexpr int kFontWeight = 600;
-constexpr double kFocusGap = 2;
-constexpr double kFocusWidth = 3;
 
 struct Glow {
   double blur;
@@ -90,6 +87,7 @@ void Button::setKind(const char* kind) {
   setProperty(kKind, QString::fromLatin1(kind));
   style()->unpolish(this);
   style()->polish(this);
+  holdHeight();
   refreshIcon();
   refreshGlow();
 }
@@ -98,6 +96,7 @@ void Button::setSizeName(const QString& name) {
   m_sizeName = name;
   style()->unpolish(this);
   style()->polish(this);
+  holdHeight();
   refreshGlow();
   updateGeometry();
 }
@@ -106,9 +105,6 @@ bool Button::isPrimary() const { return property(kKind).toString() == kPrimary; 
 bool Button::isFilled() const { return isPrimary() || property(kKind).toString() == kDanger; }
 bool Button::isLarge() const { return m_sizeName == kLarge; }
 bool Button::isHovered() const { return underMouse() && !isDown(); }
-bool Button::showsFocus() const {
-  return hasFocus() && isEnabled() && focusPolicy() != Qt::NoFocus && property(kShowFocus).toBool();
-}
 
 QFont Button::filledFont() const { return Theme::get().font(isLarge() ? kFontPxLarge : kFontPx, kFontWeight); }
 
@@ -144,25 +140,39 @@ void Button::refreshGlow() {
 
 bool Button::event(QEvent* event) {
   switch (event->type()) {
-  case QEvent::HoverEnter:
-  case QEvent::HoverLeave:
-    if (isFilled()) update();
-    break;
   case QEvent::EnabledChange:
     refreshGlow();
     break;
+  case QEvent::Polish:
+  case QEvent::StyleChange: {
+    const bool taken = QPushButton::event(event);
+    holdHeight();
+    return taken;
+  }
   default:
     break;
   }
   return QPushButton::event(event);
 }
 
+int Button::ownHeight() const {
+  if (property(kKind).toString() == kLink && !isLarge()) return 0;
+  return kHeight + (isLarge() ? kLargeExtra : 0) + (Theme::get().mac ? 0 : kWinExtra);
+}
+
+// The style sheet's heights are those of the content, to which it adds its borders: by them alone the button would be
+// two pixels too high.
+void Button::holdHeight() {
+  if (const int height = ownHeight()) setFixedHeight(height);
+}
+
 QSize Button::sizeHint() const {
-  if (!isFilled()) return QPushButton::sizeHint();
-  const bool large = isLarge();
+  if (!isFilled()) {
+    const QSize dressed = QPushButton::sizeHint();
+    return {dressed.width(), ownHeight() > 0 ? ownHeight() : dressed.height()};
+  }
   const int textWidth = QFontMetrics(filledFont()).horizontalAdvance(text());
-  return {textWidth + (large ? kSideRoomLarge : kSideRoom) + (m_iconName.isEmpty() ? 0 : kIconStep),
-          kHeight + (large ? kLargeExtra : 0) + (Theme::get().mac ? 0 : kWinExtra)};
+  return {textWidth + (isLarge() ? kSideRoomLarge : kSideRoom) + (m_iconName.isEmpty() ? 0 : kIconStep), ownHeight()};
 }
 
 void Button::paintEvent(QPaintEvent* event) {
@@ -177,7 +187,6 @@ void Button::paintEvent(QPaintEvent* event) {
   const ButtonLayout layout = buttonLayout(QWidget::size(), textWidth, !m_iconName.isEmpty(), isLarge());
   paintBody(&painter, layout);
   paintContent(&painter, layout);
-  paintFocus(&painter, layout);
 }
 
 void Button::paintBody(QPainter* painter, const ButtonLayout& layout) const {
@@ -216,12 +225,6 @@ void Button::paintContent(QPainter* painter, const ButtonLayout& layout) const {
   if (!layout.icon.isNull()) icons::paint(painter, layout.icon, m_iconName, ink);
   painter->setPen(ink);
   painter->drawText(layout.text, Qt::AlignLeft | Qt::AlignVCenter, text());
-}
-
-void Button::paintFocus(QPainter* painter, const ButtonLayout& layout) const {
-  if (!showsFocus()) return;
-  paint::roundedRect(painter, layout.body.adjusted(-kFocusGap, -kFocusGap, kFocusGap, kFocusGap),
-                     layout.radius + kFocusGap, Qt::NoBrush, paint::pen(Theme::get().accentSoft, kFocusWidth));
 }
 
 } // namespace ui

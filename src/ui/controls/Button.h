@@ -48,7 +48,8 @@ class Button : public QPushButton {
   void setSizeName(const QString& name);
   [[nodiscard]] bool isPrimary() const;
   [[nodiscard]] bool isHovered() const;
-  [[nodiscard]] bool showsFocus() const;
+  [[nodiscard]] int ownHeight() const; ///< 0: as high as its text
+  void holdHeight();
   [[nodiscard]] QFont filledFont() const;
   [[nodiscard]] QColor iconColour() const;
   void refreshIcon();
@@ -56,7 +57,6 @@ class Button : public QPushButton {
   void paintBody(QPainter* painter, const ButtonLayout& layout) const;
   void paintHighlight(QPainter* painter, const ButtonLayout& layout) const;
   void paintContent(QPainter* painter, const ButtonLayout& layout) const;
-  void paintFocus(QPainter* painter, const ButtonLayout& layout) const;
   [[nodiscard]] QBrush primaryBrush(const QRectF& body) const;
 
   QString m_iconName;

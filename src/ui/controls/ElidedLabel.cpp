@@ -2,6 +2,7 @@
 
 #include "ui/controls/factory.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace ui {
@@ -15,6 +16,20 @@ ElidedLabel::ElidedLabel(const QString& text, const char* role, QWidget* parent)
   setRole(this, role);
   setToolTip(text);
   setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
+  allowShrinking();
+}
+
+// By its size policy a layout would take the whole text for the least that the label needs; a minimum width of its own
+// goes before that.
+void ElidedLabel::allowShrinking() {
+  if (minimumWidth() != m_leastWidth) return; // somebody knows better
+  m_leastWidth = minimumSizeHint().width();
+  setMinimumWidth(m_leastWidth);
+}
+
+void ElidedLabel::changeEvent(QEvent* event) {
+  QLabel::changeEvent(event);
+  if (event->type() == QEvent::FontChange) allowShrinking();
 }
 
 QSize ElidedLabel::minimumSizeHint() const {

@@ -5,6 +5,7 @@
 
 namespace ui {
 
+/// In a layout it takes what room there is, and gives way almost to nothing unless a minimum width is set.
 /// Its tool tip is the whole text that it was built with, and doesn't follow a later setText().
 class ElidedLabel : public QLabel {
   Q_OBJECT
@@ -16,7 +17,13 @@ class ElidedLabel : public QLabel {
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void allowShrinking();
+
+  int m_leastWidth = 0; ///< the minimum width that it gave itself
 };
 
 } // namespace ui

@@ -31,12 +31,21 @@ bool isModifier(int key) {
 
 } // namespace
 
-KeyboardFocus::KeyboardFocus(QWidget* widget) : QObject(widget), m_widget(widget) { widget->installEventFilter(this); }
+KeyboardFocus::KeyboardFocus(QWidget* widget, std::function<void()> changed)
+    : QObject(widget), m_widget(widget), m_changed(std::move(changed)) {
+  widget->installEventFilter(this);
+}
 
 void KeyboardFocus::paintRing(QPainter* painter, const QRectF& rect, double radius) const {
-  if (!m_visible) return;
-  paint::roundedRect(painter, rect.adjusted(-kRingGap, -kRingGap, kRingGap, kRingGap), radius + kRingGap, Qt::NoBrush,
-                     paint::pen(Theme::get().accentSoft, kRingWidth));
+  if (m_visible) paintRingAround(painter, rect, radius, Strength::Full);
+}
+
+void KeyboardFocus::paintRingAround(QPainter* painter, const QRectF& rect, double radius, Strength strength) {
+  const QRectF ring = rect.adjusted(-kRingGap, -kRingGap, kRingGap, kRingGap);
+  const Theme& theme = Theme::get();
+  paint::roundedRect(painter, ring, radius + kRingGap, Qt::NoBrush, paint::pen(theme.accentSoft, kRingWidth));
+  if (strength == Strength::Full)
+    paint::roundedRect(painter, ring, radius + kRingGap, Qt::NoBrush, paint::pen(theme.accent));
 }
 
 bool KeyboardFocus::eventFilter(QObject* watched, QEvent* event) {
@@ -73,6 +82,7 @@ void KeyboardFocus::setVisible(bool on) {
   if (on == m_visible) return;
   m_visible = on;
   m_widget->update();
+  if (m_changed) m_changed();
 }
 
 } // namespace ui

@@ -4,6 +4,8 @@
 #include <QFocusEvent>
 #include <QObject>
 
+#include <functional>
+
 class QPainter;
 class QRectF;
 class QWidget;
@@ -14,10 +16,16 @@ namespace ui {
 /// away, a key or a focus that came by Tab, Backtab or a shortcut shows it.
 class KeyboardFocus : public QObject {
  public:
-  explicit KeyboardFocus(QWidget* widget);
+  /// @param changed  called, if not empty, when the answer changes
+  explicit KeyboardFocus(QWidget* widget, std::function<void()> changed = {});
   [[nodiscard]] bool isVisible() const { return m_visible; }
-  /// The ring around @p rect (three pixels of the soft accent, 2 outside), if it is to be shown.
+  /// The ring around @p rect, if it is to be shown: three pixels of the soft accent, 2 outside, and a fine line of the
+  /// full accent in their middle, without which it could hardly be seen.
   void paintRing(QPainter* painter, const QRectF& rect, double radius) const;
+
+  enum class Strength { Soft, Full };
+  /// That ring, whether it is to be shown or not; a soft one without its fine line.
+  static void paintRingAround(QPainter* painter, const QRectF& rect, double radius, Strength strength);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -28,6 +36,7 @@ class KeyboardFocus : public QObject {
   void setVisible(bool on);
 
   QWidget* m_widget;
+  std::function<void()> m_changed;
   bool m_visible = false;
   bool m_before = false; ///< was shown when the focus left with the window, and will be again
 };

@@ -62,6 +62,8 @@ class TestBaseControls : public QObject {
   void elidedLabelShortens();
   void elidedLabelKeepsItsTip();
   void elidedLabelSizes();
+  void elidedLabelGivesWayInALayout();
+  void elidedLabelKeepsAMinimumThatIsSet();
   void cardFills();
   void cardWithoutBorder();
   void dividerIsAHairline();
@@ -121,6 +123,38 @@ void TestBaseControls::elidedLabelSizes() {
   QCOMPARE(label.sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
   QCOMPARE(label.minimumSizeHint(),
            QSize(label.fontMetrics().horizontalAdvance(QChar(0x2026)) + 8, stock.minimumSizeHint().height()));
+}
+
+void TestBaseControls::elidedLabelGivesWayInALayout() {
+  const QString text = u"A rather long name of a file"_s;
+  for (const char* role : {static_cast<const char*>(nullptr), "h1"}) {
+    QWidget row;
+    auto* layout = new QHBoxLayout(&row);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    auto* label = new ui::ElidedLabel(text, role);
+    auto* fixed = new QWidget;
+    fixed->setFixedSize(50, 20);
+    layout->addWidget(label);
+    layout->addWidget(fixed);
+    row.show();
+    const int least = label->minimumSizeHint().width();
+    QCOMPARE(layout->minimumSize().width(), least + 50);
+    QVERIFY(layout->sizeHint().width() >= label->fontMetrics().horizontalAdvance(text) + 50);
+    row.resize(least + 50, 40);
+    QCOMPARE(label->width(), least);
+    row.resize(500, 40);
+    QCOMPARE(label->width(), 450); // and takes all there is
+  }
+}
+
+void TestBaseControls::elidedLabelKeepsAMinimumThatIsSet() {
+  ui::ElidedLabel label(u"A rather long name of a file"_s);
+  label.setMinimumWidth(60);
+  QFont font = label.font();
+  font.setPixelSize(30);
+  label.setFont(font);
+  QCOMPARE(label.minimumWidth(), 60);
 }
 
 void TestBaseControls::cardFills() {

@@ -4,6 +4,7 @@
 #include "ui/controls/Button.h"
 
 #include <QGraphicsDropShadowEffect>
+#include <QHBoxLayout>
 #include <QHash>
 #include <QPainter>
 #include <QSignalSpy>
@@ -80,7 +81,10 @@ class TestButton : public QObject {
   void primaryLitFromAbove();
   void dangerStates();
   void disabledIsFlat();
-  void hoverRepaintsFilledOnly();
+  void hoverRepaints_data();
+  void hoverRepaints();
+  void laidOutHeights_data();
+  void laidOutHeights();
   void largeIsFoundByTheSheet();
   void keyboardPresses();
 };
@@ -263,10 +267,14 @@ void TestButton::primaryLitFromAbove() {
   button.graphicsEffect()->setEnabled(false);
   button.resize(100, 32);
   const QImage image = rendered(button);
+  QImage plain(button.size(), QImage::Format_ARGB32);
+  QPainter(&plain).fillRect(plain.rect(), Theme::gradient(QRectF(0.5, 0.5, button.width() - 1, button.height() - 1)));
   const int middle = button.width() / 2;
-  QVERIFY(image.pixelColor(middle, 1).lightness() > image.pixelColor(middle, 3).lightness() + 10);
-  const int last = button.height() - 1;
-  QVERIFY(image.pixelColor(middle, last - 1).lightness() < image.pixelColor(middle, last - 3).lightness() + 10);
+  // The line's middle lies on the seam of the rows 0 and 1: half of it is in row 1, white at 60 of 255.
+  const auto brighter = [&](int y) { return image.pixelColor(middle, y).red() - plain.pixelColor(middle, y).red(); };
+  const int wanted = qRound((255 - plain.pixelColor(middle, 1).red()) * 60 / 255.0 / 2);
+  QVERIFY2(qAbs(brighter(1) - wanted) <= 3, qPrintable(QString::number(brighter(1))));
+  for (const int y : {2, 3, button.height() - 2}) QVERIFY(qAbs(brighter(y)) <= 2);
 }
 
 void TestButton::dangerStates() {
@@ -299,7 +307,13 @@ void TestButton::disabledIsFlat() {
   }
 }
 
-void TestButton::hoverRepaintsFilledOnly() {
+void TestButton::hoverRepaints_data() {
+  QTest::addColumn<QString>("kind");
+  for (const QString& kind : {u"primary"_s, u"danger"_s, u"ghost"_s}) QTest::newRow(qPrintable(kind)) << kind;
+}
+
+void TestButton::hoverRepaints() {
+  QFETCH(QString, kind);
   struct Counting : Button {
     using Button::Button;
     int paints = 0;
@@ -310,7 +324,7 @@ void TestButton::hoverRepaintsFilledOnly() {
   };
   QWidget window;
   window.resize(200, 100);
-  auto* button = new Counting(u"Go"_s, "danger", {}, nullptr, &window);
+  auto* button = new Counting(u"Go"_s, qPrintable(kind), {}, nullptr, &window);
   window.show();
   QVERIFY(QTest::qWaitForWindowExposed(&window));
   QTRY_VERIFY(button->paints > 0);
@@ -320,6 +334,52 @@ void TestButton::hoverRepaintsFilledOnly() {
     QApplication::sendEvent(button, &event);
     QTRY_VERIFY(button->paints > before);
   }
+}
+
+void TestButton::laidOutHeights_data() {
+  QTest::addColumn<bool>("mac");
+  QTest::addColumn<int>("usual");
+  QTest::addColumn<int>("large");
+  QTest::newRow("mac") << true << 30 << 38;
+  QTest::newRow("win") << false << 34 << 42;
+}
+
+// The sheet's rules find filled buttons too, and may not make any kind higher than the others.
+void TestButton::laidOutHeights() {
+  QFETCH(bool, mac);
+  QFETCH(int, usual);
+  QFETCH(int, large);
+  Theme::get().mac = mac;
+  Theme::get().refresh();
+  QWidget window;
+  auto* row = new QHBoxLayout(&window);
+  struct Made {
+    Button* button;
+    int height;
+  };
+  QList<Made> all;
+  for (const char* kind : {static_cast<const char*>(nullptr), "primary", "danger", "ghost", "other"})
+    for (const char* size : {static_cast<const char*>(nullptr), "lg"}) {
+      all << Made{new Button(u"Go"_s, kind, u"plus"_s, size), size ? large : usual};
+      row->addWidget(all.last().button);
+    }
+  auto* changed = new Button(u"Go"_s, "link");
+  row->addWidget(changed);
+  all << Made{changed, usual};
+  window.resize(900, 200);
+  window.show();
+  QVERIFY(changed->sizeHint().height() < usual); // as high as its text
+  changed->setKind("ghost");
+  for (const auto mode : {AppSettings::Dark, AppSettings::Light}) {
+    AppSettings::instance().setThemeMode(mode);
+    for (const Made& made : all) {
+      QCOMPARE(made.button->sizeHint().height(), made.height);
+      QTRY_COMPARE(made.button->height(), made.height);
+    }
+  }
+  changed->setKind("link");
+  QVERIFY(changed->sizeHint().height() < usual);
+  QCOMPARE(changed->minimumHeight(), 0);
 }
 
 void TestButton::largeIsFoundByTheSheet() {

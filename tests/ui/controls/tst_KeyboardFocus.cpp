@@ -25,7 +25,7 @@ class Control : public QWidget {
     ++paints;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    focus->paintRing(&painter, QRectF(rect()).adjusted(10, 10, -10, -10), 4);
+    focus->paintRing(&painter, QRectF(rect()).adjusted(10.5, 10.5, -10.5, -10.5), 4);
   }
 };
 
@@ -175,13 +175,18 @@ void TestKeyboardFocus::ringIsPainted() {
   const auto probe = [&](const QPoint& at) { return window.control->grab().toImage().pixelColor(at); };
   const QColor bare = probe({30, 8});
   QTest::keyClick(window.field, Qt::Key_Tab);
-  // The rectangle begins at 10; the ring's middle lies 2 outside, and it is 3 wide: rows 7 and 8, half of 6 and 9.
-  const QColor ring = probe({30, 8});
-  const QColor soft = Theme::get().accentSoft;
-  const auto over = [&](int under, int colour) { return qRound(under + soft.alpha() / 255.0 * (colour - under)); };
-  QVERIFY(qAbs(ring.red() - over(bare.red(), soft.red())) <= 1);
-  QVERIFY(qAbs(ring.green() - over(bare.green(), soft.green())) <= 1);
-  QVERIFY(qAbs(ring.blue() - over(bare.blue(), soft.blue())) <= 1);
+  // The rectangle begins at 10.5; the ring's middle lies 2 outside, and it is 3 wide: rows 7, 8 and 9, of which the
+  // middle one has the fine line.
+  const auto isOver = [&](const QColor& seen, const QColor& colour) {
+    const auto over = [&](int under, int part) { return qRound(under + colour.alpha() / 255.0 * (part - under)); };
+    return qAbs(seen.red() - over(bare.red(), colour.red())) <= 1 &&
+           qAbs(seen.green() - over(bare.green(), colour.green())) <= 1 &&
+           qAbs(seen.blue() - over(bare.blue(), colour.blue())) <= 1;
+  };
+  const QColor ring = probe({30, 7});
+  QVERIFY(isOver(ring, Theme::get().accentSoft));
+  QVERIFY(isOver(probe({30, 9}), Theme::get().accentSoft));
+  QVERIFY(isOver(probe({30, 8}), Theme::get().accent));
   QVERIFY(ring != bare);
   QCOMPARE(probe({30, 12}), bare); // no fill
   QCOMPARE(probe({30, 4}), bare);

@@ -11,6 +11,7 @@
 #include <QCursor>
 #include <QLabel>
 #include <QLibrary>
+#include <QMenu>
 #include <QScreen>
 #include <QToolTip>
 
@@ -96,6 +97,7 @@ class TestCompositor : public QObject {
   void compositorIsAskedAfresh();
   void popupIsTrimmedToItsBody();
   void tipHasNoBlackMargin();
+  void menuHasNoBlackCorners();
 
  private:
   std::unique_ptr<QWidget> m_behind;
@@ -153,6 +155,25 @@ void TestCompositor::tipHasNoBlackMargin() {
   // The bubble's own corners hold no black either.
   for (int y = 0; y < frame.height(); ++y)
     for (int x = 0; x < 16; ++x) {
+      const QColor pixel(image.pixel(frame.left() + x, frame.top() + y));
+      QVERIFY2(pixel.blue() > 150, qPrintable(u"%1 at %2,%3"_s.arg(pixel.name()).arg(x).arg(y)));
+    }
+}
+
+void TestCompositor::menuHasNoBlackCorners() {
+  QMenu menu;
+  menu.addAction(u"One entry"_s);
+  menu.addAction(u"Another"_s);
+  menu.popup({200, 200});
+  QTRY_VERIFY(menu.isVisible());
+  const QRect frame = menu.geometry();
+  QVERIFY(!menu.mask().isEmpty());
+  QTRY_COMPARE(QColor(screenshot().pixel(frame.center().x(), frame.top() + 2)), Theme::get().surface);
+  const QImage image = screenshot();
+  for (const QPoint& corner : {frame.topLeft(), frame.topRight(), frame.bottomLeft(), frame.bottomRight()})
+    QCOMPARE(image.pixel(corner), kBehind);
+  for (int y = 0; y < frame.height(); ++y)
+    for (int x = 0; x < 12; ++x) {
       const QColor pixel(image.pixel(frame.left() + x, frame.top() + y));
       QVERIFY2(pixel.blue() > 150, qPrintable(u"%1 at %2,%3"_s.arg(pixel.name()).arg(x).arg(y)));
     }

@@ -1,0 +1,14 @@
+/// Gives menus the round corners that the style sheet draws. User-interface thread only.
+#pragma once
+
+#include <QObject>
+
+/// An event filter for the whole application; only menus are touched, and every event goes on to them. Their windows
+/// are translucent, so that nothing is seen in the corners; without a compositor they are cut.
+class MenuStyler : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+};
