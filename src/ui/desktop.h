@@ -27,4 +27,8 @@ enum class DragStart { AtPress, AtFirstMove };
 /// The first move on X11 and Wayland, where a move that begins with the press swallows clicks and double clicks.
 [[nodiscard]] DragStart dragStart();
 
+/// Whether the system paints a one-coloured icon of its status area in the colour that can be read there. Without it a
+/// panel shows the icon as it is, on a ground that nobody tells.
+[[nodiscard]] bool tintsStatusIcons();
+
 } // namespace desktop

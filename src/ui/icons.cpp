@@ -1,5 +1,7 @@
 #include "ui/icons.h"
 
+#include "ui/desktop.h"
+
 #include <QFile>
 #include <QHash>
 #include <QPainter>
@@ -16,6 +18,7 @@ namespace {
 
 constexpr double kRatios[] = {1.0, 1.5, 2.0};
 constexpr int kAppIconSizes[] = {16, 24, 32, 48, 64, 128, 256};
+constexpr int kTrayIconSizes[] = {16, 22, 24, 32, 48, 64}; // what panels of all scales ask for
 constexpr int kSmallLogoUpTo = 32;
 
 // What stands in the files for the colour.
@@ -96,6 +99,17 @@ QIcon appIcon() {
   QIcon result;
   for (const int size : kAppIconSizes)
     result.addPixmap(pixmap(size, 1, size <= kSmallLogoUpTo ? paintSmallLogo : paintLogo));
+  return result;
+}
+
+QIcon trayIcon() {
+  if (desktop::tintsStatusIcons()) {
+    QIcon glyph(u":/tray-mac.svg"_s);
+    glyph.setIsMask(true);
+    return glyph;
+  }
+  QIcon result;
+  for (const int size : kTrayIconSizes) result.addPixmap(pixmap(size, 1, paintSmallLogo));
   return result;
 }
 

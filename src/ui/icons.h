@@ -18,6 +18,9 @@ void paint(QPainter* painter, const QRectF& rect, const QString& name, const QCo
 void paintLogo(QPainter* painter, const QRectF& rect);
 /// The application's window icon.
 [[nodiscard]] QIcon appIcon();
+/// The icon of the status area: where the system tints such icons, the black glyph, marked as a template; elsewhere the
+/// small logo, which can be read on light and dark panels alike.
+[[nodiscard]] QIcon trayIcon();
 /// How many pairs of a name and an opaque colour have been asked for so far: what the icons keep in memory.
 [[nodiscard]] int rendererCount();
 

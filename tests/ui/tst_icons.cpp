@@ -1,4 +1,5 @@
 #include "support/uitest.h"
+#include "ui/desktop.h"
 #include "ui/icons.h"
 
 #include <QDir>
@@ -89,6 +90,7 @@ class TestIcons : public QObject {
   void logos_data();
   void logos();
   void appIconHasItsSizes();
+  void trayIconReadsOnAnyPanel();
 };
 
 void TestIcons::theSetIsComplete() {
@@ -316,6 +318,26 @@ void TestIcons::logos() {
   const QColor last = image.pixelColor(231, 231);
   QVERIFY(first.green() > 180 && first.red() < 80);
   QVERIFY(last.green() < 110 && last.blue() > 210);
+}
+
+void TestIcons::trayIconReadsOnAnyPanel() {
+  const QIcon icon = icons::trayIcon();
+  QVERIFY(!icon.isNull());
+  QCOMPARE(icon.isMask(), desktop::tintsStatusIcons());
+  if (icon.isMask()) return; // the system sees to it
+  for (const int size : {16, 22, 24, 32, 48, 64}) {
+    QVERIFY(icon.availableSizes().contains(QSize(size, size)));
+    const QImage image = icon.pixmap(QSize(size, size), 1).toImage();
+    QCOMPARE(image.size(), QSize(size, size));
+    // It brings a ground of its own, neither black nor white, for a mark in another colour.
+    const QColor ground = image.pixelColor(size / 2, 1);
+    QVERIFY(ground.alpha() > 200);
+    QVERIFY2(ground.lightness() > 60 && ground.saturation() > 60, qPrintable(ground.name()));
+    int lightest = 0;
+    for (int x = 0; x < size; ++x)
+      for (int y = 0; y < size; ++y) lightest = qMax(lightest, image.pixelColor(x, y).lightness());
+    QVERIFY(lightest > ground.lightness() + 60);
+  }
 }
 
 void TestIcons::appIconHasItsSizes() {

@@ -15,4 +15,6 @@ void watch(QObject* context, Wish wish, std::function<void()> changed) {
 
 DragStart dragStart() { return DragStart::AtFirstMove; }
 
+bool tintsStatusIcons() { return false; }
+
 } // namespace desktop

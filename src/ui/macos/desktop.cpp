@@ -16,4 +16,6 @@ bool hasCompositor() { return true; }
 // The system follows a drag from the press on, and tells clicks and double clicks all the same.
 DragStart dragStart() { return DragStart::AtPress; }
 
+bool tintsStatusIcons() { return true; }
+
 } // namespace desktop

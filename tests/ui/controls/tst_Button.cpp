@@ -83,6 +83,7 @@ class TestButton : public QObject {
   void disabledIsFlat();
   void hoverRepaints_data();
   void hoverRepaints();
+  void sheetShowsHover();
   void laidOutHeights_data();
   void laidOutHeights();
   void largeIsFoundByTheSheet();
@@ -334,6 +335,21 @@ void TestButton::hoverRepaints() {
     QApplication::sendEvent(button, &event);
     QTRY_VERIFY(button->paints > before);
   }
+}
+
+void TestButton::sheetShowsHover() {
+  QWidget window;
+  window.resize(300, 100);
+  auto* button = new Button(QString(), "ghost", {}, nullptr, &window);
+  button->setGeometry(20, 20, 100, 30);
+  window.show();
+  QVERIFY(QTest::qWaitForWindowExposed(&window));
+  QTest::mouseMove(&window, {250, 80});
+  QTRY_VERIFY(!button->underMouse());
+  QCOMPARE(bodyColour(*button).alpha(), 0);
+  QTest::mouseMove(button, {50, 15});
+  QTRY_VERIFY(button->underMouse());
+  QVERIFY(isNear(bodyColour(*button), Theme::get().hover));
 }
 
 void TestButton::laidOutHeights_data() {
