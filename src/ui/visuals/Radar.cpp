@@ -43,7 +43,13 @@ struct Stop {
   double place; ///< in turns behind the edge
   double alpha;
 };
-constexpr Stop kBeam[] = {{0, 0.95}, {0.02, 0.32}, {0.3, 0}, {1, 0}};
+constexpr double kTail = 0.3;
+constexpr double kLead = 1; // degrees before the edge that are still painted, as its pixels reach there
+constexpr Stop kBeam[] = {{0, 0.95}, {0.02, 0.32}, {kTail, 0}, {1, 0}};
+
+QRectF squareAround(const QPointF& centre, double radius) {
+  return {centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius};
+}
 
 QConicalGradient beam(const QPointF& centre, double angle) {
   QConicalGradient gradient(centre, -angle);
@@ -127,12 +133,17 @@ void Radar::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void Radar::paintSweep(QPainter* painter, const RadarLayout& layout) const {
-  QPainterPath annulus;
-  annulus.addEllipse(layout.centre, layout.radius, layout.radius);
-  annulus.addEllipse(layout.centre, layout.hollow, layout.hollow);
+  // Only the part of the annulus that the beam lights: the rest would cost as much, for nothing.
+  const double start = -m_angle - kLead;
+  const double span = kFullTurn * kTail + kLead;
+  QPainterPath lit;
+  const QRectF outer = squareAround(layout.centre, layout.radius);
+  lit.arcMoveTo(outer, start);
+  lit.arcTo(outer, start, span);
+  lit.arcTo(squareAround(layout.centre, layout.hollow), start + span, -span);
   painter->setPen(Qt::NoPen);
   painter->setBrush(beam(layout.centre, m_angle));
-  painter->drawPath(annulus);
+  painter->drawPath(lit);
 }
 
 } // namespace ui

@@ -391,7 +391,9 @@ void TestDials::radarPaintsItsBeam() {
     QVERIFY(qAbs(at(image, on(-30)).alphaF() - there) < 0.02);
     QVERIFY(at(image, on(-60)).alpha() < at(image, on(-30)).alpha());
     for (const double behind : {-110.0, -200.0, -340.0}) QCOMPARE(at(image, on(behind)).alpha(), 0);
-    // Nothing inside of the annulus but the core's halo.
+    // The annulus, from 68.2 to 124.
+    for (const double radius : {72.0, 122.0}) QVERIFY(at(image, clockwise({125, 125}, radius, 60)).alpha() > 50);
+    QCOMPARE(at(image, clockwise({125, 125}, 125, 60)).alpha(), 0);
     QVERIFY(at(image, clockwise({125, 125}, 67, 80)).alpha() < 90);
   }
 }
