@@ -54,6 +54,7 @@ int main(int argc, char** argv) {
                                 .busy = [&](const removal::Stay&) { ++stayed; }});
   remover.remove({folder, folder});
   const double ms = clock.ms();
-  std::printf("name=remove ms=%.1f nodes=%lld stayed=%lld peak_kib=%ld\n", ms,
+  const double cpuMs = clock.cpuMs();
+  std::printf("name=remove ms=%.1f cpu_ms=%.1f nodes=%lld stayed=%lld peak_kib=%ld\n", ms, cpuMs,
               static_cast<long long>(remover.removedNodes()), stayed, bench::peakKib());
 }

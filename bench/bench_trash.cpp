@@ -7,8 +7,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <unistd.h>
+
 #include <algorithm>
-#include <ctime>
 #include <optional>
 #include <vector>
 
@@ -41,6 +42,7 @@ class Homes {
       QFile file(paths.last());
       if (!file.open(QIODevice::WriteOnly)) std::exit(1);
     }
+    ::sync(); // so that nobody pays for writing them, nor for what the series before left
     return paths;
   }
 
@@ -49,26 +51,10 @@ class Homes {
   int m_count = 0;
 };
 
-/// Milliseconds that went by, and those of them that a processor worked for this process: on a busy machine only the
-/// second say something.
 struct Times {
-  double ms = 0;
-  double cpuMs = 0;
-};
-
-class Stopwatch {
- public:
-  [[nodiscard]] Times times() const { return {m_clock.ms(), cpuMs() - m_cpuMs}; }
-
- private:
-  static double cpuMs() {
-    timespec now{};
-    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
-  }
-
-  bench::Clock m_clock;
-  double m_cpuMs = cpuMs();
+  explicit Times(const bench::Clock& clock) : ms(clock.ms()), cpuMs(clock.cpuMs()) {}
+  double ms;
+  double cpuMs;
 };
 
 struct Series {
@@ -96,23 +82,23 @@ void fail(const char* what) {
 /// The whole way of an item through the program: its folder opened, judged, moved. The sync at the end counts apart.
 Times byRemover(const QStringList& paths, Series* syncs) {
   std::optional<removal::Remover> remover;
-  const Stopwatch moving;
+  const bench::Clock moving;
   remover.emplace(removal::Options{.toTrash = true},
                   removal::Handlers{.judge = [](const removal::Node&) { return removal::Verdict::Remove; }});
   for (const QString& path : paths) remover->remove({path, path});
-  const Times times = moving.times();
+  const Times times(moving);
   if (remover->removedNodes() != paths.size()) fail("not everything went");
-  const Stopwatch syncing;
+  const bench::Clock syncing;
   remover.reset();
-  if (syncs) syncs->add(syncing.times());
+  if (syncs) syncs->add(Times(syncing));
   return times;
 }
 
 Times byQt(const QStringList& paths) {
-  const Stopwatch watch;
+  const bench::Clock watch;
   for (const QString& path : paths)
     if (!QFile::moveToTrash(path)) fail("Qt could not move");
-  return watch.times();
+  return Times(watch);
 }
 
 } // namespace

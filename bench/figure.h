@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <fstream>
 #include <string>
 
@@ -16,15 +17,24 @@ inline const char* folderArgument(int argc, char** argv) {
   std::exit(2);
 }
 
-/// Milliseconds since it was made.
+/// Milliseconds since it was made, and those of them that a processor worked for this process: on a busy machine only
+/// the second say something.
 class Clock {
  public:
   [[nodiscard]] double ms() const {
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - m_start).count();
   }
+  [[nodiscard]] double cpuMs() const { return cpuNow() - m_cpuStart; }
 
  private:
+  static double cpuNow() {
+    timespec now{};
+    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+  }
+
   std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
+  double m_cpuStart = cpuNow();
 };
 
 /// The most memory that the process ever held, in KiB; 0 where the system doesn't tell.

@@ -36,9 +36,9 @@ class Run(unittest.TestCase):
 
     def test_medians_and_ratios_are_those_of_the_programs_own_times(self):
         self.add("measure", f'n=$(cat {self.trees}/n 2>/dev/null || echo 0); echo $((n + 1)) >{self.trees}/n\n'
-                 'set -- 999 150 120 300; shift $n; echo "name=measure ms=$1 peak_kib=1234"')
+                 'set -- 999 150 120 300; shift $n; echo "name=measure ms=$1 cpu_ms=42.0 peak_kib=1234"')
         done = self.bench("--only", "measure")
-        self.assertEqual(self.row(done.stdout, "measure")[1:5], ["150.0", "120.0", "1234", "1.50"])
+        self.assertEqual(self.row(done.stdout, "measure")[1:6], ["150.0", "120.0", "42.0", "1234", "1.50"])
 
     def test_a_program_that_fails_or_is_missing_is_left_out(self):
         self.add("measure", "echo broken; exit 3")
@@ -55,6 +55,24 @@ class Run(unittest.TestCase):
         done = self.bench("--only", "clean")
         self.assertEqual(self.row(done.stdout, "clean")[1], "5.0")
         self.assertEqual(done.stderr, "")
+
+    def test_promises_are_judged(self):
+        self.add("measure", "echo name=measure ms=105.0")
+        self.add("visit", "echo name=visit ms=110.2")
+        self.add("trash", "echo name=trash ms=7 x_qt=0.39 same_name_x=1.31")
+        printed = self.bench().stdout
+        self.assertIn("measure x floor: 1.05 of 1.05, held", printed)
+        self.assertIn("visit x floor: 1.10 of 1.10, BROKEN", printed)
+        self.assertIn("trash x_qt: 0.39 of 0.40, held", printed)
+        self.assertIn("trash same_name_x: 1.31 of 1.30, BROKEN", printed)
+
+    def test_contenders_begin_in_turn(self):
+        for name in ("measure", "visit"):
+            self.add(name, f'echo {name} >>{self.trees}/order; echo name={name} ms=1')
+        self.bench()
+        order = (self.trees / "order").read_text().split()[:8]  # of four rounds, the floor between them
+        self.assertIn(["visit", "measure"], [order[at:at + 2] for at in range(0, 8, 2)])
+        self.assertIn(["measure", "visit"], [order[at:at + 2] for at in range(0, 8, 2)])
 
     def test_what_compares_itself_is_shown_as_it_says(self):
         self.add("protected", "echo preparing; echo name=protected ms=7 ratio=61.2")
