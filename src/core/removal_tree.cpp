@@ -13,7 +13,7 @@ TreeWalk::TreeWalk(sys::DirReader& reader, UniqueFd top, const NodePath& path, c
 }
 
 void TreeWalk::walkAll() {
-  read();
+  read(Descriptor::Used);
   run();
 }
 
@@ -65,14 +65,14 @@ void TreeWalk::enter() {
   }
   m_levels.push_back({.mark = m_path.mark(), .pendingBegin = m_pending.size(), .inode = inode});
   entered();
-  read();
+  read(Descriptor::Fresh);
 }
 
 bool TreeWalk::readAgain() {
   ino_t inode = 0;
   if (stepInto(&inode) != 0) return false;
   ++level().passes;
-  if (inode == level().inode && read() > 0) return true;
+  if (inode == level().inode && read(Descriptor::Fresh) > 0) return true;
   m_path.backTo(level().mark);
   if (!m_chain.leave()) stop();
   return false;
@@ -80,13 +80,19 @@ bool TreeWalk::readAgain() {
 
 bool TreeWalk::readTopAgain() {
   ++level().passes;
-  return read() > 0;
+  return read(Descriptor::Used) > 0;
+}
+
+bool TreeWalk::begin(Descriptor descriptor) {
+  if (descriptor == Descriptor::Used) return m_reader.start(fd());
+  m_reader.startFresh(fd());
+  return true;
 }
 
 // How many names were visited.
-size_t TreeWalk::read() {
+size_t TreeWalk::read(Descriptor descriptor) {
   size_t visited = 0;
-  if (!m_reader.start(fd())) {
+  if (!begin(descriptor)) {
     level().readError = errno;
     return 0;
   }

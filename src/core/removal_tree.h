@@ -91,7 +91,10 @@ class TreeWalk {
   void enter();
   void leave();
   bool nextPending();
-  size_t read();
+  /// Whether a folder's descriptor is new, or may have been read from.
+  enum class Descriptor { Fresh, Used };
+  bool begin(Descriptor descriptor);
+  size_t read(Descriptor descriptor);
   void visit(const char* name, size_t length, unsigned char type);
   int stepInto(ino_t* inode);
 
