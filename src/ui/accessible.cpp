@@ -33,8 +33,7 @@ class TextInterface : public QAccessibleWidget {
 class ControlInterface : public QAccessibleWidget, public QAccessibleValueInterface {
  public:
   explicit ControlInterface(QWidget* widget)
-      : QAccessibleWidget(widget,
-                          dynamic_cast<AccessibleButton*>(widget) ? QAccessible::Button : QAccessible::ProgressBar),
+      : QAccessibleWidget(widget, roleOf(widget)),
         m_value(dynamic_cast<AccessibleValue*>(widget)),
         m_button(dynamic_cast<AccessibleButton*>(widget)) {}
 
@@ -55,18 +54,18 @@ class ControlInterface : public QAccessibleWidget, public QAccessibleValueInterf
 
   [[nodiscard]] QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
-    state.readOnly = !m_button;
+    state.readOnly = !m_button || !m_button->isPressable();
     state.busy = m_value && m_value->valueFraction() < 0;
     return state;
   }
 
   [[nodiscard]] QStringList actionNames() const override {
     QStringList names = QAccessibleWidget::actionNames();
-    if (m_button && widget()->isEnabled()) names.prepend(pressAction());
+    if (canBePressed()) names.prepend(pressAction());
     return names;
   }
   void doAction(const QString& name) override {
-    if (m_button && name == pressAction() && widget()->isEnabled())
+    if (name == pressAction() && canBePressed())
       m_button->press();
     else
       QAccessibleWidget::doAction(name);
@@ -82,6 +81,13 @@ class ControlInterface : public QAccessibleWidget, public QAccessibleValueInterf
   [[nodiscard]] QVariant minimumStepSize() const override { return 0.0; }
 
  private:
+  static QAccessible::Role roleOf(QWidget* widget) {
+    const auto* button = dynamic_cast<AccessibleButton*>(widget);
+    if (!button) return QAccessible::ProgressBar;
+    return button->isPressable() ? QAccessible::Button : QAccessible::StaticText;
+  }
+  [[nodiscard]] bool canBePressed() const { return m_button && m_button->isPressable() && widget()->isEnabled(); }
+
   AccessibleValue* m_value;
   AccessibleButton* m_button;
 };

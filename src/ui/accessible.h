@@ -26,6 +26,8 @@ class AccessibleButton {
   virtual ~AccessibleButton() = default;
   /// What stands on the button; its name, unless QWidget::accessibleName is set.
   [[nodiscard]] virtual QString buttonText() const = 0;
+  /// Whether there is anything to press; where there isn't, it is read as a text. For the whole life of the widget.
+  [[nodiscard]] virtual bool isPressable() const { return true; }
   /// Does what a click does.
   virtual void press() = 0;
 };
