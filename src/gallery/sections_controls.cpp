@@ -103,9 +103,7 @@ void buttons(Shelf* shelf) {
     shelf->put(button(kind, true), u"with icon"_s);
     shelf->put(disabled(button(kind, true)), u"disabled"_s);
     shelf->put(button(kind, true, "lg"), u"large"_s);
-    ui::Button* focused = button(kind);
-    focused->setProperty("showFocus", true);
-    shelf->putFocused(focused, u"focused"_s);
+    shelf->putFocused(button(kind), u"focused"_s);
   }
 }
 

@@ -104,10 +104,9 @@ Canvas* logoOf(int size) {
   return new Canvas({size, size}, [size](QPainter* painter) { icons::paintLogo(painter, QRectF(0, 0, size, size)); });
 }
 
-// As the icon of the window and in a task bar.
-Canvas* windowIcon(int size) {
-  return new Canvas({size, size}, [size](QPainter* painter) {
-    static const QIcon icon = icons::appIcon();
+// One of the icon's own pictures, as a window, a task bar or a panel takes it.
+Canvas* iconOf(const QIcon& icon, int size) {
+  return new Canvas({size, size}, [icon, size](QPainter* painter) {
     painter->drawPixmap(QRect(0, 0, size, size), icon.pixmap(QSize(size, size), 1.0));
   });
 }
@@ -184,8 +183,9 @@ void lineIcons(Shelf* shelf) {
 
 void logosAndGlyphs(Shelf* shelf) {
   for (const int size : {128, 64, 44, 32, 22}) shelf->put(logoOf(size), u"logo %1"_s.arg(size));
-  for (const int size : {48, 32, 24, 16}) shelf->put(windowIcon(size), u"window %1"_s.arg(size));
-  for (const int size : {36, 22, 18}) shelf->put(trayGlyph(size), u"tray %1"_s.arg(size));
+  for (const int size : {48, 32, 24, 16}) shelf->put(iconOf(icons::appIcon(), size), u"window %1"_s.arg(size));
+  for (const int size : {36, 22, 18}) shelf->put(trayGlyph(size), u"tray glyph %1"_s.arg(size));
+  for (const int size : {32, 22}) shelf->put(iconOf(icons::trayIcon(), size), u"tray %1"_s.arg(size));
   shelf->row();
   for (const QString& name : namesIn(u":/ui"_s)) shelf->put(glyph(name), name);
 }

@@ -80,9 +80,11 @@ QLineEdit {
 }
 QLineEdit:hover { border-color: @lineStrong; }
 QLineEdit:focus { border-color: @accent; }
+QComboBox:disabled, QLineEdit:disabled { color: @text3; }
 
 QScrollArea, QScrollArea > QWidget, QScrollArea > QWidget > QWidget { background: transparent; }
 QScrollArea { border: none; }
+QAbstractScrollArea::corner { background: transparent; border: none; }
 QStackedWidget { background: transparent; }
 QScrollBar { background: transparent; border: none; margin: 2px; }
 QScrollBar:vertical { width: 10px; }
@@ -107,6 +109,7 @@ QMenu { background: @surface; border: 1px solid @lineStrong; padding: 4px; borde
 QMenu::item { padding: 6px 16px; border-radius: 5px; }
 QMenu::item:selected { background: @accentSoft; }
 QMenu::item:disabled { color: @text3; }
+QMenu::separator { background: @line; height: 1px; margin: 4px 8px; }
 )";
 
 QString rgba(const QColor& colour) {

@@ -2,6 +2,8 @@
 #include "support/uitest.h"
 #include "ui/Theme.h"
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QFontDatabase>
 #include <QLabel>
 #include <QLineEdit>
@@ -262,6 +264,13 @@ constexpr Rule kRules[] = {
     {"QPushButton[kind=\"link\"]:disabled", "color", "{text3}"},
     {"QCheckBox:disabled", "color", "{text3}"},
     {"QMenu::item:disabled", "color", "{text3}"},
+    {"QMenu::separator", "background", "{line}"},
+    {"QMenu::separator", "height", "1px"},
+    {"QMenu::separator", "margin", "4px 8px"},
+    {"QComboBox:disabled", "color", "{text3}"},
+    {"QLineEdit:disabled", "color", "{text3}"},
+    {"QAbstractScrollArea::corner", "background", "transparent"},
+    {"QAbstractScrollArea::corner", "border", "none"},
 };
 
 struct Look {
@@ -316,6 +325,8 @@ class TestStyleSheet : public QObject {
   void buttonsHaveTheirHeights();
   void fieldsFillWithTheirOwnWhite();
   void scrollAreasShowWhatIsBehind();
+  void whatIsDisabledLooksIt();
+  void cornerBetweenScrollBarsIsEmpty();
 };
 
 void TestStyleSheet::everyRule_data() {
@@ -452,6 +463,38 @@ void TestStyleSheet::scrollAreasShowWhatIsBehind() {
   QCOMPARE(image.pixelColor(15, 15), QColor(255, 0, 0)); // the content
   QCOMPARE(image.pixelColor(60, 60), QColor(255, 0, 0)); // the viewport
   QCOMPARE(image.pixelColor(10, 10), QColor(255, 0, 0)); // no frame
+}
+
+void TestStyleSheet::whatIsDisabledLooksIt() {
+  for (const Look& look : kLooks) {
+    apply(look);
+    QCheckBox box(u"text"_s);
+    QComboBox combo;
+    QLineEdit edit(u"text"_s);
+    for (QWidget* widget : QList<QWidget*>{&box, &combo, &edit}) {
+      widget->ensurePolished();
+      const auto ink = [widget](QPalette::ColorGroup group) { return widget->palette().color(group, QPalette::Text); };
+      QCOMPARE(ink(QPalette::Active), Theme::get().text);
+      QCOMPARE(ink(QPalette::Disabled), Theme::get().text3);
+    }
+  }
+}
+
+void TestStyleSheet::cornerBetweenScrollBarsIsEmpty() {
+  apply(kLooks[1]);
+  QWidget window;
+  window.setObjectName(u"window"_s);
+  window.setStyleSheet(u"#window { background: #ff0000; }"_s);
+  window.resize(120, 120);
+  QScrollArea area(&window);
+  area.setGeometry(10, 10, 100, 100);
+  auto* content = new QWidget;
+  content->setFixedSize(300, 300);
+  area.setWidget(content);
+  window.show();
+  const QImage image = window.grab().toImage();
+  for (int place = 101; place < 110; ++place)
+    for (int other = 101; other < 110; ++other) QCOMPARE(image.pixelColor(place, other), QColor(255, 0, 0));
 }
 
 int main(int argc, char** argv) { return uitest::run<TestStyleSheet>(argc, argv); }

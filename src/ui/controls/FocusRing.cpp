@@ -77,15 +77,22 @@ bool FocusRing::isWanted() const {
                                   m_widget->focusPolicy() != Qt::NoFocus && m_widget->property(kShowFocus).toBool());
 }
 
+// The frame is a child of a widget that may be going through its children just now, to hide them: it mustn't be gone
+// when they are done.
+void FocusRing::dropFrame() {
+  if (!m_frame) return;
+  m_frame->hide();
+  m_frame->deleteLater();
+  m_frame = nullptr;
+}
+
 void FocusRing::refresh() {
   if (!isWanted()) {
-    delete m_frame;
+    dropFrame();
     return;
   }
-  if (!m_frame || m_frame->parentWidget() != m_widget->parentWidget()) {
-    delete m_frame;
-    m_frame = new Frame(m_widget, m_focus);
-  }
+  if (m_frame && m_frame->parentWidget() != m_widget->parentWidget()) dropFrame();
+  if (!m_frame) m_frame = new Frame(m_widget, m_focus);
   m_frame->setGeometry(focusRingLayout(m_widget->geometry()).frame);
   m_frame->raise();
   m_frame->show();

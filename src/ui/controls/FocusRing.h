@@ -35,6 +35,7 @@ class FocusRing : public QObject {
  private:
   [[nodiscard]] bool isWanted() const;
   void refresh();
+  void dropFrame();
 
   QWidget* m_widget;
   KeyboardFocus* m_focus;

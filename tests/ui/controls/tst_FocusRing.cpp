@@ -68,6 +68,7 @@ class TestFocusRing : public QObject {
   void softWithoutTheKeyboard();
   void followsItsWidget();
   void goesWithItsWidget();
+  void goesWithItsWindow();
   void neitherMouseNorReaderSeesIt();
 };
 
@@ -204,12 +205,22 @@ void TestFocusRing::goesWithItsWidget() {
   const QPointer<QFocusFrame> ring(window.ring());
   QVERIFY(ring);
   delete window.tried;
-  QVERIFY(!ring);
+  QTRY_VERIFY(!ring);
   // And a window that goes with a ring in it goes in one piece.
   auto* second = new Window(new QCheckBox(u"Go"_s));
   QVERIFY(second->tab());
   QVERIFY(second->ring());
   delete second;
+}
+
+void TestFocusRing::goesWithItsWindow() {
+  Window window(new QPushButton(u"Do"_s));
+  QVERIFY(window.tab());
+  const QPointer<QFocusFrame> ring(window.ring());
+  QVERIFY(ring);
+  window.close(); // hides its children one by one, the ring among them
+  QVERIFY(!window.ring());
+  QTRY_VERIFY(!ring);
 }
 
 void TestFocusRing::neitherMouseNorReaderSeesIt() {
