@@ -1,11 +1,7 @@
 // The course of a scan: what is told when, which categories, and how it ends early.
 #include "core/fs.h"
 #include "engines/ScanTest.h"
-#include "engines/Unprivileged.h"
-#include "engines/categories.h"
 
-#include <QDateTime>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QScopeGuard>
@@ -16,9 +12,7 @@
 #include <algorithm>
 #include <limits>
 
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +24,17 @@ constexpr int kAppCache = 1;
 qint64 bytesOf(const QString& path) {
   const std::atomic<bool> never{false};
   return fs::measure(path, never).bytes;
+}
+
+/// On the worker, when @p signal tells of the caches.
+template <typename Signal>
+void cancelAtCaches(Scanner* scanner, Signal signal) {
+  QObject::connect(
+      scanner, signal, scanner,
+      [scanner](int index) {
+        if (index == kAppCache) scanner->cancel();
+      },
+      Qt::DirectConnection);
 }
 
 } // namespace
@@ -204,12 +209,7 @@ void tst_Scanner_course::cancelBeforeTheFirst() {
 void tst_Scanner_course::cancelBetweenCategories() {
   m_home->file(u".cache/mine/a"_s);
   Scanner scanner(nullptr, world());
-  connect(
-      &scanner, &Scanner::categoryFinished, &scanner,
-      [&](int index) {
-        if (index == kAppCache) scanner.cancel();
-      },
-      Qt::DirectConnection);
+  cancelAtCaches(&scanner, &Scanner::categoryFinished);
   ScanRun run;
   run.run(&scanner);
   QVERIFY(run.cancelled);
@@ -222,12 +222,7 @@ void tst_Scanner_course::cancelBetweenCategories() {
 void tst_Scanner_course::cancelInACategory() {
   m_home->file(u".cache/mine/a"_s);
   Scanner scanner(nullptr, world());
-  connect(
-      &scanner, &Scanner::categoryStarted, &scanner,
-      [&](int index) {
-        if (index == kAppCache) scanner.cancel();
-      },
-      Qt::DirectConnection);
+  cancelAtCaches(&scanner, &Scanner::categoryStarted);
   ScanRun run;
   run.run(&scanner);
   QVERIFY(run.cancelled);

@@ -1,8 +1,7 @@
 // The roots of the Linux catalogue.
 #include "core/fs.h"
+#include "engines/CatalogueTest.h"
 #include "engines/ProcStandIn.h"
-#include "engines/categories.h"
-#include "support/FixtureHome.h"
 
 #include <QDir>
 #include <QTest>
@@ -12,57 +11,12 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const CategoryDef& category(const QList<CategoryDef>& defs, const QString& id) {
-  const auto found = std::find_if(defs.begin(), defs.end(), [&](const CategoryDef& def) { return def.id == id; });
-  if (found == defs.end()) qFatal("no category %s", qPrintable(id));
-  return *found;
-}
-
-const ScanRoot* rootAt(const QList<CategoryDef>& defs, const QString& id, const QString& path) {
-  const QList<ScanRoot>& roots = category(defs, id).roots;
-  const auto found = std::find_if(roots.begin(), roots.end(), [&](const ScanRoot& root) { return root.path == path; });
-  return found == roots.end() ? nullptr : &*found;
-}
-
-/// "path|label|patterns" of each root of a category, in order.
-QStringList rootsOf(const QList<CategoryDef>& defs, const QString& id) {
-  QStringList lines;
-  for (const ScanRoot& root : category(defs, id).roots)
-    lines << root.path + u'|' + root.label + u'|' + root.patterns.join(u' ');
-  return lines;
-}
-
-/// The same without an order.
-QStringList sortedRootsOf(const QList<CategoryDef>& defs, const QString& id) {
-  QStringList lines = rootsOf(defs, id);
-  lines.sort();
-  return lines;
-}
-
-QStringList sorted(QStringList lines) {
-  lines.sort();
-  return lines;
-}
-
-} // namespace
-
-class tst_categories_linux : public QObject {
+class tst_categories_linux : public CatalogueTest {
   Q_OBJECT
 
  private slots:
-  void init() {
-    qunsetenv("TARNWICK_HOST");
-    m_home = std::make_unique<FixtureHome>();
-  }
-  void cleanup() {
-    m_home.reset();
-    qunsetenv("TARNWICK_HOST");
-    qunsetenv("XDG_CACHE_HOME");
-    qunsetenv("XDG_CONFIG_HOME");
-    qunsetenv("XDG_DATA_HOME");
-  }
+  void init() { make(); }
+  void cleanup() { drop(); }
 
   void linuxLabelledRoots_data();
   void linuxLabelledRoots();
@@ -81,11 +35,6 @@ class tst_categories_linux : public QObject {
   void linuxPlacesFollowTheVariables();
   void badVariablesDoNotCount();
   void mountPoints();
-
- private:
-  [[nodiscard]] QString at(const QString& relative) const { return m_home->path(relative); }
-
-  std::unique_ptr<FixtureHome> m_home;
 };
 
 void tst_categories_linux::linuxLabelledRoots_data() {

@@ -50,6 +50,5 @@ void startCli(QProcess* process, const QStringList& arguments) {
   process->start(cliProgram(), arguments);
   process->closeWriteChannel();
   process->waitForStarted();
-  while (!handles(process->processId(), SIGHUP) && process->state() == QProcess::Running) {
-  }
+  while (process->state() == QProcess::Running && !handles(process->processId(), SIGHUP)) process->waitForFinished(1);
 }
