@@ -21,6 +21,8 @@ namespace {
 constexpr int kAttempts = 3;
 constexpr std::chrono::milliseconds kFirstWait = 500ms;
 constexpr qsizetype kSamples = 5;
+constexpr std::chrono::milliseconds kBetweenProgress = 60ms;
+constexpr qint64 kFilesPerLook = 64; ///< files between two looks at the clock
 
 /// The measuring pass isn't cut short: what a stopped run left must not count as freed.
 const std::atomic<bool> kNever{false};
@@ -79,8 +81,13 @@ QString sampleOf(const removal::Node& node) {
 
 } // namespace
 
-CleanRun::CleanRun(Order order, const CleanerWorld& world, const std::atomic<bool>& stopped, Progress progress)
-    : m_order(std::move(order)), m_world(world), m_stopped(stopped), m_progress(std::move(progress)) {}
+CleanRun::CleanRun(Order order, const CleanerWorld& world, const std::atomic<bool>& stopped, Progress progress,
+                   FilesProgress filesProgress)
+    : m_order(std::move(order)),
+      m_world(world),
+      m_stopped(stopped),
+      m_progress(std::move(progress)),
+      m_filesProgress(std::move(filesProgress)) {}
 
 CleanReport CleanRun::run() {
   for (const CategoryResult& result : m_order.results) {
@@ -108,6 +115,8 @@ CleanReport CleanRun::run() {
 void CleanRun::tell(const QString& category, const QString& path) {
   m_step.category = category;
   m_step.path = path;
+  m_askedFiles = 0;
+  m_sinceTold.start();
   m_progress(m_step);
 }
 
@@ -221,11 +230,24 @@ removal::Remover& CleanRun::removerFor(const CleanWork& work) {
   if (!remover)
     remover.emplace(removal::Options{.toTrash = work.toTrash, .dryRun = isDry()},
                     removal::Handlers{
-                        .judge = [this](const removal::Node& node) { return m_judge->judge(*m_work, node); },
+                        .judge =
+                            [this](const removal::Node& node) {
+                              onAsked(node);
+                              return m_judge->judge(*m_work, node);
+                            },
                         .kept = [this](const removal::Node& node, removal::Kept kept) { onKept(node, kept); },
                         .busy = [this](const removal::Stay& stay) { onBusy(stay); },
                     });
   return *remover;
+}
+
+/// Tells how far the item in hand is. The files of the item count as dealt with from when it was begun.
+void CleanRun::onAsked(const removal::Node& node) {
+  if (node.isDir || ++m_askedFiles % kFilesPerLook != 0 || !m_filesProgress) return;
+  if (m_sinceTold.elapsed() < kBetweenProgress.count()) return;
+  m_sinceTold.start();
+  const qint64 before = m_step.doneFiles - m_work->item->files;
+  m_filesProgress(m_step.category, std::min(before + m_askedFiles, m_step.doneFiles), m_step.totalFiles);
 }
 
 void CleanRun::onKept(const removal::Node& node, removal::Kept kept) {

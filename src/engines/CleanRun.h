@@ -9,6 +9,7 @@
 #include "engines/Cleaner.h"
 
 #include <QByteArrayList>
+#include <QElapsedTimer>
 #include <QHash>
 
 #include <atomic>
@@ -36,9 +37,13 @@ class CleanRun {
     QString path; ///< in hand, in native separators
   };
   using Progress = std::function<void(const Step&)>;
+  using FilesProgress = std::function<void(const QString& category, qint64 done, qint64 total)>;
 
-  /// @param stopped  once raised, the item in hand is finished and nothing more is begun
-  CleanRun(Order order, const CleanerWorld& world, const std::atomic<bool>& stopped, Progress progress);
+  /// @param stopped        once raised, the item in hand is finished and nothing more is begun
+  /// @param progress       called for each item, and at the end
+  /// @param filesProgress  called within a large item, with how many of all files were dealt with; may be empty
+  CleanRun(Order order, const CleanerWorld& world, const std::atomic<bool>& stopped, Progress progress,
+           FilesProgress filesProgress = {});
 
   [[nodiscard]] CleanReport run();
 
@@ -75,6 +80,7 @@ class CleanRun {
   [[nodiscard]] removal::Remover& removerFor(const CleanWork& work);
   void tell(const QString& category, const QString& path);
   void deal(qint64 bytes, qint64 files);
+  void onAsked(const removal::Node& node);
   void onKept(const removal::Node& node, removal::Kept kept);
   void onBusy(const removal::Stay& stay);
   void skip(const QString& sample, const LoggedPath& path, SkipReason reason, qint64 error = 0);
@@ -84,6 +90,7 @@ class CleanRun {
   const CleanerWorld& m_world;
   const std::atomic<bool>& m_stopped;
   const Progress m_progress;
+  const FilesProgress m_filesProgress;
   CleanReport m_report;
   CleanLog m_log;
   std::optional<CleanJudge> m_judge;
@@ -96,4 +103,6 @@ class CleanRun {
   std::vector<Done> m_done;
   QHash<QString, QByteArrayList> m_gone; ///< names that left a Trash, by the folder that they lay in
   Step m_step;
+  qint64 m_askedFiles = 0; ///< of the item in hand; what is asked twice counts twice
+  QElapsedTimer m_sinceTold;
 };

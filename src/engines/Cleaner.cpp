@@ -15,10 +15,14 @@ Cleaner::~Cleaner() = default;
 void Cleaner::start(const QList<CategoryResult>& results, bool moveToTrash, const QList<QString>& exclusions,
                     Run kind) {
   m_job.start([this, order = CleanRun::Order{results, moveToTrash, exclusions, kind}] {
-    CleanRun run(order, m_world, m_job.cancelled(), [this](const CleanRun::Step& step) {
+    const auto tellFiles = [this](const QString& category, qint64 done, qint64 total) {
+      emit filesProgress(category, done, total);
+    };
+    const auto tell = [this](const CleanRun::Step& step) {
       emit filesProgress(step.category, step.doneFiles, step.totalFiles);
       emit progress(step.doneBytes, step.totalBytes, step.path);
-    });
+    };
+    CleanRun run(order, m_world, m_job.cancelled(), tell, tellFiles);
     emit finished(run.run());
   });
 }

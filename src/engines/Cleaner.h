@@ -43,8 +43,8 @@ class Cleaner : public QObject {
 
  signals:
   // All are emitted on the worker thread.
-  /// Before each progress(): title of the category at work, empty at the end, and files of the selected items dealt
-  /// with, of all.
+  /// Title of the category at work, empty at the end, and files of the selected items dealt with, of all. Before each
+  /// progress(), and within a large item, at most every 60 ms.
   void filesProgress(const QString& category, qint64 done, qint64 total);
   /// Selected bytes dealt with, of all; @p path in native separators.
   void progress(qint64 done, qint64 total, const QString& path);

@@ -68,16 +68,18 @@ class CleanBench {
     const auto direct = Qt::DirectConnection;
     finishedCount = 0;
     progress.clear();
+    files.clear();
     waits.clear();
     QObject::connect(
         cleaner, &Cleaner::filesProgress, cleaner,
         [this](const QString& category, qint64 done, qint64 total) {
-          progress << Progress{-1, -1, {}, category, done, total};
+          files << Progress{-1, -1, {}, category, done, total};
         },
         direct);
     QObject::connect(
         cleaner, &Cleaner::progress, cleaner,
         [this](qint64 done, qint64 total, const QString& path) {
+          progress << files.last();
           progress.last().done = done;
           progress.last().total = total;
           progress.last().path = path;
@@ -136,6 +138,7 @@ class CleanBench {
   CleanReport report;
   QStringList log;
   QList<Progress> progress;
-  QList<int> waits; ///< ms
+  QList<Progress> files; ///< of category and files alone, also within an item
+  QList<int> waits;      ///< ms
   std::atomic<int> finishedCount = 0;
 };

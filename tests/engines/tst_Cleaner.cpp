@@ -37,6 +37,8 @@ class tst_Cleaner : public CleanTest {
   void recycleBin_data();
   void recycleBin();
   void progressCountsEverything();
+  void filesProgressWithinAnItem_data();
+  void filesProgressWithinAnItem();
   void dryRunTouchesNothing();
   void dryRunTellsWhatStays_data();
   void dryRunTellsWhatStays();
@@ -293,6 +295,35 @@ void tst_Cleaner::progressCountsEverything() {
     QCOMPARE(step.total, 24576);
     QCOMPARE(step.totalFiles, 3);
   }
+}
+
+void tst_Cleaner::filesProgressWithinAnItem_data() { modes(); }
+
+// However fast the machine is: files are added until it is told of within the item.
+void tst_Cleaner::filesProgressWithinAnItem() {
+  QFETCH(bool, toTrash);
+  constexpr int kMostFiles = 52'000;
+  QStringList slowRules; // they match nothing, and take their time to tell
+  for (int i = 0; i < 1'000; ++i) slowRules << u"/*a*e*o*%1*"_s.arg(i);
+  const CleanItem before = CleanBench::item(m_bench->home.file(u"a/before"_s));
+  for (int many = 800; many <= kMostFiles && m_bench->files.size() <= 3; many *= 4) {
+    for (int i = 0; i < many; ++i) m_bench->home.file(u"a/many/%1"_s.arg(i), 0);
+    CleanItem item = CleanBench::item(m_bench->home.path(u"a/many"_s));
+    item.bytes = 1;
+    m_bench->run({CleanBench::category(u"x"_s, {before, item})}, toTrash, slowRules);
+    QCOMPARE(m_bench->progress.size(), 3);
+    QCOMPARE(m_bench->files.last().totalFiles, 1 + many);
+  }
+  QVERIFY(m_bench->files.size() > 3);
+  qint64 last = 0;
+  for (const auto& told : m_bench->files) {
+    QVERIFY(told.doneFiles >= last || told.category.isEmpty());
+    QVERIFY(told.doneFiles <= told.totalFiles);
+    last = told.doneFiles;
+  }
+  const auto& within = m_bench->files.at(2);
+  QCOMPARE(within.category, u"X"_s);
+  QVERIFY2(within.doneFiles > 1, qPrintable(QString::number(within.doneFiles)));
 }
 
 void tst_Cleaner::dryRunTouchesNothing() {
