@@ -1,5 +1,6 @@
 #include "support/uitest.h"
 #include "ui/accessible.h"
+#include "ui/controls/Select.h"
 
 #include <QAccessibleInterface>
 #include <QtTest/qtestaccessible.h>
@@ -75,6 +76,8 @@ class TestAccessible : public QObject {
   void partsOutliveTheirControlHarmlessly();
   void valueChangeIsTold();
   void partChangeIsTold();
+  void dropDownIsTold();
+  void textIsTold();
   void nothingIsToldOfPlainWidgets();
 };
 
@@ -287,6 +290,55 @@ void TestAccessible::partChangeIsTold() {
   ui::accessibleItemsChanged(&segments, -1);
   QAccessibleEvent reorder(&segments, QAccessible::ObjectReorder);
   QVERIFY(QTestAccessibility::containsEvent(&reorder));
+}
+
+void TestAccessible::dropDownIsTold() {
+  if (!QAccessible::isActive()) QSKIP("no assistive tool is there to be told");
+  ui::Select select;
+  select.addItems({u"One"_s, u"Two"_s, u"Three"_s});
+  select.show();
+  QVERIFY(QTest::qWaitForWindowExposed(&select));
+  QTestAccessibility::clearEvents();
+  QAccessible::State expanded;
+  expanded.expanded = true;
+  QAccessibleStateChangeEvent opened(&select, expanded);
+
+  select.showPopup();
+  QWidget* list = QApplication::activePopupWidget();
+  QVERIFY(list);
+  QVERIFY(QTestAccessibility::containsEvent(&opened));
+  const auto focusTold = [&](int row) {
+    QAccessibleEvent focus(list, QAccessible::Focus);
+    focus.setChild(row);
+    return QTestAccessibility::containsEvent(&focus);
+  };
+  QVERIFY(focusTold(0));
+  QVERIFY(!focusTold(1));
+  QTest::keyClick(list, Qt::Key_Down);
+  QVERIFY(focusTold(1));
+
+  QTestAccessibility::clearEvents();
+  QTest::keyClick(list, Qt::Key_Return);
+  QVERIFY(!select.isOpen());
+  QVERIFY(QTestAccessibility::containsEvent(&opened)); // the same event tells of the end
+  QAccessibleValueChangeEvent value(&select, u"Two"_s);
+  QVERIFY(QTestAccessibility::containsEvent(&value));
+}
+
+void TestAccessible::textIsTold() {
+  struct Shown : QWidget, ui::AccessibleText {
+    QString text = u"12 GB"_s;
+    [[nodiscard]] QString shownText() const override { return text; }
+  } shown;
+  QCOMPARE(face(&shown)->role(), QAccessible::StaticText);
+  QCOMPARE(face(&shown)->text(QAccessible::Name), u"12 GB"_s);
+  QVERIFY(face(&shown)->text(QAccessible::Description).isEmpty());
+  shown.setAccessibleName(u"Freed"_s);
+  QCOMPARE(face(&shown)->text(QAccessible::Name), u"Freed"_s);
+  if (!QAccessible::isActive()) QSKIP("no assistive tool is there to be told of changes");
+  ui::accessibleTextChanged(&shown);
+  QAccessibleEvent event(&shown, QAccessible::NameChanged);
+  QVERIFY(QTestAccessibility::containsEvent(&event));
 }
 
 void TestAccessible::nothingIsToldOfPlainWidgets() {

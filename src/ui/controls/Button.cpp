@@ -24,8 +24,9 @@ constexpr QLatin1StringView kLarge("lg");
 
 // Lengths in pixels.
 constexpr int kIconSize = 16;
-constexpr int kIconStep = 24; // from the icon's left edge to the text
-constexpr int kSideRoom = 32; // both sides together
+constexpr double kIconRatios[] = {1, 1.5, 2}; // of device pixels, as icons come
+constexpr int kIconStep = 24;                 // from the icon's left edge to the text
+constexpr int kSideRoom = 32;                 // both sides together
 constexpr int kSideRoomLarge = 44;
 constexpr int kHeight = 30;
 constexpr int kLargeExtra = 8;
@@ -116,8 +117,17 @@ QColor Button::iconColour() const {
   return kind == kLink ? theme.accent : theme.text;
 }
 
+// Disabled, the icon takes the colour of the disabled text: what Qt makes of the idle one is brighter than that.
 void Button::refreshIcon() {
-  setIcon(m_iconName.isEmpty() ? QIcon() : icons::icon(m_iconName, iconColour(), kIconSize));
+  if (m_iconName.isEmpty()) {
+    setIcon({});
+    return;
+  }
+  QIcon icon = icons::icon(m_iconName, iconColour(), kIconSize);
+  const QIcon disabled = icons::icon(m_iconName, Theme::get().text3, kIconSize);
+  for (const double ratio : kIconRatios)
+    icon.addPixmap(disabled.pixmap(QSize(kIconSize, kIconSize), ratio), QIcon::Disabled);
+  setIcon(icon);
 }
 
 // Only while it glows does the button pay for its effect; once made, the effect stays.

@@ -80,17 +80,17 @@ QSize Headline::minimumSizeHint() const { return {kLeastWidth, QFontMetrics(m_fo
 
 void Headline::paintEvent(QPaintEvent* /*event*/) {
   QTextLayout layout(m_text, m_font);
-  layOut(&layout, width());
-  QList<QTextLayout::FormatRange> shining;
   if (m_accentLength > 0) {
     QTextCharFormat format;
     format.setForeground(shine());
-    shining << QTextLayout::FormatRange{m_accentStart, m_accentLength, format};
+    // A format of the layout rather than a selection of draw(), whose gradient would run over the whole line.
+    layout.setFormats({QTextLayout::FormatRange{m_accentStart, m_accentLength, format}});
   }
+  layOut(&layout, width());
   QPainter painter(this);
   painter.setRenderHint(QPainter::TextAntialiasing);
   painter.setPen(Theme::get().text);
-  layout.draw(&painter, {}, shining);
+  layout.draw(&painter, {});
 }
 
 } // namespace ui

@@ -92,6 +92,10 @@ void Select::activateItem(int index) {
 
 bool Select::event(QEvent* event) {
   if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverLeave) update();
+  if (event->type() == QEvent::Wheel) {
+    event->ignore(); // the page scrolls; a setting may not change under way
+    return false;
+  }
   return QComboBox::event(event);
 }
 

@@ -22,7 +22,8 @@ struct SelectLayout {
 };
 [[nodiscard]] SelectLayout selectLayout(const QSize& size, bool open);
 
-/// Space, Enter and F4 open the list; the arrow keys choose without opening it.
+/// Space, Enter and F4 open the list; the arrow keys choose without opening it. The wheel goes to what scrolls behind
+/// it.
 class Select : public QComboBox, public AccessibleDropDown {
   Q_OBJECT
 

@@ -41,8 +41,8 @@ bool isNear(const QColor& seen, const QColor& wanted) {
 /// The colour of a place of the body that the content leaves free.
 QColor bodyColour(Button& button) { return rendered(button).pixelColor(6, button.height() / 2); }
 
-QColor iconInk(const Button& button) {
-  const QImage image = button.icon().pixmap(16).toImage();
+QColor iconInk(const Button& button, QIcon::Mode mode = QIcon::Normal, double ratio = 1) {
+  const QImage image = button.icon().pixmap(QSize(16, 16), ratio, mode).toImage();
   QColor strongest(0, 0, 0, 0);
   for (int y = 0; y < image.height(); ++y)
     for (int x = 0; x < image.width(); ++x)
@@ -115,6 +115,10 @@ void TestButton::kinds() {
     const QHash<QString, QColor> inks = {
         {u"white"_s, Qt::white}, {u"text2"_s, theme.text2}, {u"accent"_s, theme.accent}, {u"text"_s, theme.text}};
     QVERIFY2(isNear(iconInk(button), inks[ink]), qPrintable(iconInk(button).name()));
+    for (const double ratio : {1.0, 1.5, 2.0}) {
+      const QColor disabled = iconInk(button, QIcon::Disabled, ratio);
+      QVERIFY2(isNear(disabled, theme.text3), qPrintable(disabled.name()));
+    }
   }
 }
 

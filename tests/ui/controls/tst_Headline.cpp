@@ -173,7 +173,7 @@ void TestHeadline::paintsInkAndShine() {
     const QColor first = ink(image, begin, begin + 12);
     const int low = metrics.ascent() * 3 / 4;
     const QColor last = ink(image.copy(0, low, image.width(), image.height() - low), end - 12, end);
-    QVERIFY2(first.green() > 130 && first.red() < 100 && first.blue() > 200, qPrintable(first.name()));
+    QVERIFY2(first.green() > 190 && first.red() < 50 && first.blue() > 220, qPrintable(first.name()));
     QVERIFY2(last.red() > 120 && last.green() < 100 && last.blue() > 200, qPrintable(last.name()));
   }
 }

@@ -131,6 +131,7 @@ class TestSelect : public QObject {
   void keysInThePopup();
   void escapeCloses();
   void keysOpen();
+  void wheelGoesToThePage();
   void emptySelection();
   void selectGoesWhileOpen();
   void popupPaintsMac();
@@ -444,6 +445,23 @@ void TestSelect::keysOpen() {
   Shown shown;
   QTest::keyClick(shown.select, Qt::Key_Down);
   QCOMPARE(shown.select->currentIndex(), 2);
+}
+
+void TestSelect::wheelGoesToThePage() {
+  struct Page : QWidget {
+    int turns = 0;
+    void wheelEvent(QWheelEvent* /*event*/) override { ++turns; }
+  } page;
+  Select select(&page);
+  select.addItems({u"One"_s, u"Two"_s});
+  page.show();
+  select.setFocus();
+  QWheelEvent down({5, 5}, QPointF(select.mapToGlobal(QPoint(5, 5))), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                   Qt::NoScrollPhase, false);
+  QSpontaneKeyEvent::setSpontaneous(&down); // else it isn't passed on, whoever ignores it
+  qApp->notify(&select, &down);
+  QCOMPARE(select.currentIndex(), 0);
+  QCOMPARE(page.turns, 1);
 }
 
 void TestSelect::emptySelection() {
