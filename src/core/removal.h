@@ -90,7 +90,8 @@ class Remover {
   /// Stayed brings @p stay's error up to date.
   [[nodiscard]] Retry retry(Stay* stay);
 
-  /// In a dry run: what the targets so far would leave behind, in allocated bytes and files.
+  /// In a dry run: what the targets so far would leave behind, in allocated bytes and files, and how much of that
+  /// couldn't be looked into.
   [[nodiscard]] fs::Totals wouldStay() const;
   /// Nodes that went, links and folders not told apart; for tests and benchmarks.
   [[nodiscard]] qint64 removedNodes() const;

@@ -73,9 +73,13 @@ class StayCount::Walk : public TreeWalk {
  protected:
   void file() override { m_count.addFile(fd(), name()); }
   bool folder() override { return true; }
-  void closed(int) override {}
-  void unknown(int) override {}
-  void left() override { popLevel(); }
+  void closed(int error) override { m_count.miss(error); }
+  void unknown(int error) override { m_count.miss(error); }
+  void left() override {
+    m_count.miss(level().readError);
+    popLevel();
+  }
+  void finished() override { m_count.miss(level().readError); }
   void lost() override { stop(); }
 
  private:
@@ -85,13 +89,19 @@ class StayCount::Walk : public TreeWalk {
 void StayCount::addNode(int dirFd, const char* name) {
   struct stat above;
   struct stat own;
-  if (::fstat(dirFd, &above) != 0 || ::fstatat(dirFd, name, &own, AT_SYMLINK_NOFOLLOW) != 0) return;
-  if (!S_ISDIR(own.st_mode)) {
+  if (::fstat(dirFd, &above) != 0 || ::fstatat(dirFd, name, &own, AT_SYMLINK_NOFOLLOW) != 0) {
+    miss(errno);
+  } else if (!S_ISDIR(own.st_mode)) {
     addFile(dirFd, name);
   } else if (own.st_dev == above.st_dev) {
     const UniqueFd folder(::openat(dirFd, name, kFolderFlags));
-    if (folder) addAll(folder.get());
+    folder ? addAll(folder.get()) : miss(errno);
   }
+}
+
+// What isn't there any more holds nothing, and what is no folder is counted as a file.
+void StayCount::miss(int error) {
+  if (error != 0 && error != ENOENT && error != EXDEV) ++m_totals.unread;
 }
 
 void StayCount::addAll(int dirFd) {
@@ -103,8 +113,11 @@ void StayCount::addAll(int dirFd) {
 
 void StayCount::addFile(int dirFd, const char* name) {
   struct stat status;
-  if (::fstatat(dirFd, name, &status, AT_SYMLINK_NOFOLLOW) != 0 || S_ISDIR(status.st_mode)) return;
-  if (sys::isDataless(status)) return;
+  if (::fstatat(dirFd, name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+    miss(errno);
+    return;
+  }
+  if (S_ISDIR(status.st_mode) || sys::isDataless(status)) return;
   if (status.st_nlink > 1) {
     const QPair<quint64, quint64> id(static_cast<quint64>(status.st_dev), status.st_ino);
     if (m_linked.contains(id)) return;

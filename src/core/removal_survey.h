@@ -62,6 +62,7 @@ class StayCount {
  private:
   class Walk;
   void addFile(int dirFd, const char* name);
+  void miss(int error);
 
   sys::DirReader& m_reader;
   fs::Totals m_totals;

@@ -222,7 +222,8 @@ void CleanRun::carryOut(const CleanWork& work) {
     remover.remove(target);
   const fs::Totals after = remover.wouldStay();
   m_done.push_back({&work, m_itemRefused ? fs::Totals{work.item->bytes, work.item->files, 0}
-                                         : fs::Totals{after.bytes - before.bytes, after.files - before.files, 0}});
+                                         : fs::Totals{after.bytes - before.bytes, after.files - before.files, 0,
+                                                      after.unread - before.unread}});
 }
 
 removal::Remover& CleanRun::removerFor(const CleanWork& work) {
@@ -308,7 +309,8 @@ void CleanRun::measure() {
 
 void CleanRun::measureItem(const Done& done) {
   const CleanItem& item = *done.work->item;
-  const fs::Totals left = isDry() ? done.wouldStay : measureLeft(*done.work);
+  fs::Totals left = isDry() ? done.wouldStay : measureLeft(*done.work);
+  if (left.unread > item.unread) left = {item.bytes, item.files, 0}; // what can't be read isn't known to be free
   const qint64 freed = std::max<qint64>(0, item.bytes - left.bytes);
   m_report.freedBytes += freed;
   m_report.removedFiles += std::max<qint64>(0, item.files - left.files);
@@ -328,8 +330,7 @@ fs::Totals CleanRun::measureLeft(const CleanWork& work) {
   if (!fs::stat(path, &entry)) return fs::exists(path) ? all : fs::Totals{};
   // A folder to be emptied that is none any more was swapped for something else: nothing of it is known to have gone.
   if (item.wholeRoot && !entry.isDir) return all;
-  const fs::Totals left = fs::measure(path, kNever);
-  return left.unread > item.unread ? all : left;
+  return fs::measure(path, kNever);
 }
 
 /// Once a folder, as each time means reading what the Trash knows of all its folders.
