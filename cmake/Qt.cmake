@@ -2,7 +2,7 @@
 set(TARNWICK_QT_MIN 6.4)
 find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS Core Gui Concurrent)
 if(TARNWICK_BUILD_UI)
-  find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS Widgets Svg)
+  find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS Network Widgets Svg)
 endif()
 if(UNIX AND NOT APPLE)
   find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS DBus)

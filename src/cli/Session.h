@@ -2,8 +2,8 @@
 #pragma once
 
 #include "app/AppState.h"
-#include "cli/Interrupts.h"
 #include "cli/Progress.h"
+#include "core/Interrupts.h"
 #include "engines/Cleaner.h"
 
 namespace cli {

@@ -22,6 +22,10 @@ void watch(QObject* context, Wish wish, std::function<void()> changed);
 /// Costs two round trips to the X server, where there is one; always true elsewhere.
 [[nodiscard]] bool hasCompositor();
 
+/// Whether the window manager moves and resizes a window when the window asks for it, so that one can do without the
+/// system's frame. Costs three round trips to the X server, where there is one; always true elsewhere.
+[[nodiscard]] bool movesWindows();
+
 /// When moving the window by its empty areas begins.
 enum class DragStart { AtPress, AtFirstMove };
 /// The first move on X11 and Wayland, where a move that begins with the press swallows clicks and double clicks.

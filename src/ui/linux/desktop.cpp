@@ -1,6 +1,7 @@
 #include "ui/desktop.h"
 
 #include "ui/linux/Portal.h"
+#include "ui/linux/x11.h"
 
 namespace desktop {
 
@@ -12,6 +13,10 @@ void watch(QObject* context, Wish wish, std::function<void()> changed) {
   const auto signal = wish == Wish::ColorScheme ? &Portal::schemeChanged : &Portal::reducedMotionChanged;
   QObject::connect(&Portal::get(), signal, context, std::move(changed));
 }
+
+bool hasCompositor() { return !x11::isUsed() || x11::hasOwner("_NET_WM_CM_S0"); }
+
+bool movesWindows() { return !x11::isUsed() || x11::managerSupports("_NET_WM_MOVERESIZE"); }
 
 DragStart dragStart() { return DragStart::AtFirstMove; }
 

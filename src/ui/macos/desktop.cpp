@@ -13,6 +13,8 @@ void watch(QObject* /*context*/, Wish /*wish*/, std::function<void()> /*changed*
 
 bool hasCompositor() { return true; }
 
+bool movesWindows() { return true; }
+
 // The system follows a drag from the press on, and tells clicks and double clicks all the same.
 DragStart dragStart() { return DragStart::AtPress; }
 

@@ -1,5 +1,5 @@
 // A signal handler may do next to nothing, so it writes a byte into a pipe, and the event loop reads it.
-#include "cli/Interrupts.h"
+#include "core/Interrupts.h"
 
 #include <QSocketNotifier>
 
@@ -10,7 +10,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace cli {
 namespace {
 
 std::array<int, 2> pipeEnds = {-1, -1}; // reading, writing; for the life of the process
@@ -63,5 +62,3 @@ void Interrupts::onReadable() {
   }
   emit interrupted();
 }
-
-} // namespace cli

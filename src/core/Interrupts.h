@@ -3,8 +3,6 @@
 
 #include <QObject>
 
-namespace cli {
-
 class Interrupts : public QObject {
   Q_OBJECT
 
@@ -22,5 +20,3 @@ class Interrupts : public QObject {
  private:
   void onReadable();
 };
-
-} // namespace cli

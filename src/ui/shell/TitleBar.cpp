@@ -1,0 +1,79 @@
+#include "ui/shell/TitleBar.h"
+
+#include "app/identity.h"
+#include "ui/Theme.h"
+#include "ui/controls/factory.h"
+#include "ui/icons.h"
+#include "ui/shell/CaptionButton.h"
+#include "ui/shell/words.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace ui {
+namespace {
+
+using Words = words::TitleBar;
+
+// Lengths in pixels.
+constexpr int kHeight = 40;
+constexpr int kLeft = 14;
+constexpr int kLogoRoom = 32;
+constexpr double kLogoX = 12;
+constexpr double kLogo = 22;
+
+} // namespace
+
+QRectF titleBarLogo(int height) { return {kLogoX, (height - kLogo) / 2, kLogo, kLogo}; }
+
+TitleBar::TitleBar(QWidget* window, QWidget* parent) : QWidget(parent), m_window(window) {
+  setFixedHeight(kHeight);
+  QHBoxLayout* row = hbox(0, {kLeft, 0, 0, 0});
+  setLayout(row);
+  row->addSpacing(kLogoRoom);
+  row->addWidget(label(identity::kName, "caption"));
+  row->addStretch();
+  CaptionButton* menu = addButton(CaptionButton::Menu, Words::tr("Menu"));
+  menu->setToolTip(Words::tr("Menu"));
+  connect(menu, &QAbstractButton::clicked, this,
+          [this, menu] { emit menuRequested(menu->mapToGlobal(QPoint(0, menu->height()))); });
+  connect(addButton(CaptionButton::Minimize, Words::tr("Minimize")), &QAbstractButton::clicked, window,
+          &QWidget::showMinimized);
+  m_maximize = addButton(CaptionButton::Maximize, Words::tr("Maximize"));
+  connect(m_maximize, &QAbstractButton::clicked, window,
+          [window] { window->isMaximized() ? window->showNormal() : window->showMaximized(); });
+  connect(addButton(CaptionButton::Close, Words::tr("Close")), &QAbstractButton::clicked, window, &QWidget::close);
+  window->installEventFilter(this);
+  connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
+}
+
+CaptionButton* TitleBar::addButton(int kind, const QString& name) {
+  auto* button = new CaptionButton(CaptionButton::Kind(kind));
+  button->setAccessibleName(name);
+  layout()->addWidget(button);
+  return button;
+}
+
+bool TitleBar::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == m_window && event->type() == QEvent::WindowStateChange) m_maximize->update();
+  return QWidget::eventFilter(watched, event);
+}
+
+void TitleBar::mousePressEvent(QMouseEvent* event) {
+  if (!dragWindowFrom(this, event)) QWidget::mousePressEvent(event);
+}
+
+void TitleBar::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (!zoomWindowFrom(this, event)) QWidget::mouseDoubleClickEvent(event);
+}
+
+void TitleBar::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  icons::paintLogo(&painter, titleBarLogo(height()));
+}
+
+} // namespace ui

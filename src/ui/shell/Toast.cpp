@@ -1,0 +1,89 @@
+#include "ui/shell/Toast.h"
+
+#include "ui/Theme.h"
+#include "ui/controls/IconView.h"
+#include "ui/controls/factory.h"
+#include "ui/paint.h"
+#include "ui/shell/words.h"
+
+#include <QAccessible>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace ui {
+namespace {
+
+// Lengths in pixels.
+constexpr int kGap = 12;
+constexpr QMargins kMargins(14, 8, 8, 8);
+constexpr int kIcon = 16;
+constexpr int kAboveEdge = 24;
+constexpr double kRadius = 14;
+constexpr int kOutlineAlpha = 80;
+
+QString buttonStyle(const QColor& ink) {
+  return u"QPushButton { background: transparent; color: %1; border: 1px solid %2; min-height: 26px; "
+         "max-height: 26px; padding: 0 12px; }"_s.arg(ink.name(),
+                                                      paint::withAlpha(ink, kOutlineAlpha).name(QColor::HexArgb));
+}
+
+} // namespace
+
+Toast::Toast(QWidget* parent)
+    : QWidget(parent),
+      m_text(label({})),
+      m_button(new QPushButton(words::Overlay::tr("Undo"))),
+      m_timer(new QTimer(this)) {
+  m_timer->setSingleShot(true);
+  connect(m_timer, &QTimer::timeout, this, &QWidget::hide);
+  QHBoxLayout* row = hbox(kGap, kMargins);
+  row->addWidget(new IconView(u"check"_s, Tone::Ok, kIcon));
+  row->addWidget(m_text);
+  row->addWidget(m_button);
+  setLayout(row);
+  connect(m_button, &QPushButton::clicked, this, [this] {
+    hide();
+    emit undo();
+  });
+  parent->installEventFilter(this);
+  hide();
+}
+
+void Toast::show(const QString& text, bool undoable) {
+  const QColor ink = Theme::get().toastFg;
+  m_text->setText(text);
+  m_text->setStyleSheet(u"color: %1;"_s.arg(ink.name()));
+  m_button->setVisible(undoable);
+  m_button->setStyleSheet(buttonStyle(ink));
+  setAccessibleName(text);
+  adjustSize();
+  place();
+  QWidget::show();
+  raise();
+  m_timer->start(kShownFor);
+  QAccessibleEvent heard(this, QAccessible::Alert);
+  QAccessible::updateAccessibility(&heard);
+}
+
+void Toast::place() {
+  const QSize area = parentWidget()->size();
+  move((area.width() - width()) / 2, area.height() - height() - kAboveEdge);
+}
+
+bool Toast::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == parent() && event->type() == QEvent::Resize && isVisible()) place();
+  return QWidget::eventFilter(watched, event);
+}
+
+void Toast::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  paint::roundedRect(&painter, rect(), kRadius, Theme::get().toastBg);
+}
+
+} // namespace ui

@@ -1,0 +1,14 @@
+/// The product's web site. Its host is a value of the deployment: the CMake option TARNWICK_WEBSITE.
+#pragma once
+
+#include <QString>
+#include <QUrl>
+
+namespace ui::website {
+
+/// @param path  from the root of the site, with its leading "/"
+[[nodiscard]] QUrl url(QStringView path);
+/// Opens a page in the user's browser.
+void open(QStringView path);
+
+} // namespace ui::website
