@@ -3,6 +3,7 @@
 #include "core/fmt.h"
 #include "ui/Theme.h"
 #include "ui/paint.h"
+#include "ui/visuals/hues.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -21,26 +22,21 @@ constexpr double kLineWidth = 2;
 
 constexpr double kAreaAlpha = 0.35; // at the top; it fades out to the bottom
 
-constexpr QRgb kAreaColour = 0xff6366f1;      // hue: of the area, in both looks
-constexpr QRgb kLineStartColour = 0xff22d3ee; // hue: of the line at its left end
-constexpr QRgb kLineEndColour = 0xffa855f7;   // hue: of the line at its right end
-
 qint64 peakOf(const QList<qint64>& values) {
   return values.isEmpty() ? 1 : std::max<qint64>(1, *std::max_element(values.begin(), values.end()));
 }
 
 QLinearGradient areaBrush(const QRectF& chart) {
-  const QColor colour = QColor::fromRgb(kAreaColour);
   QLinearGradient gradient(chart.topLeft(), chart.bottomLeft());
-  gradient.setColorAt(0, paint::withAlphaF(colour, kAreaAlpha));
-  gradient.setColorAt(1, paint::withAlphaF(colour, 0));
+  gradient.setColorAt(0, paint::withAlphaF(hues::kIndigo, kAreaAlpha));
+  gradient.setColorAt(1, paint::withAlphaF(hues::kIndigo, 0));
   return gradient;
 }
 
 QLinearGradient lineBrush(const QRectF& chart) {
   QLinearGradient gradient(chart.topLeft(), chart.topRight());
-  gradient.setColorAt(0, QColor::fromRgb(kLineStartColour));
-  gradient.setColorAt(1, QColor::fromRgb(kLineEndColour));
+  gradient.setColorAt(0, hues::kCyan);
+  gradient.setColorAt(1, hues::kViolet);
   return gradient;
 }
 

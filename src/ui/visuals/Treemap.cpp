@@ -13,6 +13,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -92,7 +93,7 @@ Treemap::Treemap(QWidget* parent) : QWidget(parent), m_focus(new KeyboardFocus(t
   setFocusPolicy(Qt::StrongFocus);
   setMinimumHeight(kLeastHeight);
   setFixedHeight(kHeight);
-  connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
+  connect(&Theme::get(), &Theme::changed, this, &Treemap::refresh);
 }
 
 void Treemap::setItems(const QList<Item>& items) {
@@ -104,13 +105,12 @@ void Treemap::setItems(const QList<Item>& items) {
   if (still != m_items.end()) m_cursor = int(still - m_items.begin());
   m_cursor = std::clamp(m_cursor, 0, std::max(0, itemCount() - 1));
   relayout();
-  update();
   accessibleItemsChanged(this, -1);
 }
 
 void Treemap::setSelected(const QSet<QString>& keys) {
   const QSet<QString> before = std::exchange(m_selected, keys);
-  update();
+  refresh();
   for (int i = 0; i < itemCount(); ++i)
     if (before.contains(m_items[i].key) != isSelected(i)) accessibleItemsChanged(this, i);
 }
@@ -119,6 +119,13 @@ void Treemap::relayout() {
   QList<qint64> sizes;
   for (const Item& item : m_items) sizes << item.bytes;
   m_rects = treemapLayout(sizes, size());
+  refresh();
+}
+
+/// Paints all tiles anew.
+void Treemap::refresh() {
+  m_stale = rect();
+  update();
 }
 
 AccessibleItems::Item Treemap::itemAt(int index) const {
@@ -151,14 +158,18 @@ void Treemap::mousePressEvent(QMouseEvent* event) { activateItem(firstTileAt(m_r
 void Treemap::mouseMoveEvent(QMouseEvent* event) {
   const int index = lastTileAt(m_rects, event->position());
   if (index == m_hover) return;
-  m_hover = index;
+  setHover(index);
   setToolTip(tipOf(index));
-  update();
 }
 
-void Treemap::leaveEvent(QEvent* /*event*/) {
-  m_hover = -1;
-  update();
+void Treemap::leaveEvent(QEvent* /*event*/) { setHover(-1); }
+
+void Treemap::setHover(int index) {
+  QRegion changed;
+  for (const int tile : {m_hover, index}) changed += m_rects.value(tile).toAlignedRect();
+  m_hover = index;
+  m_stale += changed;
+  update(changed);
 }
 
 void Treemap::keyPressEvent(QKeyEvent* event) {
@@ -197,14 +208,44 @@ void Treemap::moveCursor(int index) {
 
 void Treemap::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  // The glow of a selected tile lies over its neighbours.
-  for (const bool selected : {false, true})
-    for (int i = 0; i < itemCount(); ++i)
-      if (isSelected(i) == selected) paintTile(&painter, i);
+  const double ratio = painter.deviceTransform().m11();
+  paintPicture(ratio);
+  painter.save();
+  painter.scale(1 / ratio, 1 / ratio); // pixel by pixel, at any ratio
+  painter.drawPixmap(QPoint(), m_picture);
+  painter.restore();
   if (!m_focus->isVisible() || m_items.isEmpty()) return;
+  painter.setRenderHint(QPainter::Antialiasing);
   const auto [ring, radius] = treemapRing(m_rects[m_cursor]);
   paint::roundedRect(&painter, ring, radius, Qt::NoBrush, paint::pen(Theme::get().text, kFocusWidth));
+}
+
+/// Brings the picture up to date. @param ratio  pixels to a logical one
+void Treemap::paintPicture(double ratio) {
+  const QSize pixels(int(std::ceil(width() * ratio)), int(std::ceil(height() * ratio)));
+  if (m_picture.size() != pixels) {
+    m_picture = QPixmap(pixels);
+    m_stale = rect();
+  }
+  if (m_stale.isEmpty()) return;
+  QPainter painter(&m_picture);
+  painter.scale(ratio, ratio);
+  painter.setClipRegion(m_stale);
+  painter.setCompositionMode(QPainter::CompositionMode_Clear);
+  painter.fillRect(rect(), Qt::transparent);
+  painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+  painter.setRenderHint(QPainter::Antialiasing);
+  paintTiles(&painter);
+  m_stale = {};
+}
+
+void Treemap::paintTiles(QPainter* painter) const {
+  // The glow of a selected tile lies over its neighbours.
+  for (const bool selected : {false, true})
+    for (int i = 0; i < itemCount(); ++i) {
+      const QRect reach = m_rects[i].toAlignedRect().adjusted(-kGlowLayers, -kGlowLayers, kGlowLayers, kGlowLayers);
+      if (isSelected(i) == selected && m_stale.intersects(reach)) paintTile(painter, i);
+    }
 }
 
 void Treemap::paintTile(QPainter* painter, int index) const {

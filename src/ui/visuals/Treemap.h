@@ -5,7 +5,9 @@
 
 #include <QColor>
 #include <QList>
+#include <QPixmap>
 #include <QRectF>
+#include <QRegion>
 #include <QSet>
 #include <QString>
 #include <QWidget>
@@ -67,7 +69,11 @@ class Treemap : public QWidget, public AccessibleItems {
   void relayout();
   [[nodiscard]] bool isSelected(int index) const { return m_selected.contains(m_items[index].key); }
   [[nodiscard]] QString tipOf(int index) const;
+  void setHover(int index);
   void moveCursor(int index);
+  void refresh();
+  void paintPicture(double ratio);
+  void paintTiles(QPainter* painter) const;
   void paintTile(QPainter* painter, int index) const;
   void paintText(QPainter* painter, const TreemapTile& tile, int index) const;
 
@@ -77,6 +83,10 @@ class Treemap : public QWidget, public AccessibleItems {
   int m_hover = -1; ///< the tile under the pointer; may lie beyond the list until the next move
   int m_cursor = 0; ///< the tile that the keyboard works
   KeyboardFocus* m_focus;
+
+  // Gradients and glows take their time, and most repaints change a tile or two, or none.
+  QPixmap m_picture; ///< of all tiles, without the ring
+  QRegion m_stale;   ///< what of it must be painted anew
 };
 
 } // namespace ui

@@ -117,6 +117,8 @@ class TestTreemap : public QObject {
   void paintsBodies();
   void paintsDimmed();
   void paintsHover();
+  void hoverRepaintsItsTilesOnly();
+  void pictureFollowsTheScale();
   void paintsGlow();
   void paintsRingAndTick();
   void selectionOutlivesItems();
@@ -360,6 +362,40 @@ void TestTreemap::paintsHover() {
   leave(map);
   map.setSelected({});
   QVERIFY(isNear(rendered(map).pixelColor(150, 50), bodyThere(kRed, 1)));
+}
+
+// A hovered tile is painted anew between the glows of its neighbours, and looks as if all had been.
+void TestTreemap::hoverRepaintsItsTilesOnly() {
+  for (const double ratio : {1.0, 1.5, 2.0}) {
+    Treemap map;
+    map.resize(403, 200);
+    map.setItems(many(24));
+    const QSet<QString> selected = {u"1"_s, u"6"_s, u"7"_s, u"20"_s};
+    map.setSelected(selected);
+    const QImage plain = rendered(map, ratio);
+    for (int i = 0; i < 24; ++i) {
+      move(map, map.rects()[i].center());
+      const QImage partly = rendered(map, ratio);
+      map.setSelected(selected); // paints all
+      QCOMPARE(partly, rendered(map, ratio));
+      QVERIFY(partly != plain);
+    }
+    leave(map);
+    QCOMPARE(rendered(map, ratio), plain);
+  }
+}
+
+void TestTreemap::pictureFollowsTheScale() {
+  Treemap map;
+  map.resize(400, 200);
+  map.setItems(four());
+  for (const int ratio : {1, 4, 2}) { // a gap of 4 between the bodies, in whole pixels
+    const QImage image = rendered(map, ratio);
+    QCOMPARE(image.pixelColor(198 * ratio, 50 * ratio).alpha(), 0);
+    QVERIFY(image.pixelColor(198 * ratio - 1, 50 * ratio).alpha() > 230);
+    QCOMPARE(image.pixelColor(202 * ratio - 1, 50 * ratio).alpha(), 0);
+    QVERIFY(image.pixelColor(202 * ratio, 50 * ratio).alpha() > 230);
+  }
 }
 
 void TestTreemap::paintsGlow() {
