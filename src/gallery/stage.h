@@ -16,7 +16,8 @@ void onceShown(QWidget* control, std::function<void()> act);
 
 template <typename Control>
 Control* hovered(Control* control) {
-  pointAt(control, QPointF(1, 1));
+  control->setAttribute(Qt::WA_UnderMouse);
+  onceShown(control, [control] { pointAt(control, QPointF(control->height() / 2.0, control->height() / 2.0)); });
   return control;
 }
 
@@ -29,13 +30,6 @@ Control* disabled(Control* control) {
 template <typename Control>
 Control* pressed(Control* control) {
   hovered(control)->setDown(true);
-  return control;
-}
-
-template <typename Control>
-Control* checked(Control* control) {
-  control->setCheckable(true);
-  control->setChecked(true);
   return control;
 }
 

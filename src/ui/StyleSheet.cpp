@@ -64,7 +64,7 @@ QCheckBox::indicator:indeterminate { image: url(:/ui/dash.svg); }
 
 QComboBox {
   background: @card2; border: 1px solid @lineStrong; border-radius: @rbpx; padding: 0 26px 0 10px;
-  min-height: @fieldpx;
+  min-height: @fieldpx; combobox-popup: 0;
 }
 QComboBox:hover { background: @cardHover; }
 QComboBox::drop-down { border: none; width: 24px; }

@@ -186,6 +186,7 @@ constexpr Rule kRules[] = {
     {"QComboBox", "border-radius", "10px"},
     {"QComboBox", "padding", "0 26px 0 10px"},
     {"QComboBox", "min-height", "{field}"},
+    {"QComboBox", "combobox-popup", "0"}, // a list, not a menu: only a list is dressed by what follows
     {"QComboBox:hover", "background", "{cardHover}"},
     {"QComboBox::drop-down", "border", "none"},
     {"QComboBox::drop-down", "width", "24px"},

@@ -43,9 +43,10 @@ struct Stop {
   double place; ///< in turns behind the edge
   double alpha;
 };
+constexpr double kPeak = 0.95;
 constexpr double kTail = 0.3;
-constexpr double kLead = 1; // degrees before the edge that are still painted, as its pixels reach there
-constexpr Stop kBeam[] = {{0, 0.95}, {0.02, 0.32}, {kTail, 0}, {1, 0}};
+// Beyond the tail nothing is painted but those pixels before the edge that it covers in part: they have its colour.
+constexpr Stop kBeam[] = {{0, kPeak}, {0.02, 0.32}, {kTail, 0}, {1, kPeak}};
 
 QRectF squareAround(const QPointF& centre, double radius) {
   return {centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius};
@@ -134,13 +135,14 @@ void Radar::paintEvent(QPaintEvent* /*event*/) {
 
 void Radar::paintSweep(QPainter* painter, const RadarLayout& layout) const {
   // Only the part of the annulus that the beam lights: the rest would cost as much, for nothing.
-  const double start = -m_angle - kLead;
-  const double span = kFullTurn * kTail + kLead;
+  const double start = -m_angle;
+  const double span = kFullTurn * kTail;
   QPainterPath lit;
   const QRectF outer = squareAround(layout.centre, layout.radius);
   lit.arcMoveTo(outer, start);
   lit.arcTo(outer, start, span);
   lit.arcTo(squareAround(layout.centre, layout.hollow), start + span, -span);
+  lit.closeSubpath();
   painter->setPen(Qt::NoPen);
   painter->setBrush(beam(layout.centre, m_angle));
   painter->drawPath(lit);

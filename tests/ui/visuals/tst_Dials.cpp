@@ -67,6 +67,7 @@ class TestDials : public QObject {
   void radarSweeps();
   void radarRunsAndStands();
   void radarPaintsItsBeam();
+  void radarBeamHasASmoothEdge();
   void radarPaintsRingsAndCore();
   void radarIsReadOut();
 
@@ -396,6 +397,29 @@ void TestDials::radarPaintsItsBeam() {
     QCOMPARE(at(image, clockwise({125, 125}, 125, 60)).alpha(), 0);
     QVERIFY(at(image, clockwise({125, 125}, 67, 80)).alpha() < 90);
   }
+}
+
+void TestDials::radarBeamHasASmoothEdge() {
+  setLook(true);
+  ui::Radar radar;
+  radar.show();
+  radar.setRunning(true);
+  QTRY_VERIFY(radar.angle() > 20); // off the grid of the pixels
+  radar.setRunning(false);
+  const QImage image = rendered(radar);
+  const double turned = qDegreesToRadians(radar.angle());
+  int partly = 0;
+  int dark = 0;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) {
+      // Where the middle of the pixel lies: along the edge, and before it.
+      const QPointF middle(x + 0.5 - 125, y + 0.5 - 125);
+      const double along = middle.x() * std::cos(turned) + middle.y() * std::sin(turned);
+      const double before = middle.y() * std::cos(turned) - middle.x() * std::sin(turned);
+      if (along < 75 || along > 118 || before < 0.05 || before > 0.3) continue;
+      (image.pixelColor(x, y).alpha() > 24 ? partly : dark)++;
+    }
+  QVERIFY2(partly > 5 && partly > 4 * dark, qPrintable(u"%1 in part, %2 dark"_s.arg(partly).arg(dark)));
 }
 
 void TestDials::radarPaintsRingsAndCore() {
