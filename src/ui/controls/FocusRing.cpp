@@ -1,6 +1,7 @@
 #include "ui/controls/FocusRing.h"
 
 #include "ui/controls/KeyboardFocus.h"
+#include "ui/controls/Switch.h"
 #include "ui/paint.h"
 
 #include <QCheckBox>
@@ -27,6 +28,7 @@ constexpr double kLargeButtonRadius = 12;
 constexpr double kOtherRadius = 4;
 
 double radiusOf(const QWidget* widget) {
+  if (qobject_cast<const Switch*>(widget)) return widget->height() / 2.0;
   if (!qobject_cast<const QPushButton*>(widget)) return kOtherRadius;
   const double wanted = widget->property("size").toString() == "lg"_L1 ? kLargeButtonRadius : kButtonRadius;
   return std::min(wanted, widget->height() / 2.0);
@@ -34,7 +36,7 @@ double radiusOf(const QWidget* widget) {
 
 bool takesRing(const QWidget* widget) {
   return qobject_cast<const QPushButton*>(widget) || qobject_cast<const QCheckBox*>(widget) ||
-         qobject_cast<const QRadioButton*>(widget);
+         qobject_cast<const QRadioButton*>(widget) || qobject_cast<const Switch*>(widget);
 }
 
 /// A focus frame by its class, as screen readers leave those out; it places and paints itself in our way.

@@ -1,4 +1,4 @@
-/// The keyboard's focus ring around stock buttons and check boxes, which have no room for one of their own.
+/// The keyboard's focus ring around buttons, check boxes and switches, which have no room for one of their own.
 #pragma once
 
 #include <QObject>

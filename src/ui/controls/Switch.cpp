@@ -1,7 +1,6 @@
 #include "ui/controls/Switch.h"
 
 #include "ui/Theme.h"
-#include "ui/controls/KeyboardFocus.h"
 #include "ui/paint.h"
 
 #include <QKeyEvent>
@@ -13,7 +12,6 @@ namespace {
 // Lengths in pixels.
 constexpr QSize kSize(40, 22);
 constexpr double kKnobInset = 3;
-constexpr double kRingInset = 4; // the ring lies on the track's edge, as there is no room around it
 } // namespace
 
 SwitchLayout switchLayout(const QSize& size, bool checked) {
@@ -27,7 +25,7 @@ SwitchLayout switchLayout(const QSize& size, bool checked) {
   return layout;
 }
 
-Switch::Switch(QWidget* parent) : QAbstractButton(parent), m_focus(new KeyboardFocus(this)) {
+Switch::Switch(QWidget* parent) : QAbstractButton(parent) {
   setCheckable(true);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   setFocusPolicy(Qt::StrongFocus);
@@ -67,7 +65,6 @@ void Switch::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(isChecked() ? QColor(Qt::white) : theme.text2);
   painter.drawEllipse(knob);
-  m_focus->paintRing(&painter, track.adjusted(kRingInset, kRingInset, -kRingInset, -kRingInset), radius - kRingInset);
 }
 
 } // namespace ui

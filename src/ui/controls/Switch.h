@@ -5,8 +5,6 @@
 
 namespace ui {
 
-class KeyboardFocus;
-
 struct SwitchLayout {
   QRectF track;
   QRectF knob;
@@ -14,7 +12,7 @@ struct SwitchLayout {
 /// @param size  of the whole widget
 [[nodiscard]] SwitchLayout switchLayout(const QSize& size, bool checked);
 
-/// Space and Enter turn it over, Left turns it off and Right on.
+/// The keyboard's focus ring lies around it (FocusRing). Space and Enter turn it over, Left turns it off and Right on.
 class Switch : public QAbstractButton {
   Q_OBJECT
 
@@ -26,9 +24,6 @@ class Switch : public QAbstractButton {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
-
- private:
-  KeyboardFocus* m_focus;
 };
 
 } // namespace ui

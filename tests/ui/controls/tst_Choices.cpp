@@ -7,6 +7,7 @@
 #include "ui/controls/Switch.h"
 
 #include <QAccessible>
+#include <QFocusFrame>
 #include <QPainter>
 #include <QSignalSpy>
 
@@ -154,15 +155,20 @@ void TestChoices::switchByKeyboard() {
 }
 
 void TestChoices::switchRingIsForTheKeyboard() {
-  Switch control;
-  control.resize(control.sizeHint());
+  QWidget window;
+  Switch control(&window);
+  control.setGeometry(20, 20, 40, 22);
+  window.show();
+  const auto ring = [&] { return window.findChild<QFocusFrame*>(); };
   const QImage plain = rendered(control);
   QFocusEvent byMouse(QEvent::FocusIn, Qt::MouseFocusReason);
   QApplication::sendEvent(&control, &byMouse);
-  QCOMPARE(rendered(control), plain);
+  QVERIFY(!ring());
   QFocusEvent byTab(QEvent::FocusIn, Qt::TabFocusReason);
   QApplication::sendEvent(&control, &byTab);
-  QVERIFY(rendered(control) != plain);
+  QVERIFY(ring());
+  QCOMPARE(ring()->geometry(), QRect(16, 16, 48, 30));
+  QCOMPARE(rendered(control), plain); // the ring lies around it
 }
 
 void TestChoices::switchIsReadOut() {

@@ -3,6 +3,7 @@
 #include "ui/Theme.h"
 #include "ui/controls/Button.h"
 #include "ui/controls/FocusRing.h"
+#include "ui/controls/Segmented.h"
 #include "ui/controls/Switch.h"
 
 #include <QAccessible>
@@ -83,6 +84,7 @@ void TestFocusRing::keyboardShowsIt_data() {
   for (const char* kind : {"primary", "danger", "ghost", "link", "none"})
     QTest::newRow(kind) << static_cast<QWidget*>(new ui::Button(u"Go"_s, kind));
   QTest::newRow("check box") << static_cast<QWidget*>(new QCheckBox(u"Go"_s));
+  QTest::newRow("switch") << static_cast<QWidget*>(new ui::Switch);
   QTest::newRow("radio button") << static_cast<QWidget*>(new QRadioButton(u"Go"_s));
 }
 
@@ -115,7 +117,7 @@ void TestFocusRing::clickDoesnt() {
 }
 
 void TestFocusRing::othersHaveNone() {
-  Window window(new ui::Switch); // paints its own
+  Window window(new ui::Segmented({u"One"_s, u"Two"_s})); // paints its own
   QVERIFY(window.tab());
   QVERIFY(!window.ring());
   QVERIFY(!window.field->findChild<ui::FocusRing*>());
