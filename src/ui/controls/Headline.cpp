@@ -37,6 +37,7 @@ Headline::Headline(int pixelSize, QWidget* parent)
   QSizePolicy policy(QSizePolicy::MinimumExpanding, QSizePolicy::MinimumExpanding);
   policy.setHeightForWidth(true);
   setSizePolicy(policy);
+  setMinimumWidth(kLeastWidth); // by its policy alone, a layout would give it room for its hint and never wrap it
   connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
 }
 
