@@ -21,6 +21,9 @@ constexpr int kLineSpacing = 3;
 constexpr int kSpacing = 7;
 constexpr int kSwatchSide = 8;
 constexpr double kSwatchRadius = 2;
+// A short label stays whole where there is little room; a longer one gives way.
+constexpr int kShort = 96; // of the whole item
+constexpr int kLeastOfLong = 60;
 
 class Swatch : public QWidget {
  public:
@@ -53,6 +56,8 @@ LegendItem::LegendItem(const QString& label, const QString& amount, const QBrush
   lines->addLayout(caption);
   lines->addWidget(figure);
   setLayout(lines);
+  const int whole = sizeHint().width();
+  setMinimumWidth(whole <= kShort ? whole : kLeastOfLong);
 }
 
 } // namespace ui

@@ -134,9 +134,10 @@ QWidget* OverviewPage::buildHero() {
 QVBoxLayout* OverviewPage::buildHeroText() {
   m_headline = new Headline(kHeadlinePx);
   m_diskLine = label({}, "sub");
+  m_diskLine->setWordWrap(true); // with purgeable space it's too long for the narrowest window
   m_legend = hbox(kLegendSpacing);
   QVBoxLayout* column = vbox();
-  column->addStretch();
+  column->addStretch(1); // before the headline, which would take room too
   column->addWidget(eyebrow(Words::tr("Disk health")));
   column->addSpacing(kEyebrowGap);
   column->addWidget(m_headline);
@@ -146,7 +147,7 @@ QVBoxLayout* OverviewPage::buildHeroText() {
   column->addLayout(m_legend);
   column->addSpacing(kLegendGap);
   column->addLayout(buildChips());
-  column->addStretch();
+  column->addStretch(1);
   return column;
 }
 
@@ -303,9 +304,8 @@ void OverviewPage::showTiles() {
   }
   putInTabOrder(tiles);
   for (CategoryTile* tile : tiles) {
-    if (!focused || tile->id() != focusedId) continue;
-    tile->show(); // the layout does so later only
-    tile->setFocus(reason);
+    tile->show(); // before the layout does: a page that is shorter for a moment would forget how far it is scrolled
+    if (focused && tile->id() == focusedId) tile->setFocus(reason);
   }
 }
 

@@ -25,7 +25,9 @@
 #include <QAccessible>
 #include <QGridLayout>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTranslator>
 #include <QVBoxLayout>
@@ -213,6 +215,7 @@ class TestOverviewPage : public QObject {
   void refreshesOn();
   void rebuildsInsideATilesClick();
   void rebuildsInsideATilesKey();
+  void scrollingSurvivesARebuild();
   void focusSurvivesARebuild_data();
   void focusSurvivesARebuild();
   void focusOfATileThatIsGone();
@@ -372,8 +375,8 @@ void TestOverviewPage::fitsTheSmallestWindow() {
   QFETCH(bool, mac);
   Theme::get().mac = mac;
   Shown shown;
-  shown.setVolume(999'900 * kGB, 888 * kGB, 123 * kGB);
-  shown.setLastScan(QDateTime::currentDateTime().addDays(-20));
+  shown.setVolume(99'900 * kGB, 88'800 * kGB, 12'300 * kGB);
+  shown.setLastScan(QDateTime::currentDateTime().addDays(-1));
   for (const auto& results : {QList<CategoryResult>(), someResults()}) {
     shown.setResults(results);
     shown.page.resize(724, 604);
@@ -735,6 +738,22 @@ void TestOverviewPage::rebuildsInsideATilesKey() {
   QCOMPARE(opened, 1);
   QTRY_VERIFY(!pressed);
   QCOMPARE(shown.tiles().size(), 1);
+}
+
+void TestOverviewPage::scrollingSurvivesARebuild() {
+  Shown shown;
+  shown.setResults(someResults());
+  shown.page.resize(724, 400);
+  shown.show();
+  QScrollBar* bar = shown.only<QScrollArea>()->verticalScrollBar();
+  QTRY_VERIFY(bar->maximum() > 100);
+  bar->setValue(bar->maximum());
+  const int scrolled = bar->value();
+  const QSignalSpy moved(bar, &QScrollBar::valueChanged);
+  shown.setResults(someResults());
+  for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+  QCOMPARE(bar->value(), scrolled);
+  QCOMPARE(moved.count(), 0);
 }
 
 void TestOverviewPage::focusSurvivesARebuild_data() {

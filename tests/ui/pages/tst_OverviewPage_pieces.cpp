@@ -79,6 +79,7 @@ class TestOverviewPagePieces : public QObject {
 
   void legendItemHolds();
   void legendItemPaintsItsSwatch();
+  void legendItemGivesWay();
   void legendItemIsReadOut();
 
   void statCardHolds();
@@ -227,6 +228,14 @@ void TestOverviewPagePieces::legendItemPaintsItsSwatch() {
     QVERIFY(isNear(empty.pixelColor(4, 4), theme.track));
     QVERIFY(isNear(empty.pixelColor(4, 0), outlined(theme.lineStrong, theme.track)));
   }
+}
+
+void TestOverviewPagePieces::legendItemGivesWay() {
+  const LegendItem shortOne(u"Free"_s, u"2 GB"_s);
+  QCOMPARE(shortOne.minimumWidth(), shortOne.sizeHint().width());
+  const LegendItem longOne(u"Apps, documents & system"_s, u"2 GB"_s);
+  QCOMPARE(longOne.minimumWidth(), 60);
+  QVERIFY(longOne.sizeHint().width() > 96);
 }
 
 void TestOverviewPagePieces::legendItemIsReadOut() {
