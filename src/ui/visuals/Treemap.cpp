@@ -225,6 +225,7 @@ void Treemap::paintPicture(double ratio) {
   const QSize pixels(int(std::ceil(width() * ratio)), int(std::ceil(height() * ratio)));
   if (m_picture.size() != pixels) {
     m_picture = QPixmap(pixels);
+    m_picture.fill(Qt::transparent); // gives it an alpha channel
     m_stale = rect();
   }
   if (m_stale.isEmpty()) return;

@@ -119,6 +119,7 @@ class TestTreemap : public QObject {
   void paintsHover();
   void hoverRepaintsItsTilesOnly();
   void pictureFollowsTheScale();
+  void liesOnWhatIsBelow();
   void paintsGlow();
   void paintsRingAndTick();
   void selectionOutlivesItems();
@@ -396,6 +397,18 @@ void TestTreemap::pictureFollowsTheScale() {
     QCOMPARE(image.pixelColor(202 * ratio - 1, 50 * ratio).alpha(), 0);
     QVERIFY(image.pixelColor(202 * ratio, 50 * ratio).alpha() > 230);
   }
+}
+
+void TestTreemap::liesOnWhatIsBelow() {
+  Treemap map;
+  map.resize(400, 200);
+  map.setItems(four());
+  map.setSelected({u"d"_s});
+  QImage image(400, 200, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::yellow);
+  map.render(&image, {}, {}, {});
+  QCOMPARE(image.pixelColor(200, 20), QColor(Qt::yellow)); // a gap
+  QVERIFY(isNear(image.pixelColor(150, 50), over(bodyThere(kRed, 0.45), Qt::yellow)));
 }
 
 void TestTreemap::paintsGlow() {
