@@ -55,7 +55,7 @@ class FlowTest : public QObject {
     m_home = std::make_unique<FixtureHome>();
     AppSettings& settings = AppSettings::instance();
     settings.setMoveToTrash(false);
-    settings.setExclusions({});
+    settings.setExclusions(FixtureHome::rulesForOutside());
     settings.setLastScan(QDateTime());
     settings.put("history/freed", QVariantMap());
     m_home->file(QStringLiteral(".cache/thumbnails/normal/1.png"), 20'000);

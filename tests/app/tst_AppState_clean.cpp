@@ -142,7 +142,7 @@ void tst_AppState_clean::modeComesFromSettingsOrOptions() {
 void tst_AppState_clean::exclusionsReachTheClean() {
   scan();
   m_state->selectAll(true);
-  AppSettings::instance().setExclusions({u"~/Downloads/a.deb"_s}); // made after the scan
+  AppSettings::instance().setExclusions(FixtureHome::rulesForOutside() << u"~/Downloads/a.deb"_s); // after the scan
   clean({.only = {}, .furtherExclusions = {u"*/1.png"_s, u"1.png"_s}, .moveToTrash = {}});
   QVERIFY(QFileInfo::exists(m_home->path(u"Downloads/a.deb"_s)));
   QVERIFY(!QFileInfo::exists(m_home->path(u"Downloads/b.deb"_s)));
@@ -206,7 +206,7 @@ void tst_AppState_clean::unreadableSettings() {
   options.dryRun = dry;
   AppSettings::instance().put("clean/exclusions", QPoint(1, 2));
   clean(options);
-  AppSettings::instance().setExclusions({});
+  AppSettings::instance().setExclusions(FixtureHome::rulesForOutside());
   QCOMPARE(phases.all, (QList<int>{AppState::Cleaning, AppState::Review}));
   QCOMPARE(m_state->report.refusal, words);
   QCOMPARE(m_state->report.dryRunLog, QString());

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <csignal>
@@ -63,6 +64,7 @@ class tst_cli_clean : public CliTest {
   void refusedInForeignHomes();
   void planThatCannotBeShown();
   void reportThatCannotBeShown();
+  void testsLeaveTheTestersOwn();
   void interruptedWhileScanning();
   void interruptedWhileCleaning_data();
   void interruptedWhileCleaning();
@@ -307,7 +309,10 @@ void tst_cli_clean::openFilesStay() {
 }
 
 void tst_cli_clean::dataOfRunningAppsStays() {
-  const QString program = m_home->path(u"bin/acme-notes"_s); // an app that is named like its cache
+  // An app that is named like its cache; of this test alone, as others that run beside it see it too.
+  const QString name = u"acme-run-%1"_s.arg(QCoreApplication::applicationPid());
+  const QString program = m_home->path(u"bin/"_s + name);
+  const QString cache = m_home->file(u".cache/%1/index"_s.arg(name));
   m_home->folder(u"bin"_s);
   QVERIFY(QFile::copy(u"/bin/sleep"_s, program));
   QProcess app;
@@ -320,10 +325,10 @@ void tst_cli_clean::dataOfRunningAppsStays() {
   app.waitForFinished();
   for (const CliRun& run : {dry, asJson, asText}) QCOMPARE(run.code, 1);
   QVERIFY2(dry.out.contains("is running, so"), dry.out.constData());
-  QCOMPARE(strings(asJson.json()[u"runningApps"_s]), QStringList{u"acme-notes"_s});
+  QCOMPARE(strings(asJson.json()[u"runningApps"_s]), QStringList{name});
   QCOMPARE(asJson.json()[u"skipped"_s].toInteger(), 0);
-  QVERIFY2(asText.out.contains("because they are running: acme-notes"), asText.out.constData());
-  QVERIFY(there(u".cache/acme-notes/index"_s));
+  QVERIFY2(asText.out.contains("because they are running: " + name.toUtf8()), asText.out.constData());
+  QVERIFY(QFileInfo::exists(cache));
   QVERIFY(!there(u".cache/acme-paint/brushes"_s));
 }
 
@@ -417,6 +422,20 @@ void tst_cli_clean::reportThatCannotBeShown() {
   QCOMPARE(run.code, 1);
   QVERIFY(run.err.contains("No space left on device"));
   QVERIFY(!there(u".cache/acme-notes/index"_s)); // the report comes after the clean
+}
+
+// The catalogue knows places that aren't below the home folder.
+void tst_cli_clean::testsLeaveTheTestersOwn() {
+  const QString path = u"/var/crash/tarnwick-test-%1.crash"_s.arg(QCoreApplication::applicationPid());
+  QFile crash(path);
+  if (!crash.open(QIODevice::WriteOnly | QIODevice::NewOnly)) QSKIP("there is no folder for crash reports to write to");
+  const auto gone = qScopeGuard([path] { QFile::remove(path); });
+  crash.write("x");
+  crash.close(); // what is open would stay anyway
+  QVERIFY(there(u".xsession-errors.old"_s));
+  QCOMPARE(clean({u"--delete"_s, u"--only"_s, u"logs"_s}).code, 0);
+  QVERIFY(!there(u".xsession-errors.old"_s));
+  QVERIFY(QFileInfo::exists(path));
 }
 
 void tst_cli_clean::interruptedWhileScanning() {

@@ -74,6 +74,12 @@ QString FixtureHome::link(const QString& relative, const QString& target) const 
   return full;
 }
 
+QStringList FixtureHome::rulesForOutside() {
+  const QString user = QString::number(::geteuid());
+  return {QStringLiteral("/var/crash"), QStringLiteral(".Trash-") + user, QStringLiteral("/.Trash/") + user,
+          QStringLiteral("/**/.Trash/") + user};
+}
+
 void FixtureHome::age(const QString& path, const QDateTime& when) {
   const auto touch = [&](const QString& one) {
     const timespec time{static_cast<time_t>(when.toSecsSinceEpoch()), 0};

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 
 class FixtureHome {
@@ -25,6 +26,9 @@ class FixtureHome {
   QString file(const QString& relative, qint64 bytes = 4096) const;
   /// Makes a symbolic link; @p target stands as given.
   QString link(const QString& relative, const QString& target) const;
+  /// Exclusion rules for any real run: they keep it from what the catalogue finds beside the home folder, the tester's
+  /// own crash reports and the Trashes of further volumes.
+  [[nodiscard]] static QStringList rulesForOutside();
   /// Sets the modification and access time of @p path, and of all below it, to @p when.
   static void age(const QString& path, const QDateTime& when);
 

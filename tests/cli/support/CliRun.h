@@ -6,7 +6,8 @@
 #include <QProcess>
 #include <QStringList>
 
-/// Path of the program under test: all of the shipped one, but with a lock for cleans at the root of the fixture.
+/// Path of the program under test: all of the shipped one, but with a lock for cleans at the root of the fixture, and
+/// with rules that keep it in there.
 [[nodiscard]] QString cliProgram();
 /// Path of the program as it ships, which takes the user's own lock.
 [[nodiscard]] QString shippedProgram();

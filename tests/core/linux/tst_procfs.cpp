@@ -349,7 +349,9 @@ class TestProcFs : public QObject {
 
   void theRealOneKnowsAChild() {
     const FixtureHome home;
-    const QString tool = home.path(u"apps/Fancy Viewer-2.1"_s);
+    // A name of this process alone: the same test may run beside it.
+    const QString name = u"fancy viewer %1x"_s.arg(QCoreApplication::applicationPid());
+    const QString tool = home.path(u"apps/Fancy Viewer %1x-2.1"_s.arg(QCoreApplication::applicationPid()));
     const QString folder = home.folder(u"works here"_s);
     home.folder(u"apps"_s);
     QVERIFY(QFile::copy(u"/bin/sleep"_s, tool));
@@ -358,17 +360,17 @@ class TestProcFs : public QObject {
     child.start(tool, {u"60"_s});
     QVERIFY(child.waitForStarted());
     const RunningApps apps = runningApps();
-    QVERIFY(apps.processes.contains(u"fancy viewer-2.1"_s));
-    QVERIFY(apps.processes.contains(u"fancy viewer"_s));
+    QVERIFY(apps.processes.contains(name + "-2.1"_L1));
+    QVERIFY(apps.processes.contains(name));
     QVERIFY(apps.processDirs.contains(home.path(u"apps/"_s).toLower() + u'/'));
     QVERIFY(openFiles().contains(folder));
     QVERIFY(openFiles().contains(tool));
     QVERIFY(isFileInUse(tool));
     QVERIFY(QFile::remove(tool));
-    QVERIFY(runningApps().processes.contains(u"fancy viewer"_s));
+    QVERIFY(runningApps().processes.contains(name));
     child.kill();
     QVERIFY(child.waitForFinished());
-    QVERIFY(!runningApps().processes.contains(u"fancy viewer"_s));
+    QVERIFY(!runningApps().processes.contains(name));
     QVERIFY(!openFiles().contains(folder));
   }
 };
