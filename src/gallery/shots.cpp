@@ -2,6 +2,7 @@
 
 #include "app/AppSettings.h"
 #include "gallery/Sheet.h"
+#include "gallery/pages.h"
 #include "ui/Theme.h"
 
 #include <QDir>
@@ -21,6 +22,8 @@ namespace {
 
 constexpr SheetEntry kSheets[] = {
     {"gallery", [] { return static_cast<QWidget*>(new Sheet); }},
+    {"overview", overviewAtStart},
+    {"overview-found", overviewAfterScan},
 };
 
 // By then an eased ring has come as close to its value as can be seen, and what turns has turned a little.

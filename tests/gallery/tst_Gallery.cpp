@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -75,6 +76,8 @@ class TestGallery : public QObject {
   void otherLookStandsBesideTheLiveOne();
   void otherMetricsNeedAnotherProcess();
   void programWritesBothLooks();
+  void programShowsWhatAScanFinds();
+  void everyControlIsOnTheSheet();
   void programTellsWhatWentWrong();
 };
 
@@ -188,7 +191,7 @@ void TestGallery::otherMetricsNeedAnotherProcess() {
 void TestGallery::programWritesBothLooks() {
   const QTemporaryDir folder;
   const QDir shots(folder.filePath(u"a/b"_s));
-  const Run run = runGallery({u"--write"_s, shots.path()}, u"win"_s, u"1.5"_s);
+  const Run run = runGallery({u"--write"_s, shots.path(), u"--sheet"_s, u"gallery"_s}, u"win"_s, u"1.5"_s);
   QVERIFY2(run.code == 0, qPrintable(run.errors));
   const QStringList names = {u"gallery-dark-win-1.5x.png"_s, u"gallery-light-win-1.5x.png"_s};
   QCOMPARE(shots.entryList(QDir::Files, QDir::Name), names);
@@ -197,6 +200,43 @@ void TestGallery::programWritesBothLooks() {
   QVERIFY(dark.pixelColor(600, 2).lightness() < 60);
   QVERIFY(light.pixelColor(600, 2).lightness() > 200);
   QVERIFY(dark.width() >= 1404 * 3 / 2);
+}
+
+void TestGallery::programShowsWhatAScanFinds() {
+  const QTemporaryDir folder;
+  const auto write = [&](const QString& sheet) {
+    const Run run = runGallery({u"--write"_s, folder.path(), u"--sheet"_s, sheet});
+    return run.code == 0 ? QImage(folder.filePath(sheet + u"-dark-mac-1x.png"_s)) : QImage();
+  };
+  const QImage before = write(u"overview"_s);
+  const QImage after = write(u"overview-found"_s);
+  QVERIFY(!before.isNull());
+  QCOMPARE(before.size(), after.size());
+  QVERIFY(before != after);
+}
+
+// A control that isn't on the sheet is one that nobody looks at.
+void TestGallery::everyControlIsOnTheSheet() {
+  // Taken when it is open; the common part of others.
+  static const QSet<QString> kNotByItself = {u"SelectPopup"_s, u"PaintedButton"_s};
+  const QRegularExpression widget(u"^class (\\w+) : public (?!QObject)Q\\w+"_s, QRegularExpression::MultilineOption);
+  gallery::Sheet sheet;
+  QSet<QString> shown;
+  for (const auto* child : sheet.findChildren<QWidget*>())
+    shown << QString::fromLatin1(child->metaObject()->className());
+  int controls = 0;
+  for (const QString& folder : {u"controls"_s, u"visuals"_s}) {
+    const QDir headers(QStringLiteral(TARNWICK_SOURCE "/src/ui/") + folder);
+    for (const QString& name : headers.entryList({u"*.h"_s})) {
+      QFile header(headers.filePath(name));
+      QVERIFY(header.open(QIODevice::ReadOnly));
+      const QString control = widget.match(QString::fromUtf8(header.readAll())).captured(1);
+      if (control.isEmpty() || kNotByItself.contains(control)) continue;
+      QVERIFY2(shown.contains(u"ui::"_s + control), qPrintable(control));
+      ++controls;
+    }
+  }
+  QVERIFY(controls > 20);
 }
 
 void TestGallery::programTellsWhatWentWrong() {

@@ -21,6 +21,7 @@ say() { echo "dev: $*" >&2; }
 . "$SOURCE/tools/dev/shots.bash"
 setup() { echo "setup $*" >>calls; }
 build() { echo "build $*" >>calls; }
+enter_demo() { echo "demo $*" >>calls; }
 shots "$@"
 """
 
@@ -57,7 +58,7 @@ class Shots(unittest.TestCase):
         target = f"--write {self.root}/build/shots"
         self.assertEqual(
             self.calls(),
-            ["setup build shots", "build dev tarnwick-gallery"]
+            ["setup build shots demo", "build dev tarnwick-gallery", "demo linux"]
             + [f"{look} {scale} en fonts.conf [] {target}" for look in ("mac", "win") for scale in ("1", "1.5", "2")],
         )
         self.assertNotIn("what the gallery says", done.stdout + done.stderr)
@@ -72,7 +73,7 @@ class Shots(unittest.TestCase):
     def test_the_first_that_fails_is_told_and_the_last(self):
         done = self.shots(BROKEN_AT="1.5")
         self.assertEqual(done.returncode, 1)
-        self.assertEqual(len(self.calls()), 4)
+        self.assertEqual(len(self.calls()), 5)
         self.assertIn("mac metrics at scale 1.5 failed", done.stderr)
         self.assertIn("what the gallery says", done.stderr)
 

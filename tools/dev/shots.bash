@@ -1,4 +1,4 @@
-# Pictures of the interface, without a screen. Sourced by ./dev, which defines root and say.
+# Pictures of the interface, without a screen, over a demo home. Sourced by ./dev, which defines root, say and fail.
 
 shot_metrics=(mac win)
 shot_scales=(1 1.5 2)
@@ -13,8 +13,9 @@ take_shots() {
 shots() {
   local folder=${1:-$root/build/shots} metrics scale
   [[ $folder == /* ]] || folder=$OLDPWD/$folder
-  setup build shots || return
+  setup build shots demo || return
   build dev tarnwick-gallery >&2 || return
+  enter_demo linux || return
   for metrics in "${shot_metrics[@]}"; do
     for scale in "${shot_scales[@]}"; do
       if ! take_shots "$folder" "$metrics" "$scale"; then say "$metrics metrics at scale $scale failed"; return 1; fi
