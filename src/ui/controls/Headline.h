@@ -10,6 +10,7 @@ class QTextLayout;
 
 namespace ui {
 
+/// Wants up to 520 pixels, takes more, and wraps in less.
 class Headline : public QWidget, public AccessibleText {
   Q_OBJECT
 

@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QPainter>
 #include <QTextLayout>
+#include <QVBoxLayout>
 
 #include <cmath>
 
@@ -79,6 +80,7 @@ class TestHeadline : public QObject {
   void paintsInkAndShine();
   void withoutAccentNothingShines();
   void wrapsWhereItIsPainted();
+  void givesWayInALayout();
   void isReadOut();
 
   void gradientSizes();
@@ -200,6 +202,24 @@ void TestHeadline::wrapsWhereItIsPainted() {
   const QColor second = ink(image.copy(0, half, width, half), 0, width);
   QVERIFY(second.alpha() > 200);
   QVERIFY(!isNear(second, Theme::get().text, 4));
+}
+
+void TestHeadline::givesWayInALayout() {
+  QWidget window;
+  auto* column = new QVBoxLayout(&window);
+  column->setContentsMargins({});
+  auto* headline = new Headline(30);
+  headline->set(kLong);
+  column->addWidget(headline);
+  auto* below = new QWidget;
+  below->setFixedHeight(10);
+  column->addWidget(below);
+  QCOMPARE(column->minimumSize().width(), 120);
+  QCOMPARE(column->sizeHint().width(), 520);
+  window.resize(200, column->heightForWidth(200));
+  window.show();
+  QCOMPARE(headline->width(), 200);
+  QVERIFY(headline->height() >= heightOf(kLong, 200)); // all of its lines are seen
 }
 
 void TestHeadline::isReadOut() {
