@@ -30,6 +30,7 @@ struct RunningApps {
 struct OpenFiles {
   QSet<QString> files;   ///< clean absolute paths
   QSet<QString> parents; ///< every folder above them, except "/"
+  QSet<QString> roots;   ///< of files, the folders that are some process's root: all in them is in use. On Linux alone
 
   /// Adds a clean absolute path and the folders above it.
   void add(const QString& path);

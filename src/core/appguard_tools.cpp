@@ -69,8 +69,15 @@ struct Escape {
 };
 constexpr Escape kEscapes[] = {{'\\', '\\'}, {'n', '\n'}, {'t', '\t'}, {'r', '\r'}, {'b', '\b'}, {'f', '\f'}};
 
+/// Which of what lsof may have escaped is undone: control characters stand there as "\n" or as "^A".
+enum class Undo { Backslashes, All };
+
 /// Undoes the escape at the start of @p text and tells how long it was; 0 if there is none.
-qsizetype undoEscape(QByteArrayView text, QByteArray& out) {
+qsizetype undoEscape(QByteArrayView text, Undo undo, QByteArray& out) {
+  if (undo == Undo::All && text.size() >= 2 && text[0] == '^' && text[1] >= '?' && text[1] <= '_') {
+    out.append(static_cast<char>(text[1] ^ '@'));
+    return 2;
+  }
   if (text.size() < 2 || text[0] != '\\') return 0;
   for (const Escape& escape : kEscapes) {
     if (text[1] != escape.letter) continue;
@@ -84,11 +91,11 @@ qsizetype undoEscape(QByteArrayView text, QByteArray& out) {
   return 4;
 }
 
-QString unescaped(const QString& text) {
+QString unescaped(const QString& text, Undo undo) {
   const QByteArray raw = text.toUtf8();
   QByteArray out;
   for (qsizetype at = 0; at < raw.size();) {
-    const qsizetype length = undoEscape(QByteArrayView(raw).sliced(at), out);
+    const qsizetype length = undoEscape(QByteArrayView(raw).sliced(at), undo, out);
     if (length == 0) out.append(raw.at(at));
     at += qMax<qsizetype>(1, length);
   }
@@ -113,8 +120,10 @@ OpenFiles parseOpenFiles(const QString& lsofOutput) {
     if (!line.startsWith("n/"_L1)) continue;
     const QString path = line.mid(1);
     addOpen(path, open);
-    // Not every lsof escapes the backslash itself, so a path with one has two readings, and both count as open.
-    if (path.contains(u'\\')) addOpen(unescaped(path), open);
+    // Not every lsof escapes the backslash itself, and none the caret, so a path with one has several readings, and all
+    // count as open.
+    if (path.contains(u'\\')) addOpen(unescaped(path, Undo::Backslashes), open);
+    if (path.contains(u'^')) addOpen(unescaped(path, Undo::All), open);
   }
   return open;
 }

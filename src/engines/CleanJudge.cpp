@@ -74,18 +74,25 @@ removal::Verdict CleanJudge::judgeTarget(const CleanWork& work, const removal::N
   const auto verdict = Spelled{node.path, node.realPath}.ask(m_guard);
   if (verdict != Guard::Verdict::Free) return verdictOf(verdict);
   if (holdsMoreThanCache(node)) return removal::Verdict::KeepProtectedData;
+  if (liesInARoot(work)) return removal::Verdict::KeepOpen;
   if (!isAdmitted(work, node)) return removal::Verdict::KeepOpen;
   return judgeOpen(work, node);
 }
 
+/// The folder of a whole root is never asked about, so its children are.
+bool CleanJudge::liesInARoot(const CleanWork& work) const {
+  return work.item->wholeRoot && (m_open.roots.contains(work.place.path) || m_open.roots.contains(work.place.realPath));
+}
+
 /// A folder that is itself in use, as some process works in it or holds it open, stays in its place: that process must
-/// find it again. It is emptied around what is open in it, like any folder with something open inside.
+/// find it again. It is emptied around what is open in it, like any folder with something open inside. But where a
+/// process has its root, all that it can ever open lies in there, and all of it stays.
 removal::Verdict CleanJudge::judgeOpen(const CleanWork& work, const removal::Node& node) const {
   const auto in = [&](const QSet<QString>& set) {
     return set.contains(node.path) || (!work.isOnePath && set.contains(node.realPath));
   };
   const bool isOpen = in(m_open.files);
-  if (isOpen) return node.isDir ? removal::Verdict::KeepFolder : removal::Verdict::KeepOpen;
+  if (isOpen) return node.isDir && !in(m_open.roots) ? removal::Verdict::KeepFolder : removal::Verdict::KeepOpen;
   if (node.isDir) return in(m_open.parents) ? removal::Verdict::NotWhole : removal::Verdict::Remove;
   return m_isOwnLog(node.realPath) ? removal::Verdict::KeepOpen : removal::Verdict::Remove;
 }

@@ -49,6 +49,7 @@ class CleanJudge {
  private:
   [[nodiscard]] removal::Verdict judgeTarget(const CleanWork& work, const removal::Node& node);
   [[nodiscard]] removal::Verdict judgeOpen(const CleanWork& work, const removal::Node& node) const;
+  [[nodiscard]] bool liesInARoot(const CleanWork& work) const;
   [[nodiscard]] bool isAdmitted(const CleanWork& work, const removal::Node& node);
   [[nodiscard]] bool isAdmittedBelow(const CleanWork& work, const removal::Node& node);
   [[nodiscard]] const categories::Admission& admission();

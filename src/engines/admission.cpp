@@ -43,8 +43,10 @@ QSet<QString> workingFolders(const QString& procRoot) {
     bool isProcess = false;
     (void)entry.name.toUInt(&isProcess);
     if (!isProcess) continue;
-    const QString folder = QFileInfo(fs::join(fs::join(procRoot, entry.name), u"cwd"_s)).symLinkTarget();
-    if (folder != u"/") addWithParents(&folders, folder);
+    for (const QString& place : {u"cwd"_s, u"root"_s}) {
+      const QString folder = QFileInfo(fs::join(fs::join(procRoot, entry.name), place)).symLinkTarget();
+      if (folder != u"/") addWithParents(&folders, folder);
+    }
   }
   return folders;
 }

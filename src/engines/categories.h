@@ -22,7 +22,7 @@ namespace categories {
 /// What admits() must know of the whole system, read once a run.
 struct Admission {
   qint64 nowMs = 0;           ///< ms since the epoch
-  QSet<QString> busyFolders;  ///< working folders of processes, and the folders above them
+  QSet<QString> busyFolders;  ///< working folders and roots of processes, and the folders above them
   QSet<QString> mountFolders; ///< mount points, and the folders above them
   /// Inodes of all files with a lock on them. Without their device: on some file systems the kernel's list of locks
   /// names another one than stat does, and a file that only shares the number is left alone at no harm.

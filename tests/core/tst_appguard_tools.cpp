@@ -234,13 +234,20 @@ class TestAppGuardTools : public QObject {
     QCOMPARE(sources.openFilesLimitMs, 30000);
   }
 
+  void controlCharactersHaveTwoReadings() {
+    const OpenFiles open = tools::parseOpenFiles(u"n/a/one^Atwo\nn/a/^?\nn/a/up^\nn/a/^A\\n\n"_s);
+    for (const QString& path :
+         {u"/a/one^Atwo"_s, u"/a/one\x01two"_s, u"/a/^?"_s, u"/a/\x7f"_s, u"/a/up^"_s, u"/a/^A\n"_s, u"/a/\x01\n"_s})
+      QVERIFY2(open.contains(path), qPrintable(path));
+  }
+
   void theRealToolsAreUnderstood() {
     Sources sources;
     for (const QString& path : {u"/usr/bin/lsof"_s, u"/usr/sbin/lsof"_s})
       if (QFile::exists(path)) sources.lsof = path;
     if (!QFile::exists(sources.ps) || !QFile::exists(sources.lsof)) QSKIP("ps and lsof are not installed");
     const FixtureHome home;
-    QFile file(home.file(u"a folder/n\u00e4me\nwith\\back"_s));
+    QFile file(home.file(u"a folder/n\u00e4me\nwith\\back\x01"_s));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(!tools::runningApps(sources).processes.isEmpty());
     const OpenFiles open = tools::openFiles(sources);

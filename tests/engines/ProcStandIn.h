@@ -24,6 +24,8 @@ class ProcStandIn {
     m_home.link(process + QStringLiteral("/cwd"), workingFolder);
     m_home.link(process + QStringLiteral("/exe"), executable);
   }
+  /// A process that was added has this folder as its root.
+  void setRoot(int pid, const QString& folder) { m_home.link(m_root + QStringLiteral("/%1/root").arg(pid), folder); }
   /// A process that was added holds this file open.
   void addOpenFile(int pid, const QString& path) {
     m_home.link(m_root + QStringLiteral("/%1/fd/%2").arg(pid).arg(++m_descriptors), path);

@@ -34,6 +34,8 @@ class tst_Cleaner_questions : public CleanTest {
   void folderInUse_data();
   void folderInUse();
   void folderInUseAboveTheItems();
+  void rootOfAProcess_data();
+  void rootOfAProcess();
   void openFileOfOddName();
   void linkedRootAsksBothSpellings_data();
   void linkedRootAsksBothSpellings();
@@ -267,6 +269,32 @@ void tst_Cleaner_questions::folderInUseAboveTheItems() {
   QVERIFY(!CleanBench::isThere(at(u".cache/mine/file"_s)));
   QVERIFY(CleanBench::isThere(at(u".cache/mine"_s)));
   QCOMPARE(m_bench->lines("SKIPPED"), QStringList());
+}
+
+void tst_Cleaner_questions::rootOfAProcess_data() {
+  QTest::addColumn<QString>("item");
+  QTest::addColumn<bool>("wholeRoot");
+  QTest::addColumn<QString>("told");
+  QTest::newRow("below the item") << u"a"_s << false << u"a/tree"_s;
+  QTest::newRow("the item") << u"a/tree"_s << false << u"a/tree"_s;
+  QTest::newRow("a whole root") << u"a/tree"_s << true << u"a/tree/lib"_s;
+}
+
+// All that the process can open lies in there.
+void tst_Cleaner_questions::rootOfAProcess() {
+  QFETCH(QString, item);
+  QFETCH(bool, wholeRoot);
+  QFETCH(QString, told);
+  m_bench->home.file(u"a/tree/lib/libc.so"_s);
+  m_bench->home.file(u"a/other"_s);
+  m_bench->proc.addProcess(812, u"/"_s);
+  m_bench->proc.setRoot(812, at(u"a/tree"_s));
+  for (const bool toTrash : {false, true}) {
+    m_bench->run({CleanBench::category(u"x"_s, {CleanBench::item(at(item), wholeRoot)})}, toTrash);
+    QVERIFY(CleanBench::isThere(at(u"a/tree/lib/libc.so"_s)));
+    QCOMPARE(m_bench->lines("SKIPPED"), QStringList{u"SKIPPED  %1  (open in an app)"_s.arg(at(told))});
+  }
+  QCOMPARE(CleanBench::isThere(at(u"a/other"_s)), item != u"a");
 }
 
 void tst_Cleaner_questions::openFileOfOddName() {

@@ -21,7 +21,8 @@ using namespace Qt::StringLiterals;
 namespace appguard {
 
 namespace {
-constexpr const char* kPlaces[] = {"cwd", "root", "exe"}; ///< links beside those of "fd"
+constexpr const char* kRoot = "root";
+constexpr const char* kPlaces[] = {"cwd", kRoot, "exe"}; ///< links beside those of "fd"
 constexpr QByteArrayView kDeleted = " (deleted)";
 constexpr qsizetype kChunk = 65536;
 constexpr qsizetype kSmallFile = 65536;
@@ -224,16 +225,22 @@ RunningApps runningApps(const Sources& sources) {
 
 OpenFiles openFiles(const Sources& sources) {
   QSet<QByteArray> paths;
+  QSet<QByteArray> roots;
   const auto keep = [&](const QByteArray& raw) {
     if (!paths.contains(raw) && standsOnDisk(raw)) paths.insert(raw);
     return false;
   };
   anyProcess(sources.procRoot, [&](int process) {
-    anyLink(process, [&](int dirFd, const char* name) { return keep(target(dirFd, name)); });
+    anyLink(process, [&](int dirFd, const char* name) {
+      const QByteArray raw = target(dirFd, name);
+      if (qstrcmp(name, kRoot) == 0) roots.insert(raw);
+      return keep(raw);
+    });
     return anyMapped(process, keep);
   });
   OpenFiles open;
   for (const QByteArray& raw : std::as_const(paths)) open.add(names::decode(raw));
+  for (const QByteArray& raw : roots.intersect(paths)) open.roots.insert(names::decode(raw));
   return open;
 }
 

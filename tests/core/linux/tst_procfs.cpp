@@ -239,6 +239,7 @@ class TestProcFs : public QObject {
     QCOMPARE(open.files,
              (QSet<QString>{u"/dev/null"_s, u"/data/a folder/file"_s, u"/data/here"_s, u"/chroot"_s, u"/opt/tool"_s,
                             u"/usr/lib/lib.so"_s, u"/usr/lib/other.so"_s, u"/data/second"_s}));
+    QCOMPARE(open.roots, QSet<QString>{u"/chroot"_s});
     QVERIFY(open.contains(u"/data/here"_s));
     QVERIFY(open.containsUnder(u"/data"_s));
     QVERIFY(!open.containsUnder(u"/"_s));
