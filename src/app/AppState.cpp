@@ -87,6 +87,7 @@ void AppState::onScanFinished(const QList<CategoryResult>& found, bool cancelled
     return;
   }
   results = found;
+  m_sums.follow(results, m_unticked); // now, rather than at the first tick
   if (m_scanOptions.recordLastScan) {
     lastScan = QDateTime::currentDateTime();
     AppSettings::instance().setLastScan(lastScan);

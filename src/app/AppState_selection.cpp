@@ -141,6 +141,11 @@ qint64 AppState::selectedBytes() const {
   return sum;
 }
 
+qint64 AppState::selectedBytesOf(const QString& id) const {
+  const CategoryResult* category = result(id);
+  return category ? tickedBytes(*category) : 0;
+}
+
 template <typename Test>
 bool AppState::anySelected(Test test) const {
   return std::any_of(results.cbegin(), results.cend(),

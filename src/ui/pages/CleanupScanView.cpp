@@ -1,0 +1,137 @@
+#include "ui/pages/CleanupScanView.h"
+
+#include "app/AppState.h"
+#include "core/fmt.h"
+#include "ui/controls/Button.h"
+#include "ui/controls/PageHeader.h"
+#include "ui/controls/factory.h"
+#include "ui/pages/CleanupWords.h"
+#include "ui/pages/furniture.h"
+#include "ui/visuals/Radar.h"
+#include "ui/visuals/ScanStepRow.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace ui {
+
+namespace {
+
+// Lengths in pixels.
+constexpr int kBodySpacing = 18;
+constexpr int kBodyBottom = 28;
+constexpr QMargins kStepsMargins(8, 8, 8, 8);
+constexpr int kStepSpacing = 2;
+constexpr int kPathWidth = 280;
+// Shares of the room.
+constexpr int kRadarStretch = 2;
+constexpr int kStepsStretch = 3;
+
+constexpr double kHalfDone = 0.5;
+constexpr double kEstimateFrom = 0.15;
+constexpr qint64 kMsInSecond = 1000;
+
+QString dash() { return u"—"_s; }
+QString stepName(qsizetype index) { return u"step%1"_s.arg(index); }
+
+} // namespace
+
+double scanFraction(int current, qsizetype count) {
+  if (count < 1) return 0;
+  return std::clamp((std::max(current, 0) + kHalfDone) / double(count), 0.0, 1.0);
+}
+
+QString scanRemaining(double fraction, qint64 elapsedSeconds) {
+  if (fraction <= kEstimateFrom) return dash();
+  return u'~' + fmt::clock(qint64((1 - fraction) * (double(elapsedSeconds) / fraction)));
+}
+
+CleanupScanView::CleanupScanView(AppState* state, QWidget* parent)
+    : QWidget(parent),
+      m_state(state),
+      m_radarCard(new RadarCard(CleanupWords::tr("Scanning"))),
+      m_itemsValue(m_radarCard->addCounter(CleanupWords::tr("Items checked"))),
+      m_elapsedValue(m_radarCard->addCounter(CleanupWords::tr("Elapsed"))),
+      m_remainingValue(m_radarCard->addCounter(CleanupWords::tr("Remaining"))),
+      m_stepsLayout(vbox(kStepSpacing)) {
+  m_radarCard->path()->setObjectName("scanPath"_L1);
+  m_itemsValue->setObjectName("itemsValue"_L1);
+  m_elapsedValue->setObjectName("elapsedValue"_L1);
+  m_remainingValue->setObjectName("remainingValue"_L1);
+
+  auto* header = new PageHeader(CleanupWords::tr("Scanning"));
+  header->setEyebrow(CleanupWords::tr("In progress"));
+  auto* stop = new Button(CleanupWords::tr("Stop"));
+  connect(stop, &Button::clicked, state, &AppState::cancelScan);
+  header->addAction(stop);
+
+  auto* steps = new Card;
+  QVBoxLayout* column = vbox(0, kStepsMargins);
+  steps->setLayout(column);
+  column->addLayout(m_stepsLayout);
+  column->addStretch();
+
+  QHBoxLayout* body = hbox(kBodySpacing, {pageSide(), 0, pageSide(), kBodyBottom});
+  body->addWidget(m_radarCard, kRadarStretch);
+  body->addWidget(steps, kStepsStretch);
+  QVBoxLayout* root = vbox();
+  setLayout(root);
+  root->addWidget(header);
+  root->addLayout(body, 1);
+}
+
+void CleanupScanView::rebuildSteps() {
+  clearLayout(m_stepsLayout);
+  const QList<CategoryDef>& defs = m_state->scanDefs;
+  for (qsizetype i = 0; i < defs.size(); ++i) {
+    const CategoryDef& def = defs.at(i);
+    auto* row = new ScanStepRow(def.icon, def.colour, def.title);
+    row->setObjectName(stepName(i));
+    m_stepsLayout->addWidget(row);
+  }
+  m_shownStepCount = defs.size();
+}
+
+void CleanupScanView::paintSteps() {
+  const int current = m_state->scanCategory;
+  for (qsizetype i = 0; i < m_shownStepCount; ++i) {
+    auto* row = m_stepsLayout->parentWidget()->findChild<ScanStepRow*>(stepName(i));
+    if (!row) continue;
+    if (i < current)
+      row->set(StepBar::Done, fmt::bytes(m_state->sizeOfScanned(int(i))));
+    else if (i == current)
+      row->set(StepBar::Running, u"…"_s);
+    else
+      row->set(StepBar::Pending, dash());
+  }
+}
+
+void CleanupScanView::refresh() {
+  const int current = m_state->scanCategory;
+  const qsizetype count = m_state->scanDefs.size();
+  if (m_shownStepCount != count) {
+    rebuildSteps();
+    forgetColours();
+  }
+  if (current != m_shownStepIndex) paintSteps();
+  m_shownStepIndex = current;
+
+  Radar* radar = m_radarCard->radar();
+  radar->setRunning(m_state->phase == AppState::Scanning);
+  radar->setText(fmt::bytes(m_state->scanBytes), CleanupWords::tr("found"));
+  m_radarCard->path()->setPath(m_state->scanPath, kPathWidth);
+  const QElapsedTimer& timer = m_state->scanTimer;
+  const qint64 seconds = timer.isValid() ? timer.elapsed() / kMsInSecond : 0;
+  m_itemsValue->setText(fmt::count(m_state->scanFiles));
+  m_elapsedValue->setText(fmt::clock(seconds));
+  m_remainingValue->setText(scanRemaining(scanFraction(current, count), seconds));
+}
+
+void CleanupScanView::stopRadar() { m_radarCard->radar()->setRunning(false); }
+
+} // namespace ui

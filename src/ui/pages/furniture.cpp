@@ -1,0 +1,149 @@
+#include "ui/pages/furniture.h"
+
+#include "ui/Theme.h"
+#include "ui/controls/Button.h"
+#include "ui/controls/IconTile.h"
+#include "ui/controls/factory.h"
+#include "ui/visuals/Radar.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace ui {
+
+namespace {
+
+// Lengths in pixels.
+constexpr int kSideMac = 28;
+constexpr int kSideWin = 32;
+constexpr QMargins kCentredMargins(32, 24, 32, 24);
+constexpr int kBelowBlock = 2; // stretch
+constexpr int kStartSpacing = 8;
+constexpr int kStartTile = 56;
+constexpr int kBelowTile = 8;
+constexpr int kAboveButton = 12;
+constexpr int kStatSpacing = 2;
+constexpr int kCardMin = 290;
+constexpr int kCardMax = 340;
+constexpr int kCardSpacing = 18;
+constexpr QMargins kCardMargins(26, 26, 26, 26);
+constexpr int kPathMin = 10;
+constexpr int kCheckSquare = 16;
+
+QString fontSize(int pixels) { return u"font-size: %1px;"_s.arg(pixels); }
+
+QLabel* centredLabel(const QString& text, const char* role, Qt::Alignment alignment = Qt::AlignCenter) {
+  QLabel* result = label(text, role);
+  result->setAlignment(alignment);
+  return result;
+}
+
+/// A tile in the accent of the look in force.
+IconTile* accentTile(const QString& icon, int size) {
+  auto* tile = new IconTile(icon, Theme::get().accent, size);
+  QObject::connect(&Theme::get(), &Theme::changed, tile, [tile, icon] { tile->set(icon, Theme::get().accent); });
+  return tile;
+}
+
+} // namespace
+
+int pageSide() { return Theme::get().mac ? kSideMac : kSideWin; }
+
+QWidget* centred(QLayout* block, int maxWidth) {
+  auto* holder = new QWidget;
+  holder->setLayout(block);
+  holder->setMaximumWidth(maxWidth);
+  QHBoxLayout* row = hbox();
+  row->addStretch();
+  row->addWidget(holder, 1);
+  row->addStretch();
+  auto* whole = new QWidget;
+  QVBoxLayout* column = vbox(0, kCentredMargins);
+  whole->setLayout(column);
+  column->addStretch();
+  column->addLayout(row);
+  column->addStretch(kBelowBlock);
+  return whole;
+}
+
+StartBlock startBlock(const StartWords& words) {
+  StartBlock block{.layout = vbox(kStartSpacing), .start = new Button(words.button, "primary", words.buttonIcon, "lg")};
+  block.layout->addWidget(accentTile(words.icon, kStartTile), 0, Qt::AlignHCenter);
+  block.layout->addSpacing(kBelowTile);
+  block.layout->addWidget(centredLabel(words.title, "h2"));
+  QLabel* text = centredLabel(words.text, "sub");
+  text->setWordWrap(true);
+  block.layout->addWidget(text);
+  block.layout->addSpacing(kAboveButton);
+  block.layout->addWidget(block.start, 0, Qt::AlignHCenter);
+  return block;
+}
+
+StatPair statPair(const QString& caption, const StatSizes& sizes) {
+  StatPair pair{.layout = vbox(kStatSpacing), .value = centredLabel({}, "num")};
+  pair.value->setStyleSheet(fontSize(sizes.value));
+  QLabel* below = centredLabel(caption, "micro");
+  if (sizes.caption > 0) below->setStyleSheet(fontSize(sizes.caption));
+  below->setBuddy(pair.value); // tells screen readers what the value is of
+  pair.layout->addWidget(pair.value);
+  pair.layout->addWidget(below);
+  return pair;
+}
+
+QCheckBox* bareCheckBox(const QString& name) {
+  auto* box = new QCheckBox;
+  box->setFixedWidth(kCheckSquare); // it would keep room for the gap before a label
+  box->setAccessibleName(name);
+  return box;
+}
+
+PathLabel::PathLabel(QWidget* parent) : QLabel(parent) {
+  setRole(this, "mono");
+  setTextFormat(Qt::PlainText); // file names may look like markup
+  setAlignment(Qt::AlignCenter);
+}
+
+void PathLabel::setPath(const QString& path, int widthPx) {
+  const QString native = QDir::toNativeSeparators(path);
+  setAccessibleName(native);
+  setText(fontMetrics().elidedText(native, Qt::ElideMiddle, widthPx));
+}
+
+void PathLabel::paintEvent(QPaintEvent* /*event*/) {
+  const QRect room = contentsRect();
+  QPainter painter(this);
+  painter.setPen(palette().color(foregroundRole()));
+  painter.drawText(room, int(alignment()), fontMetrics().elidedText(text(), Qt::ElideMiddle, room.width()));
+}
+
+RadarCard::RadarCard(const QString& name, QWidget* parent)
+    : Card(parent), m_radar(new Radar), m_path(new PathLabel), m_counters(hbox()) {
+  setMinimumWidth(std::max(kCardMin, m_radar->width() + kCardMargins.left() + kCardMargins.right()));
+  setMaximumWidth(kCardMax);
+  m_radar->setAccessibleName(name);
+  m_path->setMinimumWidth(kPathMin);
+  m_path->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  QVBoxLayout* column = vbox(kCardSpacing, kCardMargins);
+  setLayout(column);
+  column->addStretch();
+  column->addWidget(m_radar, 0, Qt::AlignHCenter);
+  column->addWidget(m_path);
+  column->addLayout(m_counters);
+  column->addStretch();
+}
+
+QLabel* RadarCard::addCounter(const QString& caption) {
+  const StatPair pair = statPair(caption);
+  pair.value->setText(u"—"_s);
+  m_counters->addLayout(pair.layout, 1);
+  return pair.value;
+}
+
+} // namespace ui

@@ -1,0 +1,86 @@
+/// What several pages are furnished with: the centred block, the start view, the radar with its counters, a value over
+/// its caption. User-interface thread only.
+#pragma once
+
+#include "ui/controls/Card.h"
+
+#include <QLabel>
+#include <QString>
+
+class QCheckBox;
+class QHBoxLayout;
+class QLayout;
+class QVBoxLayout;
+
+namespace ui {
+
+class Button;
+class Radar;
+
+/// What a page leaves free at its left and right, in pixels.
+[[nodiscard]] int pageSide();
+
+/// A widget that holds @p block in the middle of its width, at most @p maxWidth wide.
+[[nodiscard]] QWidget* centred(QLayout* block, int maxWidth);
+
+/// What a page shows before anything was done on it.
+struct StartWords {
+  QString icon;
+  QString title;
+  QString text;
+  QString button;
+  QString buttonIcon;
+};
+struct StartBlock {
+  QVBoxLayout* layout = nullptr; ///< no margins, no parent yet
+  Button* start = nullptr;
+};
+[[nodiscard]] StartBlock startBlock(const StartWords& words);
+
+/// A value over its caption, both centred.
+struct StatPair {
+  QVBoxLayout* layout = nullptr; ///< no parent yet
+  QLabel* value = nullptr;
+};
+struct StatSizes {
+  int value = 15;  ///< font size in pixels
+  int caption = 0; ///< 0: as every caption
+};
+[[nodiscard]] StatPair statPair(const QString& caption, const StatSizes& sizes = {});
+
+/// A check box without a label, no wider than its square. @param name  what a screen reader calls it
+[[nodiscard]] QCheckBox* bareCheckBox(const QString& name);
+
+/// A line for a path, never wider than the room it is given; what doesn't fit is left out in the middle.
+class PathLabel : public QLabel {
+  Q_OBJECT
+
+ public:
+  explicit PathLabel(QWidget* parent = nullptr);
+  /// Shows @p path in native separators, shortened to @p widthPx. Its whole text is told to screen readers.
+  void setPath(const QString& path, int widthPx);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+/// The card at the left of a running search: the radar, where it is looking, and counters.
+class RadarCard : public Card {
+  Q_OBJECT
+
+ public:
+  /// @param name  what a screen reader calls the radar
+  explicit RadarCard(const QString& name, QWidget* parent = nullptr);
+
+  [[nodiscard]] Radar* radar() const { return m_radar; }
+  [[nodiscard]] PathLabel* path() const { return m_path; }
+  /// Appends a counter, which shows "—" until its text is set. @return its value, owned by the card
+  QLabel* addCounter(const QString& caption);
+
+ private:
+  Radar* m_radar;
+  PathLabel* m_path;
+  QHBoxLayout* m_counters;
+};
+
+} // namespace ui
