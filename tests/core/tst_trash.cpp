@@ -333,6 +333,7 @@ void TestTrash::tellsAnUnwritableTrash() {
     ::chmod(raw(m_trash + u"/files"_s).constData(), 0700);
     return 0;
   });
+  ::chmod(raw(m_home.path(u"fixed"_s)).constData(), 0700);
   QCOMPARE(result, 0);
 }
 
