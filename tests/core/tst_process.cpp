@@ -46,14 +46,22 @@ class TestProcess : public QObject {
     QCOMPARE(code, -1);
   }
 
+  // Without an end to the tool it would take the second of grace too, every time; a busy machine may take that once.
   void aTimeOutEndsTheToolAndGivesNothing() {
-    int code = 0;
-    QElapsedTimer clock;
-    clock.start();
-    QCOMPARE(shell(u"trap '' TERM; echo early; exec sleep 30"_s, 200, &code), QString());
-    QCOMPARE(code, -1);
-    // Without an end to the tool it would take the second of grace too.
-    QVERIFY2(clock.elapsed() >= 200 && clock.elapsed() < 1200, qPrintable(QString::number(clock.elapsed())));
+    constexpr int kLimitMs = 200;
+    constexpr int kGraceMs = 1000;
+    constexpr int kTries = 10;
+    qint64 elapsedMs = kLimitMs + kGraceMs;
+    for (int i = 0; i < kTries && elapsedMs >= kLimitMs + kGraceMs; ++i) {
+      int code = 0;
+      QElapsedTimer clock;
+      clock.start();
+      QCOMPARE(shell(u"trap '' TERM; echo early; exec sleep 60"_s, kLimitMs, &code), QString());
+      elapsedMs = clock.elapsed();
+      QCOMPARE(code, -1);
+      QVERIFY(elapsedMs >= kLimitMs);
+    }
+    QVERIFY2(elapsedMs < kLimitMs + kGraceMs, qPrintable(QString::number(elapsedMs)));
   }
 
   void aMissingToolIsMinusOneAtOnce() {

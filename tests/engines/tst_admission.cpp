@@ -61,6 +61,7 @@ class tst_admission : public QObject {
   void workingFolder();
   void workingFolderBelow();
   void workingFolderBeside();
+  void rootOfAProcess();
   void mountOnIt();
   void mountBelow();
   void unreadableBelow();
@@ -302,6 +303,15 @@ void tst_admission::workingFolderBeside() {
   m_proc->addProcess(813, u"/"_s);
   m_proc->addProcess(814, m_home->temp());
   QVERIFY(admits(u"folder"_s));
+}
+
+void tst_admission::rootOfAProcess() {
+  oldFile(u"folder/tree/file"_s);
+  oldFile(u"other/file"_s);
+  m_proc->addProcess(812, u"/"_s);
+  m_proc->setRoot(812, m_home->temp(u"folder/tree"_s));
+  QVERIFY(!admits(u"folder"_s));
+  QVERIFY(admits(u"other"_s));
 }
 
 void tst_admission::mountOnIt() {
