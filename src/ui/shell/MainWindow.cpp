@@ -1,0 +1,222 @@
+#include "ui/shell/MainWindow.h"
+
+#include "app/AppState.h"
+#include "app/identity.h"
+#include "core/platform.h"
+#include "engines/Cleaner.h"
+#include "ui/Theme.h"
+#include "ui/controls/PageHeader.h"
+#include "ui/controls/factory.h"
+#include "ui/icons.h"
+#include "ui/pages/CleanupPage.h"
+#include "ui/pages/OverviewPage.h"
+#include "ui/shell/AboutDialog.h"
+#include "ui/shell/ConfirmCleanDialog.h"
+#include "ui/shell/Overlay.h"
+#include "ui/shell/Sidebar.h"
+#include "ui/shell/SidebarToggle.h"
+#include "ui/shell/TitleBar.h"
+#include "ui/shell/Toast.h"
+#include "ui/shell/frame.h"
+#include "ui/shell/website.h"
+#include "ui/shell/words.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QUrl>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace ui {
+namespace {
+
+const QString kGeometryKey = u"ui/windowGeometry"_s;
+// Lengths in pixels.
+constexpr QSize kMinimum(960, 640);
+constexpr QSize kInitial(1180, 780);
+constexpr int kToggleStrip = 42; // the toggle's middle is that of this height
+constexpr int kToggleX = 82;     // right of the system's buttons
+constexpr int kToggleXAlone = 12;
+constexpr int kToggleGap = 10; // between the toggle and what the headers hold
+
+/// Adds nothing: the named host of the pages and of the floating toggle.
+class ContentLayer : public QWidget {
+ public:
+  ContentLayer() { setLayout(vbox()); }
+};
+
+} // namespace
+
+MainWindow::MainWindow(AppState* state, QWidget* parent) : QWidget(parent), m_state(state) {
+  setWindowTitle(identity::kName);
+  setWindowIcon(icons::appIcon());
+  setMinimumSize(kMinimum);
+  resize(kInitial);
+  buildFrame();
+  buildContent();
+  buildPages();
+  if (Theme::get().mac) buildFloatingToggle();
+  m_toast = new Toast(m_central);
+  QCoreApplication::instance()->installEventFilter(this);
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+  connectPages();
+  connectState();
+  frame::setUp(this, m_sidebar->topRow(), m_sidebar->toggleButton());
+}
+
+void MainWindow::buildFrame() {
+  QVBoxLayout* column = vbox();
+  setLayout(column);
+  if (frame::kind() == frame::Kind::Drawn) column->addWidget(new TitleBar(this));
+  m_central = new QWidget;
+  column->addWidget(m_central, 1);
+}
+
+void MainWindow::buildContent() {
+  QList<int> numbers{Sidebar::Overview, Sidebar::Cleanup};
+  QHBoxLayout* row = hbox();
+  m_central->setLayout(row);
+  m_sidebar = new Sidebar(m_state, numbers);
+  m_content = new ContentLayer;
+  m_pages = new QStackedWidget;
+  m_content->layout()->addWidget(m_pages);
+  row->addWidget(m_sidebar);
+  row->addWidget(m_content, 1);
+}
+
+void MainWindow::buildPages() {
+  m_overviewPage = new OverviewPage(m_state);
+  m_cleanupPage = new CleanupPage(m_state);
+  addPage(Sidebar::Overview, m_overviewPage);
+  addPage(Sidebar::Cleanup, m_cleanupPage);
+}
+
+void MainWindow::addPage(int number, QWidget* page) {
+  m_pages->addWidget(page);
+  m_numbered.insert(number, page);
+}
+
+// While the sidebar is away, this stands in for its own toggle, and the headers become one compact line beside it.
+void MainWindow::buildFloatingToggle() {
+  m_floatingToggle = new SidebarToggle(m_content);
+  const QString tip = words::Sidebar::tr("Expand sidebar");
+  m_floatingToggle->setToolTip(tip);
+  m_floatingToggle->setAccessibleName(tip);
+  m_floatingToggle->resize(m_floatingToggle->sizeHint());
+  const bool besideButtons = frame::kind() == frame::Kind::SystemButtons;
+  m_floatingToggle->move(besideButtons ? kToggleX : kToggleXAlone, (kToggleStrip - m_floatingToggle->height()) / 2);
+  connect(m_floatingToggle, &QAbstractButton::clicked, this, [this] { m_sidebar->setCollapsed(false, true); });
+  connect(m_sidebar, &Sidebar::collapsedChanged, this, &MainWindow::applyToolbars);
+  applyToolbars(m_sidebar->isCollapsed());
+}
+
+void MainWindow::applyToolbars(bool collapsed) {
+  const int reserve = m_floatingToggle->geometry().right() + 1 + kToggleGap;
+  for (PageHeader* header : m_pages->findChildren<PageHeader*>()) header->setToolbar(collapsed, reserve);
+  m_floatingToggle->setVisible(collapsed);
+  m_floatingToggle->raise();
+}
+
+void MainWindow::connectPages() {
+  connect(m_sidebar, &Sidebar::navigate, this, &MainWindow::go);
+  connect(m_overviewPage, &OverviewPage::openCleanup, this, [this](const QString& id) {
+    go(Sidebar::Cleanup);
+    m_cleanupPage->focusCategory(id);
+  });
+  connect(m_cleanupPage, &CleanupPage::goHome, this, [this] { go(Sidebar::Overview); });
+  connect(m_cleanupPage, &CleanupPage::confirmRequested, this, &MainWindow::confirmClean);
+}
+
+void MainWindow::connectState() {
+  connect(m_state, &AppState::phaseChanged, this, [this] {
+    if (m_state->phase == AppState::Scanning) go(Sidebar::Cleanup);
+  });
+  connect(m_state, &AppState::toast, this, &MainWindow::showToast);
+  connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
+}
+
+void MainWindow::confirmClean() {
+  if (m_central->findChild<Overlay*>(QString(), Qt::FindDirectChildrenOnly)) return; // something is being asked
+  auto* dialog = new ConfirmCleanDialog(m_state, m_central);
+  connect(dialog, &ConfirmCleanDialog::accepted, m_state, [state = m_state] { state->clean(); });
+  dialog->open();
+}
+
+void MainWindow::go(int page) {
+  QWidget* widget = m_numbered.value(page);
+  if (!widget) return;
+  m_pages->setCurrentWidget(widget);
+  m_sidebar->setCurrent(page);
+}
+
+int MainWindow::page() const { return m_numbered.key(m_pages->currentWidget()); }
+
+void MainWindow::showToast(const QString& text, bool undoable) { m_toast->show(text, undoable); }
+
+// Without a tray the message waits in a hidden window, for as long as a message lasts.
+void MainWindow::notify(const QString& text) { m_toast->show(text, false); }
+
+void MainWindow::showAbout() { (new AboutDialog(m_central))->open(); }
+
+void MainWindow::openGuide() { website::open(u"/guide/get-started-with-tarnwick/"); }
+
+void MainWindow::openFaq() { website::open(u"/support-center/"); }
+
+void MainWindow::openLogFolder() {
+  const QString path = Cleaner::logDir();
+  QDir().mkpath(path); // a user who never cleaned gets an empty folder rather than an error
+  QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+void MainWindow::showFromTray() {
+  isMinimized() ? showNormal() : show();
+  raise();
+  activateWindow();
+}
+
+void MainWindow::hideToTray() { hide(); }
+
+void MainWindow::setSidebarCollapsed(bool collapsed) { m_sidebar->setCollapsed(collapsed, false); }
+
+void MainWindow::restoreWindowState() {
+  const QByteArray stored = QSettings().value(kGeometryKey).toByteArray();
+  if (!stored.isEmpty() && restoreGeometry(stored)) return;
+  const QRect available = screen()->availableGeometry();
+  resize(size().boundedTo(available.size()));
+  QRect placed(QPoint(), size());
+  placed.moveCenter(available.center());
+  move(placed.topLeft());
+}
+
+void MainWindow::saveWindowState() const { QSettings().setValue(kGeometryKey, saveGeometry()); }
+
+// No tray shows that the program lives on. Where a click in the dock brings the window back it does, elsewhere an
+// unseen process is no help.
+void MainWindow::closeEvent(QCloseEvent* event) {
+  saveWindowState();
+  QWidget::closeEvent(event);
+  if (!m_quitting && platform::builtFor() == platform::Host::Linux) QCoreApplication::quit();
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == QCoreApplication::instance() && event->type() == QEvent::Quit) m_quitting = true;
+  return QWidget::eventFilter(watched, event);
+}
+
+void MainWindow::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  painter.setClipRegion(event->region());
+  Theme::get().paintBackdrop(&painter, rect());
+}
+
+} // namespace ui
