@@ -65,10 +65,9 @@ ui::Select* longSelect() {
   return control;
 }
 
-ui::Card* card(bool bordered, const QColor& fill) {
+ui::Card* card(bool bordered) {
   auto* control = new ui::Card;
   control->bordered = bordered;
-  control->fill = fill;
   control->setFixedSize(150, 72);
   QVBoxLayout* inner = ui::vbox(6, {16, 14, 16, 14});
   control->setLayout(inner);
@@ -124,7 +123,6 @@ void choices(Shelf* shelf) {
 }
 
 void marks(Shelf* shelf) {
-  const Theme& theme = Theme::get();
   shelf->put(new ui::Pill(Safety::Safe), u"safe"_s);
   shelf->put(new ui::Pill(Safety::Review), u"review"_s);
   shelf->put(new ui::Pill(Safety::Permanent), u"permanent"_s);
@@ -142,9 +140,10 @@ void marks(Shelf* shelf) {
   shelf->put(tile(u"trash"_s, QColor(239, 68, 68), 40), u"red"_s);
   shelf->put(tile(u"code"_s, QColor(16, 185, 129), 40, true), u"muted"_s);
   shelf->row();
-  shelf->put(card(true, {}), u"card"_s);
-  shelf->put(card(false, {}), u"without border"_s);
-  shelf->put(card(true, theme.accentSoft), u"filled"_s);
+  shelf->put(card(true), u"card"_s);
+  shelf->put(card(false), u"without border"_s);
+  ui::Card* filled = shelf->put(card(true), u"filled"_s);
+  inEveryLook(filled, [filled] { filled->fill = Theme::get().accentSoft; });
 }
 
 void notes(Shelf* shelf) {

@@ -56,10 +56,9 @@ ui::Headline* headline(const QString& format, const QString& value) {
   return control;
 }
 
-ui::GradientText* gradientText(const QFont& font, const QString& text, const QList<QColor>& stops = {}) {
+ui::GradientText* gradientText(const QFont& font, const QString& text) {
   auto* control = new ui::GradientText(font);
   control->setText(text);
-  control->stops = stops;
   return control;
 }
 
@@ -101,9 +100,7 @@ ui::StepBar* stepBar(ui::StepBar::State state) {
 // The labels of a row follow the look when it is set again, as a page does.
 ui::ScanStepRow* stepRow(ui::StepBar::State state, const QString& icon, const QString& title, const QString& value) {
   auto* row = new ui::ScanStepRow(icon, hue(state), title);
-  const auto set = [row, state, value] { row->set(state, value); };
-  QObject::connect(&Theme::get(), &Theme::changed, row, set);
-  set();
+  inEveryLook(row, [row, state, value] { row->set(state, value); });
   return row;
 }
 
@@ -151,7 +148,8 @@ void furniture(Shelf* shelf) {
   shelf->row();
   const Theme& theme = Theme::get();
   shelf->put(gradientText(theme.mono(48, 600), u"12.4 GB"_s), u"gradient text"_s);
-  shelf->put(gradientText(theme.font(30, 600), u"All tidy"_s, {theme.ok, theme.accent}), u"own stops"_s);
+  ui::GradientText* stops = shelf->put(gradientText(theme.font(30, 600), u"All tidy"_s), u"own stops"_s);
+  inEveryLook(stops, [stops] { stops->stops = {Theme::get().ok, Theme::get().accent}; });
   shelf->put(headline(u"%1 can be cleaned"_s, u"12.4 GB"_s), u"headline"_s);
   shelf->put(headline(u"Nothing to clean"_s, {}), u"without value"_s);
   shelf->row();

@@ -5,6 +5,7 @@
 #include "gallery/pages.h"
 #include "ui/Theme.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
 #include <QPixmap>
@@ -29,15 +30,31 @@ constexpr SheetEntry kSheets[] = {
 // By then an eased ring has come as close to its value as can be seen, and what turns has turned a little.
 constexpr auto kRest = 1s;
 
-QPixmap take(const SheetEntry& sheet) {
-  const std::unique_ptr<QWidget> widget(sheet.make());
-  widget->show();
-  widget->activateWindow();
-  widget->setFocus();
+void rest() {
   QEventLoop loop;
   QTimer::singleShot(kRest, &loop, &QEventLoop::quit);
   loop.exec();
-  return widget->grab();
+}
+
+/// One widget is shown in both looks, so that what keeps a colour of the first is seen in the second.
+/// @return the file that couldn't be written; empty if both were
+QString writeBothLooks(const SheetEntry& entry, const QDir& folder) {
+  AppSettings& settings = AppSettings::instance();
+  const Theme& theme = Theme::get();
+  settings.setThemeMode(AppSettings::Light);
+  const std::unique_ptr<QWidget> widget(entry.make());
+  widget->show();
+  rest();
+  for (const auto mode : {AppSettings::Light, AppSettings::Dark}) {
+    settings.setThemeMode(mode);
+    widget->activateWindow();
+    widget->setFocus(); // what is taken when open has had it
+    QCoreApplication::processEvents();
+    const QPixmap picture = widget->grab();
+    const QString name = shotName(QString::fromLatin1(entry.name), theme.dark, theme.mac, picture.devicePixelRatio());
+    if (!picture.save(folder.filePath(name))) return folder.filePath(name);
+  }
+  return {};
 }
 
 } // namespace
@@ -50,18 +67,12 @@ QString shotName(const QString& sheet, bool dark, bool mac, double scale) {
 
 QString writeShots(const QString& folder, const QString& sheet) {
   if (!QDir().mkpath(folder)) return u"can't make the folder %1"_s.arg(folder);
-  const Theme& theme = Theme::get();
   bool known = false;
   for (const SheetEntry& entry : sheets()) {
-    const QString name = QString::fromLatin1(entry.name);
-    if (!sheet.isEmpty() && name != sheet) continue;
+    if (!sheet.isEmpty() && QLatin1StringView(entry.name) != sheet) continue;
     known = true;
-    for (const auto mode : {AppSettings::Light, AppSettings::Dark}) {
-      AppSettings::instance().setThemeMode(mode);
-      const QPixmap picture = take(entry);
-      const QString path = QDir(folder).filePath(shotName(name, theme.dark, theme.mac, picture.devicePixelRatio()));
-      if (!picture.save(path)) return u"can't write %1"_s.arg(path);
-    }
+    const QString unwritten = writeBothLooks(entry, QDir(folder));
+    if (!unwritten.isEmpty()) return u"can't write %1"_s.arg(unwritten);
   }
   return known ? QString() : u"there is no sheet called %1"_s.arg(sheet);
 }

@@ -1,5 +1,7 @@
 #include "gallery/stage.h"
 
+#include "ui/Theme.h"
+
 #include <QCoreApplication>
 #include <QFocusEvent>
 #include <QHoverEvent>
@@ -42,6 +44,11 @@ void pointAt(QWidget* control, const QPointF& place) {
 }
 
 void onceShown(QWidget* control, std::function<void()> act) { new FirstShow(control, std::move(act)); }
+
+void inEveryLook(QWidget* control, const std::function<void()>& set) {
+  QObject::connect(&Theme::get(), &Theme::changed, control, set);
+  set();
+}
 
 void giveFocus(QWidget* control, QWidget* keeper) {
   QFocusEvent byTab(QEvent::FocusIn, Qt::TabFocusReason);

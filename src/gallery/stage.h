@@ -33,6 +33,9 @@ Control* pressed(Control* control) {
   return control;
 }
 
+/// Calls @p set now and in every look to come: for what takes its colours from outside.
+void inEveryLook(QWidget* control, const std::function<void()>& set);
+
 /// As if the focus had come to @p control by Tab. Several look focused at once, as each of them says that it has the
 /// focus when @p keeper has it.
 void giveFocus(QWidget* control, QWidget* keeper);

@@ -72,6 +72,8 @@ class TestGallery : public QObject {
   void nothingIsSqueezed_data();
   void nothingIsSqueezed();
   void sheetFollowsTheLook();
+  void changeOfLookLeavesNothingBehind_data();
+  void changeOfLookLeavesNothingBehind();
   void whatOpensIsTakenInEveryLook();
   void otherLookStandsBesideTheLiveOne();
   void otherMetricsNeedAnotherProcess();
@@ -136,6 +138,27 @@ void TestGallery::sheetFollowsTheLook() {
   setLook(AppSettings::Dark);
   QVERIFY(heading().startsWith(u"Dark"_s));
   QVERIFY(sheet.grab().toImage().pixelColor(sheet.width() / 2, 2).lightness() < 60);
+}
+
+void TestGallery::changeOfLookLeavesNothingBehind_data() { nothingIsSqueezed_data(); }
+
+// Nobody keeps a colour, a font or a picture of the look before.
+void TestGallery::changeOfLookLeavesNothingBehind() {
+  QFETCH(int, mode);
+  setLook(mode == AppSettings::Dark ? AppSettings::Light : AppSettings::Dark);
+  gallery::Sheet changed;
+  changed.grab(); // painted in the look before, as in a program
+  setLook(AppSettings::ThemeMode(mode));
+  const QImage is = changed.grab().toImage();
+  const QImage should = gallery::Sheet().grab().toImage();
+  QCOMPARE(is.size(), should.size());
+  for (int y = 0; y < is.height(); ++y)
+    for (int x = 0; x < is.width(); ++x) {
+      if (is.pixel(x, y) == should.pixel(x, y)) continue;
+      const QWidget* odd = changed.childAt(x, y);
+      const char* what = odd ? odd->metaObject()->className() : "the sheet";
+      QFAIL(qPrintable(u"%1 at %2, %3"_s.arg(QString::fromLatin1(what)).arg(x).arg(y)));
+    }
 }
 
 void TestGallery::whatOpensIsTakenInEveryLook() {
