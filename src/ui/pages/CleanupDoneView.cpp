@@ -134,7 +134,7 @@ void CleanupDoneView::addCounters(QVBoxLayout* column) {
 }
 
 void CleanupDoneView::addNotes(QVBoxLayout* column) {
-  m_skippedNote = new Note(Note::Caution, u"alert"_s, {});
+  m_skippedNote = spokenNote(Note::Caution, u"alert"_s, {});
   m_skippedNote->setObjectName("skippedNote"_L1);
   m_adminNote = administratorNote();
   m_adminNote->setObjectName("adminNote"_L1);

@@ -63,6 +63,7 @@ QStringList ownersOf(const QList<CleanItem>& items) {
 
 Note* spokenNote(Note::Kind kind, const QString& icon, const QString& html) {
   auto* note = new Note(kind, icon, {});
+  note->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // it takes no room that its text doesn't need
   setNoteText(note, html);
   return note;
 }

@@ -10,6 +10,7 @@
 
 #include <QAccessible>
 #include <QElapsedTimer>
+#include <QLayout>
 #include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -295,6 +296,9 @@ void TestCleanupReview::blockedCategory() {
   QCOMPARE(find<QLabel>("detailValue")->text(), u"—"_s);
   QCOMPARE(find<QLabel>("detailCaption")->text(), u"No permission to read"_s);
   QCOMPARE(noteIn(detail())->text(), u"You have no permission to read some of these folders."_s);
+  settle();
+  const ui::Note* note = noteIn(detail());
+  QCOMPARE(note->height(), note->layout()->totalHeightForWidth(note->width())); // though there is room below
 }
 
 void TestCleanupReview::blockedWordsFollowTheHost() {
