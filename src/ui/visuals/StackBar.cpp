@@ -10,6 +10,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -64,8 +65,11 @@ QList<QRectF> stackBarLayout(const QList<qint64>& sizes, qint64 scale, const QSi
 QList<QLineF> stackBarHatching(const QRectF& segment) {
   QList<QLineF> lines;
   const double height = segment.height();
-  for (double foot = segment.left() - height; foot < segment.right() + height; foot += kStripeStep)
+  const int count = int(std::ceil((segment.width() + 2 * height) / kStripeStep));
+  for (int i = 0; i < count; ++i) {
+    const double foot = segment.left() - height + i * kStripeStep;
     lines << QLineF(foot, segment.bottom(), foot + height, segment.top());
+  }
   return lines;
 }
 
