@@ -73,15 +73,14 @@ void GalleryWindow::setDark(bool dark) {
   takeOtherLook();
 }
 
-// There is one theme: it changes over for as long as the picture takes, and nothing of that is shown.
+// There is one theme: it changes over for as long as the picture takes. Nothing of that is seen, as the window repaints
+// only when this is through.
 void GalleryWindow::takeOtherLook() {
   AppSettings& settings = AppSettings::instance();
   const bool dark = Theme::get().dark;
-  setUpdatesEnabled(false);
   settings.setThemeMode(dark ? AppSettings::Light : AppSettings::Dark);
   m_otherLook->setPixmap(m_sheet->grab());
   settings.setThemeMode(dark ? AppSettings::Dark : AppSettings::Light);
-  setUpdatesEnabled(true);
 }
 
 void GalleryWindow::showEvent(QShowEvent* event) {

@@ -42,6 +42,13 @@ Run runGallery(const QStringList& arguments, const QString& look = {}, const QSt
   return {process.exitCode(), QString::fromUtf8(process.readAllStandardError())};
 }
 
+bool shows(const QImage& picture, const QColor& colour) {
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      if (picture.pixelColor(x, y) == colour) return true;
+  return false;
+}
+
 /// Whether a scrolling view shows as much of it as it wants to.
 bool isInView(const QWidget* widget) {
   for (const QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget())
@@ -197,9 +204,12 @@ void TestGallery::otherLookStandsBesideTheLiveOne() {
   QCOMPARE(picture().size(), sheet->size());
   QVERIFY(picture().pixelColor(600, 2).lightness() < 60);
   QVERIFY(!Theme::get().dark);
+  const QColor accent = Theme::get().accent;
+  QVERIFY(!shows(picture(), accent));
   segmentedWith(window, u"Dark"_s)->setCurrent(1);
   QVERIFY(Theme::get().dark);
   QVERIFY(picture().pixelColor(600, 2).lightness() > 200);
+  QVERIFY(shows(picture(), accent)); // what lies on the sheet, not only its ground
 }
 
 void TestGallery::otherMetricsNeedAnotherProcess() {
