@@ -24,6 +24,3 @@ build_strictly() {
   shift
   configure "$preset" -DTARNWICK_WERROR=ON && cmake --build --preset "$preset" -j "$jobs" ${1:+--target "$@"}
 }
-
-# has_target PRESET TARGET: whether a configured build has it.
-has_target() { cmake --build --preset "$1" --target help | grep -q "^$2:"; }

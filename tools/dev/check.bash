@@ -102,6 +102,7 @@ lint() {
   check "formatting" formatting
   check "house rules" house_rules
   check "shell scripts" shell_scripts
+  check "desktop entry" desktop_entry
   check "clang-tidy" tidy $quick_tidy_seconds
   end_of_checks
 }
@@ -121,6 +122,11 @@ house_rules() {
 shell_scripts() {
   if ! command -v shellcheck >/dev/null; then say "shellcheck isn't installed: skipped"; return; fi
   shellcheck --external-sources --check-sourced dev .ci/run
+}
+
+desktop_entry() {
+  if ! command -v desktop-file-validate >/dev/null; then say "desktop-file-validate isn't installed: skipped"; return; fi
+  desktop-file-validate resources/desktop/tarnwick.desktop
 }
 
 # tidy [SECONDS]: over src/, what changed since it last passed; needs what the build makes (generated files, dependencies).

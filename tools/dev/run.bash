@@ -17,21 +17,16 @@ run() {
     esac
     shift
   done
-  setup build ${demo:+demo} && configure release || return
-  local program=tarnwick-cli
-  if [[ $# -eq 0 ]] && has_display && has_target release tarnwick; then program=tarnwick; fi
+  setup build ${demo:+demo} || return
+  local program=tarnwick-cli folder=cli
+  if [[ $# -eq 0 ]] && has_display; then program=tarnwick folder=app; fi
   build release $program >&2 || return
   [[ -z $demo ]] || enter_demo "$host" || return
-  if [[ $program == tarnwick ]]; then
-    build/release/src/app/tarnwick
-    return
-  fi
-  if [[ $# -eq 0 ]]; then
-    if has_display; then say "the window isn't built yet"; else say "there is no display"; fi
-    say "so this is a scan of ${demo:+the demo }home folder $HOME by tarnwick-cli; it removes nothing"
+  if [[ $program == tarnwick-cli && $# -eq 0 ]]; then
+    say "there is no display, so this is a scan of ${demo:+the demo }home folder $HOME by tarnwick-cli; it removes nothing"
     set -- scan
   fi
-  build/release/src/cli/tarnwick-cli "$@"
+  "build/release/src/$folder/$program" "$@"
 }
 
 # enter_demo [HOST]: makes a demo home and puts this shell in its environment; it is removed when the script ends.
