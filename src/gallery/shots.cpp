@@ -2,7 +2,7 @@
 
 #include "app/AppSettings.h"
 #include "gallery/Sheet.h"
-#include "gallery/pages.h"
+#include "gallery/windows.h"
 #include "ui/Theme.h"
 
 #include <QCoreApplication>
@@ -21,10 +21,16 @@ namespace gallery {
 
 namespace {
 
+// Those that scan come last, as the others tell when the last scan was.
 constexpr SheetEntry kSheets[] = {
     {"gallery", [] { return static_cast<QWidget*>(new Sheet); }},
     {"overview", overviewAtStart},
+    {"cleanup", cleanupAtStart},
+    {"about", aboutDialog},
     {"overview-found", overviewAfterScan},
+    {"cleanup-found", cleanupAfterScan},
+    {"clean-question", cleanQuestion},
+    {"toast", toast},
 };
 
 // By then an eased ring has come as close to its value as can be seen, and what turns has turned a little.

@@ -24,7 +24,10 @@ LAYERS = {
         ["src/app/main."],
         ["shell", "pages", "ui", "update", "i18n", "state", "engines", "records", "core"],
     ),
-    "gallery": (["src/gallery/"], ["pages", "ui", "i18n", "state", "engines", "records", "core"]),
+    "gallery": (
+        ["src/gallery/"],
+        ["shell", "pages", "ui", "update", "i18n", "state", "engines", "records", "core"],
+    ),
     "terminal program": (["src/cli/"], ["i18n", "state", "engines", "records", "core"]),
 }
 

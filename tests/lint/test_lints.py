@@ -87,12 +87,14 @@ class Layers(LintCase):
         self.write("src/cli/main.cpp", '#include "ui/i18n.h"\n#  include "ui/Theme.h"\n')
         self.assert_found("src/cli/main.cpp:2")
 
-    def test_the_gallery_shows_pages_and_nothing_knows_of_it(self):
+    def test_the_gallery_shows_everything_and_nothing_knows_of_it(self):
         for name in ["ui/Theme.h", "ui/pages/Page.h", "ui/shell/MainWindow.h"]:
             self.write("src/" + name, "")
         self.write("src/gallery/Sheet.h", '#include "ui/Theme.h"\n#include "ui/pages/Page.h"\n#include "ui/shell/MainWindow.h"\n')
+        self.assert_clean()
         self.write("src/ui/pages/Page.cpp", '#include "gallery/Sheet.h"\n')
-        self.assert_found("src/gallery/Sheet.h:3", "src/ui/pages/Page.cpp:1")
+        self.write("src/ui/shell/Window.cpp", '#include "gallery/Sheet.h"\n')
+        self.assert_found("src/ui/pages/Page.cpp:1", "src/ui/shell/Window.cpp:1")
 
     def test_an_include_that_is_not_by_its_path_from_src_is_found(self):
         self.write("src/core/fs.h", "")

@@ -7,6 +7,7 @@
 #include "ui/visuals/ScanStepRow.h"
 
 #include <QFileInfo>
+#include <QGraphicsEffect>
 #include <QPointer>
 #include <QSemaphore>
 #include <QSignalSpy>
@@ -93,6 +94,8 @@ void TestCleanupPage::emptyView() {
   QVERIFY(start->parentWidget()->width() <= 460);
   const int middle = start->mapTo(m_page.get(), start->rect().center()).x();
   QVERIFY2(qAbs(middle - m_page->width() / 2) <= 1, qPrintable(QString::number(middle)));
+  const QRect glow = start->graphicsEffect()->boundingRectFor(start->rect()).toAlignedRect();
+  QVERIFY(start->parentWidget()->rect().contains(glow.translated(start->pos())));
 }
 
 void TestCleanupPage::startButtonScans() {
