@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QTextDocument>
 #include <QVariant>
 
 namespace {
@@ -97,3 +98,5 @@ bool TipStyler::eventFilter(QObject* watched, QEvent* event) {
   }
   return false;
 }
+
+QString plainTip(const QString& text) { return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text; }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 class QLabel;
 
@@ -15,3 +16,6 @@ class TipStyler : public QObject {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 };
+
+/// @p text as a tool tip that shows it as it is, even if it looks like markup, as the name of a file may.
+[[nodiscard]] QString plainTip(const QString& text);

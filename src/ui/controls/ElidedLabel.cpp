@@ -1,5 +1,6 @@
 #include "ui/controls/ElidedLabel.h"
 
+#include "ui/TipStyler.h"
 #include "ui/controls/factory.h"
 
 #include <QEvent>
@@ -14,7 +15,7 @@ constexpr int kSpareWidth = 8;
 
 ElidedLabel::ElidedLabel(const QString& text, const char* role, QWidget* parent) : QLabel(text, parent) {
   setRole(this, role);
-  setToolTip(text);
+  setToolTip(plainTip(text));
   setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
   allowShrinking();
 }

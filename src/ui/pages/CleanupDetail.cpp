@@ -3,6 +3,7 @@
 #include "app/AppState.h"
 #include "core/fmt.h"
 #include "core/platform.h"
+#include "ui/TipStyler.h"
 #include "ui/controls/Button.h"
 #include "ui/controls/Divider.h"
 #include "ui/controls/ElidedLabel.h"
@@ -63,9 +64,6 @@ constexpr double kRingRadius = 10;
 constexpr double kRingInset = 5;
 
 bool isBlocked(const CategoryResult& result) { return result.bytes == 0 && result.accessDenied; }
-
-/// A tool tip that shows @p text as it is, even if it looks like markup.
-QString plainTip(const QString& text) { return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text; }
 
 /// What the labels of items have of their own, by their property "cell". One sheet for all of them, as a sheet for each
 /// label would cost most of the time that it takes to open a category.

@@ -29,13 +29,14 @@ constexpr double kHatchedAlpha = 0.55;
 
 constexpr double kPercent = 100;
 
-void paintSegment(QPainter* painter, const QRectF& rect, const StackBar::Segment& segment) {
-  if (!segment.hatched) return painter->fillRect(rect, segment.colour);
-  painter->fillRect(rect, paint::withAlphaF(segment.colour, kHatchedAlpha));
+void paintSegment(QPainter* painter, const QRectF& rect, const StackBar::Segment& segment, const QRectF& bar) {
+  const QRectF seen = rect & bar; // what overflows may be very wide
+  if (!segment.hatched) return painter->fillRect(seen, segment.colour);
+  painter->fillRect(seen, paint::withAlphaF(segment.colour, kHatchedAlpha));
   painter->save();
-  painter->setClipRect(rect, Qt::IntersectClip);
+  painter->setClipRect(seen, Qt::IntersectClip);
   painter->setPen(paint::pen(segment.colour, kStripeWidth));
-  painter->drawLines(stackBarHatching(rect));
+  painter->drawLines(stackBarHatching(seen));
   painter->restore();
 }
 
@@ -118,7 +119,7 @@ void StackBar::paintEvent(QPaintEvent* /*event*/) {
   painter.fillRect(rect(), Theme::get().track);
   const QList<QRectF> rects = layoutSegments();
   for (qsizetype i = 0; i < m_segments.size(); ++i)
-    if (m_segments[i].bytes > 0) paintSegment(&painter, rects[i], m_segments[i]);
+    if (m_segments[i].bytes > 0) paintSegment(&painter, rects[i], m_segments[i], rect());
 }
 
 bool StackBar::event(QEvent* event) {

@@ -1,6 +1,7 @@
 #include "ui/visuals/Treemap.h"
 
 #include "ui/Theme.h"
+#include "ui/TipStyler.h"
 #include "ui/controls/KeyboardFocus.h"
 #include "ui/paint.h"
 #include "ui/visuals/TreemapLayout.h"
@@ -33,7 +34,7 @@ constexpr int kDetailWeight = 400;
 constexpr double kRingWidth = 1.5;
 constexpr double kCheckWidth = 2.2;
 constexpr double kFocusWidth = 2;
-constexpr double kDetailMargin = 3; // between the detail and the edge of its tile, or the tick
+constexpr double kDetailMargin = 3; // that an elided detail leaves to the edge of its tile
 
 constexpr int kGlowLayers = 6;
 constexpr double kGlowOffset = 1;
@@ -137,7 +138,8 @@ AccessibleItems::Item Treemap::itemAt(int index) const {
           .checked = isSelected(index),
           .selectable = true,
           .selected = isSelected(index),
-          .current = index == m_cursor};
+          .current = index == m_cursor,
+          .shown = !m_rects[index].isEmpty()};
 }
 
 void Treemap::activateItem(int index) {
@@ -147,8 +149,14 @@ void Treemap::activateItem(int index) {
   emit toggled(key);
 }
 
+/// Items of size 0 come last, and have none.
+int Treemap::lastTile() const {
+  const auto empty = [](const QRectF& rect) { return rect.isEmpty(); };
+  return int(std::find_if(m_rects.begin(), m_rects.end(), empty) - m_rects.begin()) - 1;
+}
+
 QString Treemap::tipOf(int index) const {
-  return index < 0 ? QString() : m_items[index].label + u" · "_s + m_items[index].detail;
+  return index < 0 ? QString() : plainTip(m_items[index].label + u" · "_s + m_items[index].detail);
 }
 
 void Treemap::resizeEvent(QResizeEvent* /*event*/) { relayout(); }
@@ -173,7 +181,8 @@ void Treemap::setHover(int index) {
 }
 
 void Treemap::keyPressEvent(QKeyEvent* event) {
-  if (m_items.isEmpty()) return QWidget::keyPressEvent(event);
+  const int last = lastTile();
+  if (last < 0) return QWidget::keyPressEvent(event);
   switch (event->key()) {
   case Qt::Key_Left:
     return moveCursor(tileBeyond(m_rects, m_cursor, Qt::LeftEdge));
@@ -186,11 +195,11 @@ void Treemap::keyPressEvent(QKeyEvent* event) {
   case Qt::Key_Home:
     return moveCursor(0);
   case Qt::Key_End:
-    return moveCursor(itemCount() - 1);
+    return moveCursor(last);
   case Qt::Key_Space:
   case Qt::Key_Return:
   case Qt::Key_Enter:
-    if (!event->isAutoRepeat()) activateItem(m_cursor);
+    if (!event->isAutoRepeat() && m_cursor <= last) activateItem(m_cursor);
     return;
   default:
     QWidget::keyPressEvent(event);
@@ -214,7 +223,7 @@ void Treemap::paintEvent(QPaintEvent* /*event*/) {
   painter.scale(1 / ratio, 1 / ratio); // pixel by pixel, at any ratio
   painter.drawPixmap(QPoint(), m_picture);
   painter.restore();
-  if (!m_focus->isVisible() || m_items.isEmpty()) return;
+  if (!m_focus->isVisible() || m_cursor > lastTile()) return;
   painter.setRenderHint(QPainter::Antialiasing);
   const auto [ring, radius] = treemapRing(m_rects[m_cursor]);
   paint::roundedRect(&painter, ring, radius, Qt::NoBrush, paint::pen(Theme::get().text, kFocusWidth));
@@ -276,12 +285,9 @@ void Treemap::paintText(QPainter* painter, const TreemapTile& tile, int index) c
   painter->setFont(Theme::get().mono(kDetailPx, kDetailWeight));
   const QFontMetricsF metrics(painter->font());
   const QPointF place = tile.text.bottomLeft() - QPointF(0, metrics.descent());
-  const bool besideTick = !tile.tick.isNull() && place.y() - metrics.ascent() < tile.tick.bottom();
-  const double room = (besideTick ? tile.tick.left() : tile.body.right()) - kDetailMargin - place.x();
-  const QString detail = metrics.elidedText(item.detail, Qt::ElideRight, room);
-  if (besideTick && detail != item.detail) return; // the tool tip has it; half a number says nothing
+  const double room = tile.body.right() - kDetailMargin - place.x();
   painter->setPen(paint::withAlpha(colour, lone ? kLoneDetailAlpha : kDetailAlpha));
-  painter->drawText(place, detail);
+  painter->drawText(place, metrics.elidedText(item.detail, Qt::ElideRight, room));
 }
 
 } // namespace ui

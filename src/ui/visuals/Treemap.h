@@ -23,7 +23,8 @@ struct TreemapTile;
 /// key, and setSelected() brings the answer.
 ///
 /// The arrow keys move a ring to the tile beside, Home and End to the largest and the smallest; Space and Enter do what
-/// a click does. The tile with the ring tells its texts in a tool tip if it has no room for them.
+/// a click does. What has no size has no tile, and the keyboard passes it by. The tile with the ring tells its texts in
+/// a tool tip if it has no room for them.
 class Treemap : public QWidget, public AccessibleItems {
   Q_OBJECT
 
@@ -68,6 +69,7 @@ class Treemap : public QWidget, public AccessibleItems {
  private:
   void relayout();
   [[nodiscard]] bool isSelected(int index) const { return m_selected.contains(m_items[index].key); }
+  [[nodiscard]] int lastTile() const;
   [[nodiscard]] QString tipOf(int index) const;
   void setHover(int index);
   void moveCursor(int index);

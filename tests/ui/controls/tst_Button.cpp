@@ -1,4 +1,5 @@
 #include "app/AppSettings.h"
+#include "support/pixels.h"
 #include "support/uitest.h"
 #include "ui/Theme.h"
 #include "ui/controls/Button.h"
@@ -10,11 +11,12 @@
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
+using pixels::isNear;
+using pixels::rendered;
+using pixels::setLook;
 using ui::Button;
 
 namespace {
-
-void setLook(bool dark) { AppSettings::instance().setThemeMode(dark ? AppSettings::Dark : AppSettings::Light); }
 
 QGraphicsDropShadowEffect* glow(const QWidget& widget) {
   return qobject_cast<QGraphicsDropShadowEffect*>(widget.graphicsEffect());
@@ -23,19 +25,6 @@ bool glows(const QWidget& widget) { return glow(widget) && glow(widget)->isEnabl
 
 int textWidth(const QString& text, int pixelSize) {
   return QFontMetrics(Theme::get().font(pixelSize, 600)).horizontalAdvance(text);
-}
-
-QImage rendered(QWidget& widget) {
-  QImage image(widget.size(), QImage::Format_ARGB32);
-  image.fill(Qt::transparent);
-  widget.render(&image, {}, {}, {});
-  return image;
-}
-
-bool isNear(const QColor& seen, const QColor& wanted) {
-  const int slack = 2 + 255 / qMax(1, seen.alpha());
-  return qAbs(seen.alpha() - wanted.alpha()) <= 2 && qAbs(seen.red() - wanted.red()) <= slack &&
-         qAbs(seen.green() - wanted.green()) <= slack && qAbs(seen.blue() - wanted.blue()) <= slack;
 }
 
 /// The colour of a place of the body that the content leaves free.

@@ -1,6 +1,6 @@
 // The controls with which one chooses: the switch and the segments.
 
-#include "app/AppSettings.h"
+#include "support/pixels.h"
 #include "support/uitest.h"
 #include "ui/Theme.h"
 #include "ui/controls/Segmented.h"
@@ -12,33 +12,14 @@
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
+using pixels::isNear;
+using pixels::over;
+using pixels::rendered;
+using pixels::setLook;
 using ui::Segmented;
 using ui::Switch;
 
 namespace {
-
-void setLook(bool dark) { AppSettings::instance().setThemeMode(dark ? AppSettings::Dark : AppSettings::Light); }
-
-QImage rendered(QWidget& widget) {
-  QImage image(widget.size(), QImage::Format_ARGB32);
-  image.fill(Qt::transparent);
-  widget.render(&image, {}, {}, {});
-  return image;
-}
-
-/// One colour laid over another, as the painter does.
-QColor over(const QColor& upper, const QColor& lower) {
-  QImage image(1, 1, QImage::Format_ARGB32);
-  image.fill(lower);
-  QPainter(&image).fillRect(0, 0, 1, 1, upper);
-  return image.pixelColor(0, 0);
-}
-
-bool isNear(const QColor& seen, const QColor& wanted) {
-  const int slack = 3 + 255 / qMax(1, seen.alpha());
-  return qAbs(seen.alpha() - wanted.alpha()) <= 3 && qAbs(seen.red() - wanted.red()) <= slack &&
-         qAbs(seen.green() - wanted.green()) <= slack && qAbs(seen.blue() - wanted.blue()) <= slack;
-}
 
 const QList<QString> kItems = {u"Small"_s, u"Middling"_s, u"Big"_s};
 

@@ -1,4 +1,4 @@
-#include "app/AppSettings.h"
+#include "support/pixels.h"
 #include "support/uitest.h"
 #include "ui/Theme.h"
 #include "ui/controls/FooterBar.h"
@@ -7,17 +7,10 @@
 #include <QPainter>
 
 using namespace Qt::StringLiterals;
+using pixels::rendered;
+using pixels::setLook;
 
 namespace {
-
-void setLook(bool dark) { AppSettings::instance().setThemeMode(dark ? AppSettings::Dark : AppSettings::Light); }
-
-QImage rendered(QWidget& widget) {
-  QImage image(widget.size(), QImage::Format_ARGB32);
-  image.fill(Qt::transparent);
-  widget.render(&image, {}, {}, {});
-  return image;
-}
 
 /// What these alphas, of 255, make together where they lie on each other.
 double stacked(int alpha, int layers) {

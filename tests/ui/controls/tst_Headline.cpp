@@ -1,32 +1,24 @@
 // The painted texts: the heading with a shining part, and the line in a gradient.
 
-#include "app/AppSettings.h"
+#include "support/pixels.h"
 #include "support/uitest.h"
 #include "ui/Theme.h"
 #include "ui/controls/GradientText.h"
 #include "ui/controls/Headline.h"
 
 #include <QAccessible>
-#include <QPainter>
 #include <QTextLayout>
 #include <QVBoxLayout>
 
 #include <cmath>
 
 using namespace Qt::StringLiterals;
+using pixels::rendered;
+using pixels::setLook;
 using ui::GradientText;
 using ui::Headline;
 
 namespace {
-
-void setLook(bool dark) { AppSettings::instance().setThemeMode(dark ? AppSettings::Dark : AppSettings::Light); }
-
-QImage rendered(QWidget& widget) {
-  QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
-  image.fill(Qt::transparent);
-  widget.render(&image, {}, {}, {});
-  return image;
-}
 
 /// The colour of the strongest ink in the columns from @p left to @p right.
 QColor ink(const QImage& image, int left, int right) {

@@ -1,4 +1,4 @@
-#include "app/AppSettings.h"
+#include "support/pixels.h"
 #include "support/uitest.h"
 #include "ui/Theme.h"
 #include "ui/controls/Select.h"
@@ -7,39 +7,20 @@
 #include <QAbstractAnimation>
 #include <QAccessible>
 #include <QElapsedTimer>
-#include <QPainter>
 #include <QPointer>
 #include <QScreen>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
+using pixels::isNear;
+using pixels::over;
+using pixels::rendered;
+using pixels::setLook;
 using ui::Select;
 using ui::SelectPopup;
 using ui::SelectPopupLayout;
 
 namespace {
-
-void setLook(bool dark) { AppSettings::instance().setThemeMode(dark ? AppSettings::Dark : AppSettings::Light); }
-
-QImage rendered(QWidget& widget) {
-  QImage image(widget.size(), QImage::Format_ARGB32);
-  image.fill(Qt::transparent);
-  widget.render(&image, {}, {}, {});
-  return image;
-}
-
-QColor over(const QColor& upper, const QColor& lower) {
-  QImage image(1, 1, QImage::Format_ARGB32);
-  image.fill(lower);
-  QPainter(&image).fillRect(0, 0, 1, 1, upper);
-  return image.pixelColor(0, 0);
-}
-
-bool isNear(const QColor& seen, const QColor& wanted) {
-  const int slack = 3 + 255 / qMax(1, seen.alpha());
-  return qAbs(seen.alpha() - wanted.alpha()) <= 3 && qAbs(seen.red() - wanted.red()) <= slack &&
-         qAbs(seen.green() - wanted.green()) <= slack && qAbs(seen.blue() - wanted.blue()) <= slack;
-}
 
 SelectPopup* popup() {
   for (QWidget* widget : QApplication::topLevelWidgets())

@@ -186,10 +186,10 @@ void TestDiskOrb::paintsTheCore() {
       const QColor glow = light(kIndigo, dark ? 115 : 55, 228 + 0.2 * 176, y);
       QVERIFY2(isNear(at(image, {140.5, y}), over(glow, over(sheen, theme.core))), qPrintable(QString::number(y)));
     }
-    // The border, half a pixel inside: over the sheen and the glow, which reach neither side.
-    const QColor edge = at(image, {52.5, 140.5});
-    QVERIFY(edge.alpha() > 240);
-    QVERIFY(edge != at(image, {54.5, 140.5}));
+    // The border lies over all that, on the outermost pixel of the core and on no other.
+    const QColor inside = at(image, {53.5, 140.5});
+    QVERIFY(isNear(at(image, {52.5, 140.5}), over(theme.lineStrong, inside)));
+    QVERIFY(!isNear(at(image, {52.5, 140.5}), inside));
   }
 }
 
@@ -228,7 +228,15 @@ void TestDiskOrb::paintsNumberUnitAndCaption() {
   // The unit is small: above its own height there is only the number.
   const QRect above(0, 0, 280, 114);
   QVERIFY(difference(bare.copy(above), withValue.copy(above)).right() <= left + numberWidth + 1);
-  QVERIFY(count(withValue, {left, 90, numberWidth, 38}, Theme::get().text) > 20);
+  const QRectF unitPlace(left + numberWidth + 3, 114, unit.horizontalAdvance(u"GB"_s), 14);
+  for (const bool dark : {true, false}) {
+    setLook(dark);
+    orb.setCenter(u"190 GB"_s, u"free of 500 GB"_s, {});
+    const QImage texts = rendered(orb);
+    QVERIFY(count(texts, {left, 90, numberWidth, 38}, Theme::get().text) > 20);
+    QVERIFY(count(texts, unitPlace, Theme::get().text2) > 2);
+    QVERIFY(count(texts, {62, 136, 156, 16}, Theme::get().text3) > 2);
+  }
 
   orb.setCenter(u"190"_s, {}, {});
   const QRect alone = difference(bare, rendered(orb));

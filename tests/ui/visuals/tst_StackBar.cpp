@@ -50,7 +50,7 @@ class TestStackBar : public QObject {
   void paintsTrackAndSegments();
   void paintsStripes();
   void cornersAreCut();
-  void paintsNewLook();
+  void hugeSegmentsArePainted();
   void tipOfASegment();
   void noTipHidesTheOpenOne();
   void isReadOut();
@@ -201,14 +201,20 @@ void TestStackBar::cornersAreCut() {
   }
 }
 
-void TestStackBar::paintsNewLook() {
-  StackBar bar(22);
-  bar.resize(100, 22);
-  bar.show();
-  QVERIFY(QTest::qWaitForWindowExposed(&bar));
-  const QColor before = bar.grab().toImage().pixelColor(50, 11);
-  setLook(true);
-  QVERIFY(bar.grab().toImage().pixelColor(50, 11) != before);
+// A whole disk on a scale of one byte: only what is seen is painted, stripes too, in no time.
+void TestStackBar::hugeSegmentsArePainted() {
+  for (const bool hatched : {false, true}) {
+    StackBar bar(12);
+    bar.resize(100, 12);
+    bar.setSegments({{.bytes = 4'000'000'000'000, .colour = kRed, .hatched = hatched},
+                     {.bytes = 4'000'000'000'000, .colour = kBlue, .hatched = hatched}},
+                    1);
+    const QImage image = rendered(bar);
+    // A line's foot is at -12 + 5 x 8 = 28, and half way up it is at 34.
+    QVERIFY(isNear(image.pixelColor(33, 6), kRed));
+    QVERIFY(isNear(image.pixelColor(37, 6), hatched ? over(faded(kRed, 0.55), Theme::get().track) : kRed));
+    QVERIFY(image.pixelColor(0, 0).alpha() < 40); // still round
+  }
 }
 
 void TestStackBar::tipOfASegment() {

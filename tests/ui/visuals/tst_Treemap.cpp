@@ -73,14 +73,22 @@ QRect changed(const QImage& before, const QImage& after) {
   return area;
 }
 
-/// Whether text in @p ink is among what came upon the first picture: somewhere it covers a whole pixel.
+/// Whether what came upon the first picture is text in @p ink: where it differs most it covers a whole pixel, and is
+/// ink there, no stronger and no fainter.
 bool hasInk(const QImage& before, const QImage& after, const QColor& ink) {
+  const auto distance = [&](const QPoint& at) {
+    const QColor one = before.pixelColor(at);
+    const QColor other = after.pixelColor(at);
+    return qAbs(one.red() - other.red()) + qAbs(one.green() - other.green()) + qAbs(one.blue() - other.blue()) +
+           qAbs(one.alpha() - other.alpha());
+  };
   const QRect area = changed(before, after);
+  if (area.isEmpty()) return false;
+  QPoint most = area.topLeft();
   for (int y = area.top(); y <= area.bottom(); ++y)
     for (int x = area.left(); x <= area.right(); ++x)
-      if (before.pixel(x, y) != after.pixel(x, y) && isNear(after.pixelColor(x, y), over(ink, before.pixelColor(x, y))))
-        return true;
-  return false;
+      if (distance({x, y}) > distance(most)) most = {x, y};
+  return isNear(after.pixelColor(most), over(ink, before.pixelColor(most)));
 }
 
 QColor withAlpha(QColor colour, int alpha) {
@@ -113,11 +121,12 @@ class TestTreemap : public QObject {
   void receiverMaySetItems();
   void hover();
   void hoverSurvivesItems();
+  void tipShowsNamesAsTheyAre();
 
   void paintsBodies();
   void paintsDimmed();
   void paintsHover();
-  void hoverRepaintsItsTilesOnly();
+  void hoverLooksAsIfAllWerePainted();
   void pictureFollowsTheScale();
   void liesOnWhatIsBelow();
   void paintsGlow();
@@ -127,11 +136,13 @@ class TestTreemap : public QObject {
   void textPlaces();
   void textStaysClearOfTheTick();
   void loneDetail();
+  void detailStaysBesideTheTick();
   void textInk_data();
   void textInk();
 
   void arrowsGoByGeometry();
   void keysActivate();
+  void keyboardPassesByWhatHasNoTile();
   void ringIsForTheKeyboard();
   void ringStaysWithItsKey();
   void keyboardTellsWhatHasNoText();
@@ -175,7 +186,39 @@ void TestTreemap::sizesOfNothing() {
   QCOMPARE(map.rects(), QList<QRectF>(2));
   QVERIFY(isBlank(rendered(map)));
   QTest::mouseClick(&map, Qt::LeftButton, {}, {0, 0});
+  focus(map, Qt::TabFocusReason);
+  for (const Qt::Key key : {Qt::Key_End, Qt::Key_Space, Qt::Key_Return}) QTest::keyClick(&map, key);
+  QVERIFY(isBlank(rendered(map))); // no ring around nothing
   QVERIFY(toggled.isEmpty());
+  QVERIFY(QAccessible::queryAccessibleInterface(&map)->child(0)->state().invisible);
+}
+
+void TestTreemap::keyboardPassesByWhatHasNoTile() {
+  Treemap map;
+  map.resize(400, 200);
+  QList<Treemap::Item> items = four();
+  items[2].bytes = 0;
+  items[3].bytes = 0;
+  map.setItems(items);
+  QTest::keyClick(&map, Qt::Key_End);
+  QVERIFY(map.itemAt(1).current);
+  items[1].bytes = 0; // now the ring's own tile is gone
+  map.setItems(items);
+  QSignalSpy toggled(&map, &Treemap::toggled);
+  QTest::keyClick(&map, Qt::Key_Space);
+  QVERIFY(toggled.isEmpty());
+  QTest::keyClick(&map, Qt::Key_Home);
+  QTest::keyClick(&map, Qt::Key_Space);
+  QCOMPARE(toggled.count(), 1);
+  QCOMPARE(toggled[0][0].toString(), u"a"_s);
+}
+
+void TestTreemap::tipShowsNamesAsTheyAre() {
+  Treemap map;
+  map.resize(400, 200);
+  map.setItems({{u"a"_s, u"<b>bold</b>.mov"_s, u"3 GB"_s, 7, kRed}});
+  move(map, {50, 50});
+  QVERIFY(map.toolTip().contains(u"&lt;b&gt;bold&lt;/b&gt;.mov"_s));
 }
 
 void TestTreemap::largestFirst() {
@@ -366,7 +409,7 @@ void TestTreemap::paintsHover() {
 }
 
 // A hovered tile is painted anew between the glows of its neighbours, and looks as if all had been.
-void TestTreemap::hoverRepaintsItsTilesOnly() {
+void TestTreemap::hoverLooksAsIfAllWerePainted() {
   for (const double ratio : {1.0, 1.5, 2.0}) {
     Treemap map;
     map.resize(403, 200);
@@ -527,15 +570,22 @@ void TestTreemap::loneDetail() {
     map.setItems({item(u"Label"_s, u"123456789012345678901234567890123456789012345678901234567890"_s)});
     QVERIFY(changed(plain, rendered(map)).right() < width - 5); // elided inside the tile
   }
-  // Beside a tick that it would run into, it isn't painted.
+}
+
+// The tick takes room from the label alone.
+void TestTreemap::detailStaysBesideTheTick() {
+  Treemap map;
+  map.setFixedHeight(44);
   map.resize(70, 44);
   map.setSelected({u"a"_s});
-  map.setItems({item({}, {})});
+  const auto item = [](const QString& detail) { return Treemap::Item{u"a"_s, {}, detail, 1, kRed}; };
+  map.setItems({item({})});
   const QImage plain = rendered(map);
-  map.setItems({item({}, u"123 MB"_s)});
-  QCOMPARE(rendered(map), plain);
-  map.setItems({item({}, u"12"_s)});
-  QVERIFY(changed(plain, rendered(map)).isValid());
+  map.setItems({item(u"123 MB"_s)});
+  const QRect area = changed(plain, rendered(map));
+  const double width = QFontMetricsF(Theme::get().mono(11, 400)).horizontalAdvance(u"123 MB"_s);
+  QVERIFY(qAbs(area.left() - 11) <= 2);
+  QVERIFY(area.right() > 11 + width - 4);
 }
 
 void TestTreemap::textInk_data() {

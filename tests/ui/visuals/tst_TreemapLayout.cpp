@@ -48,6 +48,7 @@ class TestTreemapLayout : public QObject {
   void emptySizesGetNothing();
   void oneFillsTheMap();
   void twoEqualInASquare();
+  void twoEqualAreHalvesOfAnySquare();
   void firstRowAlongTheShorterSide();
   void rowGrowsOnEqualRatios();
   void tiniestStaysInside();
@@ -96,9 +97,24 @@ void TestTreemapLayout::oneFillsTheMap() {
   QCOMPARE(treemapTile({0, 0, 317, 200}, false).body, QRectF(2, 2, 313, 196));
 }
 
-// Both ratios are 2, so the row takes the second tile; a row of a square is a column.
+// Alone the first has the ratio 2, and so have both in one row: on equal ratios the row grows. A row of a square is a
+// column at the left, in which the first stands above the second.
 void TestTreemapLayout::twoEqualInASquare() {
   QVERIFY(isNear(treemapLayout({8, 8}, {100, 100}), {QRectF(0, 0, 100, 50), QRectF(0, 50, 100, 50)}));
+}
+
+// In other squares rounding may keep the second out of the row; then it stands beside the first. Halves they are
+// always, with the first in the corner.
+void TestTreemapLayout::twoEqualAreHalvesOfAnySquare() {
+  for (int side = 1; side <= 500; ++side)
+    for (const qint64 size : {1, 7, 12345}) {
+      const double half = side / 2.0;
+      const double whole = side;
+      const Rects rects = treemapLayout({size, size}, QSizeF(whole, whole));
+      const Rects stacked = {QRectF(0, 0, whole, half), QRectF(0, half, whole, half)};
+      const Rects abreast = {QRectF(0, 0, half, whole), QRectF(half, 0, half, whole)};
+      QVERIFY2(isNear(rects, stacked) || isNear(rects, abreast), qPrintable(QString::number(side)));
+    }
 }
 
 void TestTreemapLayout::firstRowAlongTheShorterSide() {
