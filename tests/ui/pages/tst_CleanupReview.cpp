@@ -427,6 +427,10 @@ void TestCleanupReview::itemRows() {
     if (label->text() == u"big.bin"_s) QCOMPARE(label->toolTip(), result.items[0].path);
     if (label->text() == u"Today"_s) QCOMPARE(label->width(), 84);
     if (label->text() == u"1 MB"_s) QCOMPARE(label->width(), 80);
+    if (label->text() == u"big.bin"_s) QCOMPARE(label->font().weight(), QFont::Medium);
+    if (label->text() == u"~/Thing"_s) QCOMPARE(label->font().pixelSize(), 10);
+    if (label->text() == u"Fox is running"_s) QCOMPARE(label->font().pixelSize(), 11);
+    if (label->text() == u"Today"_s) QCOMPARE(label->font().pixelSize(), 12);
   }
 }
 
