@@ -37,9 +37,9 @@ CategoryResult category(const CategoryDef& def, int items) {
 }
 
 /// A page on which a category of so many items, and a small one, wait for a decision.
-class Review {
+class Findings {
  public:
-  explicit Review(int items) {
+  explicit Findings(int items) {
     const QList<CategoryDef> defs = categories::forThisPlatform();
     m_state.results = {category(defs.at(0), items), category(defs.at(1), 1)};
     m_state.selectAll(true);
@@ -69,24 +69,24 @@ int main(int argc, char** argv) {
   const bench::OwnSettings settings;
   QApplication::setStyle(u"Fusion"_s);
   Theme::get().install(&app);
-  Review many(kMany);
-  Review few(kFew);
+  Findings many(kMany);
+  Findings few(kFew);
 
-  std::vector<double> manyMs, fewMs;
-  const auto opened = [](Review* review, std::vector<double>* ms) {
+  std::vector<double> manyOpened, fewOpened;
+  const auto opened = [](Findings* review, std::vector<double>* ms) {
     review->close();
     const bench::Clock clock;
     review->open();
     ms->push_back(clock.ms());
   };
   for (int round = 0; round < kRounds; ++round) {
-    opened(&many, &manyMs);
-    opened(&few, &fewMs);
+    opened(&many, &manyOpened);
+    opened(&few, &fewOpened);
   }
   const auto ticked = bench::inTurns(
       kRounds, [&](int round) { many.tick(round); }, [&](int round) { few.tick(round); });
   std::printf("name=review items=%d open_ms=%.1f few_open_ms=%.1f tick_ms=%.2f few_tick_ms=%.2f tick_ratio=%.2f "
               "peak_kib=%ld\n",
-              kMany, bench::median(manyMs), bench::median(fewMs), ticked.ours, ticked.peer, ticked.ratio(),
+              kMany, bench::median(manyOpened), bench::median(fewOpened), ticked.ours, ticked.peer, ticked.ratio(),
               bench::peakKib());
 }

@@ -190,9 +190,12 @@ void CleanupDetail::rebuild() {
   else
     m_detailLayout->addWidget(label(CleanupWords::tr("Nothing left to clean. Rescan any time."), "sub"));
   m_detailLayout->addStretch();
-  // At once, so that the panel doesn't shrink in between and keeps its scroll position.
+  // At once, so that the panel doesn't shrink in between and keeps its scroll position. Each of them would lay the
+  // panel out again.
+  m_detailLayout->setEnabled(false);
   for (QWidget* child : m_detailScroll->widget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
     child->show();
+  m_detailLayout->setEnabled(true);
   placeAges();
   emit rebuilt();
 }

@@ -93,7 +93,7 @@ CleanupDoneView::CleanupDoneView(AppState* state, QWidget* parent)
 }
 
 QVBoxLayout* CleanupDoneView::buildColumn() {
-  QVBoxLayout* column = vbox(kColumnSpacing);
+  QVBoxLayout* column = vbox(kColumnSpacing, {0, 0, 0, kGlowRoom});
   addResult(column);
   addCounters(column);
   addNotes(column);

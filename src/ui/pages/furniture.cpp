@@ -77,6 +77,7 @@ QWidget* centred(QLayout* block, int maxWidth) {
 
 StartBlock startBlock(const StartWords& words) {
   StartBlock block{.layout = vbox(kStartSpacing), .start = new Button(words.button, "primary", words.buttonIcon, "lg")};
+  block.layout->setContentsMargins(0, 0, 0, kGlowRoom);
   block.layout->addWidget(accentTile(words.icon, kStartTile), 0, Qt::AlignHCenter);
   block.layout->addSpacing(kBelowTile);
   block.layout->addWidget(centredLabel(words.title, "h2"));

@@ -20,6 +20,9 @@ class Radar;
 /// What a page leaves free at its left and right, in pixels.
 [[nodiscard]] int pageSide();
 
+/// What a block that ends with a filled button leaves free below it, so that the button's glow isn't cut off; pixels.
+inline constexpr int kGlowRoom = 34;
+
 /// A widget that holds @p block in the middle of its width, at most @p maxWidth wide.
 [[nodiscard]] QWidget* centred(QLayout* block, int maxWidth);
 
@@ -32,7 +35,7 @@ struct StartWords {
   QString buttonIcon;
 };
 struct StartBlock {
-  QVBoxLayout* layout = nullptr; ///< no margins, no parent yet
+  QVBoxLayout* layout = nullptr; ///< no margins but room for the button's glow; no parent yet
   Button* start = nullptr;
 };
 [[nodiscard]] StartBlock startBlock(const StartWords& words);

@@ -27,6 +27,7 @@ class TestCleanupPage : public CleanupTest {
   void builtInAnyPhase();
   void emptyView();
   void startButtonScans();
+  void glowsAreWhole();
   void sides();
   void fractions();
   void remaining();
@@ -102,6 +103,19 @@ void TestCleanupPage::startButtonScans() {
   QTest::mouseClick(button(view(), u"Start Smart Scan"_s), Qt::LeftButton);
   QCOMPARE(viewIndex(), 1);
   QTRY_COMPARE(viewIndex(), 2);
+}
+
+void TestCleanupPage::glowsAreWhole() {
+  pixels::setLook(true);
+  for (const auto& [phase, text] : {std::pair(AppState::Empty, u"Start Smart Scan"_s), {AppState::Done, u"Done"_s}}) {
+    m_state->setPhase(phase);
+    settle();
+    const QPushButton* shining = button(view(), text);
+    const QPoint below = shining->mapTo(view(), QPoint(shining->width() / 2, shining->height() + 6));
+    const QImage image = view()->grab().toImage();
+    QVERIFY2(image.pixelColor(below) != image.pixelColor(5, below.y()), qPrintable(text));
+  }
+  pixels::setLook(false);
 }
 
 void TestCleanupPage::sides() {
