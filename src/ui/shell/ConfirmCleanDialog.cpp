@@ -108,7 +108,9 @@ void ConfirmCleanDialog::addWhatStays(QVBoxLayout* body) {
 
 void ConfirmCleanDialog::addCategories(QVBoxLayout* body) {
   auto* card = new Card;
-  card->fill = Theme::get().surface;
+  const auto fill = [card] { card->fill = Theme::get().surface; };
+  connect(&Theme::get(), &Theme::changed, card, fill);
+  fill();
   QVBoxLayout* rows = vbox();
   for (const CategoryResult& result : m_state->selectedResults()) {
     if (rows->count() > 0) rows->addWidget(new Divider);

@@ -6,6 +6,7 @@
 #include "support/uitest.h"
 #include "ui/Theme.h"
 #include "ui/controls/Button.h"
+#include "ui/controls/Card.h"
 #include "ui/controls/Divider.h"
 #include "ui/shell/AboutDialog.h"
 #include "ui/shell/CloseDialog.h"
@@ -94,6 +95,7 @@ class TestDialogs : public QObject {
   void widths();
   void cleanMessages_data();
   void cleanMessages();
+  void cleanFollowsTheLook();
   void cleanListsTheSelection();
   void cleanIsASnapshot();
   void cleanTellsOfNoTrash();
@@ -320,6 +322,16 @@ void TestDialogs::cleanMessages() {
   QVERIFY(texts(dialog).contains(u"Clean 4 MB?"_s));
   QCOMPARE(defaultButton(dialog)->text(), confirm);
   QCOMPARE(defaultButton(dialog)->property("kind").toString(), kind);
+}
+
+void TestDialogs::cleanFollowsTheLook() {
+  m_state->results = {found(u"logs"_s, 3'000'000)};
+  m_state->selectAll(true);
+  const ConfirmCleanDialog dialog(m_state.get(), m_area.get());
+  for (const bool dark : {true, false}) {
+    pixels::setLook(dark);
+    QCOMPARE(dialog.findChild<Card*>()->fill, Theme::get().surface); // its texts follow, and must stay readable
+  }
 }
 
 void TestDialogs::cleanListsTheSelection() {
