@@ -73,6 +73,15 @@ inline int count(const QImage& image, const QRectF& part, const QColor& wanted) 
   return found;
 }
 
+/// Where two pictures of one size differ.
+inline QRect difference(const QImage& one, const QImage& other) {
+  QRect found;
+  for (int y = 0; y < one.height(); ++y)
+    for (int x = 0; x < one.width(); ++x)
+      if (one.pixel(x, y) != other.pixel(x, y)) found |= QRect(x, y, 1, 1);
+  return found;
+}
+
 /// Counts the paint events of a widget.
 class Repaints : public QObject {
  public:

@@ -102,6 +102,7 @@ void TestBaseControls::elidedLabelKeepsItsTip() {
   label.setText(u"Second"_s);
   QCOMPARE(label.toolTip(), u"First"_s);
   QCOMPARE(label.text(), u"Second"_s);
+  QVERIFY(ui::ElidedLabel(u"<b>x</b>.mov"_s).toolTip().contains(u"&lt;b&gt;x&lt;/b&gt;.mov"_s)); // no markup
 }
 
 void TestBaseControls::elidedLabelSizes() {

@@ -47,15 +47,6 @@ void release(DiskOrb* orb, const QPointF& point, Qt::MouseButton button = Qt::Le
   QTest::mouseRelease(orb, button, {}, point.toPoint());
 }
 
-/// Where a picture has pixels that another hasn't.
-QRect difference(const QImage& one, const QImage& other) {
-  QRect found;
-  for (int y = 0; y < one.height(); ++y)
-    for (int x = 0; x < one.width(); ++x)
-      if (one.pixel(x, y) != other.pixel(x, y)) found |= QRect(x, y, 1, 1);
-  return found;
-}
-
 } // namespace
 
 class TestDiskOrb : public QObject {

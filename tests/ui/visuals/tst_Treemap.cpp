@@ -3,6 +3,7 @@
 #include "support/pixels.h"
 #include "support/uitest.h"
 #include "ui/Theme.h"
+#include "ui/paint.h"
 
 #include <QAccessible>
 #include <QMouseEvent>
@@ -10,6 +11,7 @@
 #include <QToolTip>
 
 using namespace Qt::StringLiterals;
+using pixels::difference;
 using pixels::faded;
 using pixels::isBlank;
 using pixels::isNear;
@@ -17,6 +19,7 @@ using pixels::over;
 using pixels::rendered;
 using pixels::setLook;
 using ui::Treemap;
+using ui::paint::withAlpha;
 
 namespace {
 
@@ -64,15 +67,6 @@ QColor glow(const QColor& colour, int first, int last, QColor upon) {
   return upon;
 }
 
-/// What differs between two pictures, in pixels.
-QRect changed(const QImage& before, const QImage& after) {
-  QRect area;
-  for (int y = 0; y < before.height(); ++y)
-    for (int x = 0; x < before.width(); ++x)
-      if (before.pixel(x, y) != after.pixel(x, y)) area |= QRect(x, y, 1, 1);
-  return area;
-}
-
 /// Whether what came upon the first picture is text in @p ink: where it differs most it covers a whole pixel, and is
 /// ink there, no stronger and no fainter.
 bool hasInk(const QImage& before, const QImage& after, const QColor& ink) {
@@ -82,18 +76,13 @@ bool hasInk(const QImage& before, const QImage& after, const QColor& ink) {
     return qAbs(one.red() - other.red()) + qAbs(one.green() - other.green()) + qAbs(one.blue() - other.blue()) +
            qAbs(one.alpha() - other.alpha());
   };
-  const QRect area = changed(before, after);
+  const QRect area = difference(before, after);
   if (area.isEmpty()) return false;
   QPoint most = area.topLeft();
   for (int y = area.top(); y <= area.bottom(); ++y)
     for (int x = area.left(); x <= area.right(); ++x)
       if (distance({x, y}) > distance(most)) most = {x, y};
   return isNear(after.pixelColor(most), over(ink, before.pixelColor(most)));
-}
-
-QColor withAlpha(QColor colour, int alpha) {
-  colour.setAlpha(alpha);
-  return colour;
 }
 
 } // namespace
@@ -524,17 +513,17 @@ void TestTreemap::textPlaces() {
   // The body of the upper left tile is (2, 2, 196, 96), its text box (11, 9, 178, 82).
   items[0].label = u"HHH"_s;
   map.setItems(items);
-  QRect area = changed(plain, rendered(map));
+  QRect area = difference(plain, rendered(map));
   QVERIFY(qAbs(area.left() - 11) <= 2);
   QVERIFY(qAbs(area.bottom() + 1 - (9 + label.ascent())) <= 1); // it stands on its base line
   items[0].label = u"A very long name of a file that no tile has room for.tar.gz"_s;
   map.setItems(items);
-  area = changed(plain, rendered(map));
+  area = difference(plain, rendered(map));
   QVERIFY(area.right() <= 189 && area.right() > 150);
   items[0].label.clear();
   items[0].detail = u"HHH"_s;
   map.setItems(items);
-  area = changed(plain, rendered(map));
+  area = difference(plain, rendered(map));
   QVERIFY(qAbs(area.left() - 11) <= 2);
   QVERIFY(qAbs(area.bottom() + 1 - (91 - detail.descent())) <= 1);
 }
@@ -548,7 +537,7 @@ void TestTreemap::textStaysClearOfTheTick() {
   const QImage plain = rendered(map);
   items[0].label = u"A very long name of a file that no tile has room for.tar.gz"_s;
   map.setItems(items);
-  QVERIFY(changed(plain, rendered(map)).right() <= 189 - 22);
+  QVERIFY(difference(plain, rendered(map)).right() <= 189 - 22);
 }
 
 // In tiles that are wide enough for a detail, but too low for two lines.
@@ -566,9 +555,9 @@ void TestTreemap::loneDetail() {
     map.setItems({item(u"Label"_s, {})});
     QCOMPARE(rendered(map), plain);
     map.setItems({item(u"Label"_s, u"12"_s)});
-    QVERIFY(changed(plain, rendered(map)).isValid());
+    QVERIFY(difference(plain, rendered(map)).isValid());
     map.setItems({item(u"Label"_s, u"123456789012345678901234567890123456789012345678901234567890"_s)});
-    QVERIFY(changed(plain, rendered(map)).right() < width - 5); // elided inside the tile
+    QVERIFY(difference(plain, rendered(map)).right() < width - 5); // elided inside the tile
   }
 }
 
@@ -582,7 +571,7 @@ void TestTreemap::detailStaysBesideTheTick() {
   map.setItems({item({})});
   const QImage plain = rendered(map);
   map.setItems({item(u"123 MB"_s)});
-  const QRect area = changed(plain, rendered(map));
+  const QRect area = difference(plain, rendered(map));
   const double width = QFontMetricsF(Theme::get().mono(11, 400)).horizontalAdvance(u"123 MB"_s);
   QVERIFY(qAbs(area.left() - 11) <= 2);
   QVERIFY(area.right() > 11 + width - 4);

@@ -170,6 +170,10 @@ void TestVisuals::repaintsForANewLook() {
   QVERIFY(sentinel.settles());
   emit Theme::get().changed();
   QVERIFY(sentinel.pending() > 0);
+  Sentinel stranger(new QWidget);
+  QVERIFY(stranger.settles());
+  emit Theme::get().changed();
+  QCOMPARE(stranger.pending(), 0);
 }
 
 void TestVisuals::repaintsForWhatChangesIt_data() {
