@@ -51,15 +51,21 @@ Toast::Toast(QWidget* parent)
     emit undo();
   });
   parent->installEventFilter(this);
+  connect(&Theme::get(), &Theme::changed, this, &Toast::dress);
   hide();
 }
 
-void Toast::show(const QString& text, bool undoable) {
+// The ground follows the look by itself, and a message may be on show when that changes.
+void Toast::dress() {
   const QColor ink = Theme::get().toastFg;
-  m_text->setText(text);
   m_text->setStyleSheet(u"color: %1;"_s.arg(ink.name()));
-  m_button->setVisible(undoable);
   m_button->setStyleSheet(buttonStyle(ink));
+}
+
+void Toast::show(const QString& text, bool undoable) {
+  m_text->setText(text);
+  m_button->setVisible(undoable);
+  dress();
   setAccessibleName(text);
   adjustSize();
   place();

@@ -35,6 +35,8 @@ class Toast : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void dress();
+
   QLabel* m_text;
   QPushButton* m_button;
   QTimer* m_timer;

@@ -28,6 +28,7 @@ class TestToast : public QObject {
 
   void hiddenAtFirst();
   void standsAtTheFoot();
+  void followsTheLookWhileShown();
   void followsTheWindow();
   void hiddenStaysWhereItIs();
   void newerReplacesAndLasts();
@@ -64,6 +65,15 @@ void TestToast::standsAtTheFoot() {
   QVERIFY(m_toast->isVisible());
   QCOMPARE(m_toast->pos(), wanted());
   QCOMPARE(m_toast->accessibleName(), u"3 files moved to the Trash"_s);
+}
+
+void TestToast::followsTheLookWhileShown() {
+  m_toast->show(u"Done"_s, true);
+  for (const bool dark : {true, false}) {
+    pixels::setLook(dark);
+    for (QWidget* part : QList<QWidget*>{m_toast->findChild<QLabel*>(), button()})
+      QCOMPARE(part->palette().color(part->foregroundRole()), Theme::get().toastFg);
+  }
 }
 
 void TestToast::followsTheWindow() {
