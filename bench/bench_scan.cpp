@@ -2,10 +2,9 @@
 // with DIR a home folder of its own, whose cache DIR is, so that each folder in DIR is a root.
 #include "engines/Scanner.h"
 #include "figure.h"
+#include "home.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
 #include <QSemaphore>
 #include <QTemporaryDir>
 
@@ -16,15 +15,6 @@
 namespace {
 
 constexpr int kTries = 40;
-
-/// Makes HOME a new folder below DIR's, with DIR as its cache.
-void moveInto(const QString& home, const QString& dir) {
-  QDir(home).mkpath(QStringLiteral("tmp"));
-  QFile::link(QDir(dir).absolutePath(), home + QStringLiteral("/.cache"));
-  qputenv("HOME", home.toLocal8Bit());
-  qputenv("TMPDIR", (home + QStringLiteral("/tmp")).toLocal8Bit());
-  for (const char* name : {"XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"}) qunsetenv(name);
-}
 
 struct Figures {
   double ms = 0;
@@ -63,7 +53,7 @@ Figures scan(double cancelAfterMs = -1) {
 
 int main(int argc, char** argv) {
   const QTemporaryDir home(QStringLiteral("/var/tmp/tarnwick-bench-home-XXXXXX"));
-  if (argc >= 2) moveInto(home.path(), QString::fromLocal8Bit(argv[1]));
+  if (argc >= 2) bench::moveInto(home.path(), QString::fromLocal8Bit(argv[1]));
   const QCoreApplication app(argc, argv);
   const Figures whole = scan();
   std::vector<double> waits;
