@@ -1,0 +1,193 @@
+// ctest: LABELS journey
+// From the start to the review: a scan is begun, watched, stopped, finished and repeated, and the window shows what is
+// on the disk.
+#include "JourneyTest.h"
+
+#include "ui/shell/NavButton.h"
+#include "ui/visuals/ScanStepRow.h"
+
+#include <QSet>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace windowtest;
+
+class TestJourneyScan : public JourneyTest {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase() { Theme::get().install(qApp); }
+  void cleanup() { close(); }
+
+  void findsWhatIsThere_data() { hosts(); }
+  void findsWhatIsThere();
+  void isWatched();
+  void stoppedLeavesNothing();
+  void stoppedRescanLeavesTheFindings();
+  void rescanBeginsAnew();
+  void startsFromTheOverview();
+  void nothingFound();
+  void unreadableFolder();
+  void changesNothing();
+
+ private:
+  /// Makes every path so long to judge that a scan can't be through before it is stopped.
+  static void slowDown() {
+    QStringList rules = FixtureHome::rulesForOutside();
+    for (int i = 0; i < 20'000; ++i) rules << u"/*a*e*o*%1*"_s.arg(i);
+    AppSettings::instance().setExclusions(rules);
+  }
+};
+
+void TestJourneyScan::findsWhatIsThere() {
+  QFETCH(QString, host);
+  openDemo(host);
+  scan();
+  QCOMPARE(m_window->page(), int(ui::Sidebar::Cleanup));
+  qint64 total = 0;
+  for (const char* name : {"temp", "appcache", "browser", "logs", "thumbs", "update", "dev", "trash"}) {
+    const QString id = QString::fromLatin1(name);
+    const CategoryResult* result = m_state->result(id);
+    QVERIFY2(result, name);
+    QSet<QString> found;
+    for (const CleanItem& item : result->items) found << item.path;
+    QSet<QString> expected;
+    for (const DemoItem& item : m_demo->items(id)) expected << item.path;
+    QCOMPARE(found, expected);
+    QVERIFY2(row(id) && shows(*row(id), result->def.title) && shows(*row(id), fmt::bytes(result->bytes)), name);
+    showDetail(id);
+    QVERIFY2(shows(*detail(), result->items.first().name), name);
+    total += result->bytes;
+  }
+  QVERIFY(shows(*m_window, fmt::bytes(total) + u" can be cleaned"_s));
+  QVERIFY(shows(*m_window, u"Scanned today"_s));
+  QVERIFY(qAbs(AppSettings::instance().lastScan().secsTo(QDateTime::currentDateTime())) < 3600);
+  checkSum(bytesOf({u"temp"_s, u"appcache"_s, u"browser"_s, u"logs"_s, u"thumbs"_s}));
+}
+
+void TestJourneyScan::isWatched() {
+  open();
+  slowDown();
+  m_window->go(ui::Sidebar::Cleanup);
+  QVERIFY(shows(*m_window, u"Nothing scanned yet"_s));
+  click(*m_window, u"Start Smart Scan"_s);
+  QVERIFY(shows(*m_window, u"Scanning"_s));
+  QVERIFY(button(*m_window, u"Stop"_s));
+  QVERIFY(!button(*m_window, u"Rescan"_s));
+  QTRY_COMPARE_WITH_TIMEOUT(JourneyTest::cleanup()->findChildren<ui::ScanStepRow*>().size(), 8, kPatienceMs);
+  click(*m_window, u"Stop"_s);
+  waitFor(AppState::Empty);
+}
+
+void TestJourneyScan::stoppedLeavesNothing() {
+  open();
+  slowDown();
+  m_window->go(ui::Sidebar::Cleanup);
+  click(*m_window, u"Start Smart Scan"_s);
+  click(*m_window, u"Stop"_s);
+  waitFor(AppState::Empty);
+  QVERIFY(button(*m_window, u"Start Smart Scan"_s));
+  QVERIFY(m_state->results.isEmpty());
+  QVERIFY(!AppSettings::instance().lastScan().isValid());
+}
+
+void TestJourneyScan::stoppedRescanLeavesTheFindings() {
+  open();
+  scan();
+  clickBox(rowBox(u"appcache"_s));
+  const qint64 selected = m_state->selectedBytes();
+  m_home->file(u".cache/acme-new/index"_s, 90'000);
+  slowDown();
+  click(*m_window, u"Rescan"_s);
+  QCOMPARE(m_state->phase, AppState::Scanning);
+  click(*m_window, u"Stop"_s);
+  waitFor(AppState::Review);
+  checkSum(selected); // nor did the selection change
+  showDetail(u"appcache"_s);
+  QVERIFY(!itemBox(u"acme-new"_s));
+}
+
+void TestJourneyScan::rescanBeginsAnew() {
+  open();
+  addManyItems(*m_home, 20);
+  scan();
+  showDetail(u"update"_s);
+  click(*m_window, u"Show 6 more"_s);
+  settle();
+  QCOMPARE(itemBoxes().size(), 21);
+  clickBox(rowBox(u"update"_s));
+  clickBox(rowBox(u"thumbs"_s));
+  m_home->file(u".cache/acme-new/index"_s, 900'000);
+  QVERIFY(QFile::remove(m_home->path(u".xsession-errors.old"_s)));
+  rescan();
+  QCOMPARE(itemBoxes().size(), 15); // of the category that was on show, collapsed
+  QVERIFY(!row(u"logs"_s));
+  showDetail(u"appcache"_s);
+  QVERIFY(itemBox(u"acme-new"_s) && itemBox(u"acme-new"_s)->isChecked());
+  checkSum(bytesOf({u"temp"_s, u"appcache"_s, u"browser"_s, u"thumbs"_s})); // what is recommended
+}
+
+void TestJourneyScan::startsFromTheOverview() {
+  open();
+  QCOMPARE(m_window->page(), int(ui::Sidebar::Overview));
+  m_state->startScan(); // as the schedule does
+  QCOMPARE(m_window->page(), int(ui::Sidebar::Cleanup));
+  waitFor(AppState::Review);
+  const QList<ui::NavButton*> pages = m_window->findChildren<ui::NavButton*>();
+  QTest::mouseClick(pages.first(), Qt::LeftButton);
+  QCOMPARE(m_window->page(), int(ui::Sidebar::Overview));
+  QVERIFY(shows(*m_window, fmt::bytes(m_state->totalReclaimable())) ||
+          allTexts(m_window.get()).join(u'\n').contains(fmt::bytes(m_state->totalReclaimable())));
+}
+
+void TestJourneyScan::nothingFound() {
+  open(Small::Empty);
+  scan();
+  QVERIFY(shows(*m_window, u"0 KB can be cleaned"_s));
+  QVERIFY(shows(*detail(), u"Nothing left to clean. Rescan any time."_s));
+  checkSum(0);
+  clickClean(); // of a disabled button
+  QVERIFY(!question());
+  m_home->file(u".cache/acme-notes/index"_s, 50'000);
+  rescan();
+  QVERIFY(row(u"appcache"_s));
+  QVERIFY(m_state->selectedBytes() > 0);
+}
+
+void TestJourneyScan::unreadableFolder() {
+  if (::geteuid() == 0) QSKIP("root reads every folder");
+  open();
+  const QByteArray closed = QFile::encodeName(m_home->path(u".cache/acme-paint"_s));
+  const QByteArray shut = QFile::encodeName(m_home->path(u".cache/thumbnails"_s));
+  for (const QByteArray& folder : {closed, shut}) QCOMPARE(::chmod(folder.constData(), 0), 0);
+  scan();
+  QVERIFY(shows(*row(u"thumbs"_s), u"No permission to read"_s)); // nothing else is in it
+  QVERIFY(!rowBox(u"thumbs"_s)->isEnabled());
+  showDetail(u"thumbs"_s);
+  QVERIFY(shows(*detail(), u"You have no permission to read some of these folders."_s));
+  showDetail(u"appcache"_s);
+  QVERIFY(shows(*detail(), u"You have no permission to read some of these folders."_s));
+  QVERIFY(itemBox(u"acme-notes"_s));
+  clean(u"Clean and delete"_s);
+  for (const QByteArray& folder : {closed, shut}) QCOMPARE(::chmod(folder.constData(), 0700), 0);
+  QVERIFY(there(u".cache/acme-paint/brushes"_s));
+  QVERIFY(there(u".cache/thumbnails/normal/1.png"_s));
+  QVERIFY(!there(u".cache/acme-notes/index"_s));
+}
+
+void TestJourneyScan::changesNothing() {
+  open();
+  const auto before = wholeTree(*m_home);
+  scan();
+  for (const char* id : {"temp", "appcache", "browser", "logs", "thumbs", "update", "dev", "trash"}) {
+    showDetail(QString::fromLatin1(id));
+    clickBox(rowBox(QString::fromLatin1(id)));
+  }
+  rescan();
+  QCOMPARE(wholeTree(*m_home), before);
+}
+
+int main(int argc, char** argv) { return uitest::run<TestJourneyScan>(argc, argv); }
+
+#include "tst_JourneyScan.moc"

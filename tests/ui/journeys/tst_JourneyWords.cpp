@@ -1,0 +1,149 @@
+// ctest: LABELS journey
+// Every text of the window, on all its views and in all its dialogs: on Linux none of them speaks of another system.
+#include "JourneyTest.h"
+
+#include "ui/shell/AboutDialog.h"
+#include "ui/shell/CloseDialog.h"
+#include "ui/shell/program.h"
+
+#include <QRegularExpression>
+
+using namespace windowtest;
+
+namespace {
+
+const QRegularExpression
+    kForeign(uR"(\b(Finder|Full Disk Access|Xcode|macOS|Mac|Applications|[Mm]enu bar|Windows)\b)"_s);
+
+} // namespace
+
+class TestJourneyWords : public JourneyTest {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase() { Theme::get().install(qApp); }
+  void cleanup() { close(); }
+
+  void noneOfAnotherSystem_data();
+  void noneOfAnotherSystem();
+  void theWalkFindsThem();
+
+ private:
+  void look() {
+    settle();
+    for (const QString& text : allTexts(m_window.get())) m_met.insert(text);
+  }
+  /// Results as an unlucky scan leaves them: nothing could be read, everything needs rights, every app is running.
+  void makeTrouble() {
+    for (CategoryResult& result : m_state->results) {
+      result.accessDenied = true;
+      result.def.needsAdmin = result.def.id != u"logs"_s;
+      if (!result.items.isEmpty()) result.items.first().owner = u"Acme"_s;
+    }
+    m_state->results.last().bytes = 0;
+    m_state->results.last().items.clear();
+    emit m_state->resultsChanged();
+  }
+  void lookAtAllDetails() {
+    for (const CategoryResult& result : QList<CategoryResult>(m_state->results)) {
+      if (row(result.def.id)) showDetail(result.def.id); // else there was nothing
+      look();
+    }
+  }
+  void walk();
+  void walkTheClean();
+  void walkTheDialogs();
+  [[nodiscard]] QStringList foreign() const {
+    QStringList found;
+    for (const QString& text : m_met)
+      if (kForeign.match(text).hasMatch()) found << text;
+    return found;
+  }
+
+  QSet<QString> m_met;
+};
+
+void TestJourneyWords::walk() {
+  m_met.clear();
+  look();
+  m_window->go(ui::Sidebar::Cleanup);
+  look();
+  click(*m_window, u"Start Smart Scan"_s);
+  look();
+  waitFor(AppState::Review);
+  lookAtAllDetails();
+  m_window->go(ui::Sidebar::Overview);
+  look();
+  m_window->go(ui::Sidebar::Cleanup);
+  walkTheClean();
+  walkTheDialogs();
+}
+
+void TestJourneyWords::walkTheClean() {
+  for (const bool toTrash : {true, false}) {
+    AppSettings::instance().setMoveToTrash(toTrash);
+    makeTrouble();
+    lookAtAllDetails();
+    clickBox(selectAllBox());
+    clickClean();
+    look();
+    QTest::keyClick(question(), Qt::Key_Escape);
+    settle();
+    clickBox(selectAllBox());
+  }
+  m_state->selectAll(true);
+  m_state->setPhase(AppState::Cleaning);
+  look();
+  m_state->report.skipped = 3;
+  m_state->report.skippedSamples = {u"/c/held"_s};
+  m_state->report.runningApps = {u"Acme"_s};
+  m_state->report.needsAdmin = true;
+  m_state->setPhase(AppState::Done);
+  look();
+}
+
+void TestJourneyWords::walkTheDialogs() {
+  m_window->showAbout();
+  look();
+  m_state->volume.totalBytes = 1000;
+  m_state->volume.availableBytes = 1;
+  ui::afterStart(m_window.get(), m_state.get(), {.background = false, .updated = true});
+  look();
+  const QStringList words = allTexts(std::make_unique<ui::CloseDialog>(m_window.get()).get());
+  m_met.unite(QSet<QString>(words.begin(), words.end()));
+}
+
+void TestJourneyWords::noneOfAnotherSystem_data() {
+  QTest::addColumn<bool>("mac");
+  QTest::newRow("mac metrics") << true;
+  QTest::newRow("other metrics") << false;
+}
+
+void TestJourneyWords::noneOfAnotherSystem() {
+  QFETCH(bool, mac);
+  Theme::get().mac = mac;
+  open();
+  walk();
+  Theme::get().mac = true;
+  QVERIFY2(foreign().isEmpty(), qPrintable(foreign().join(u'\n')));
+  // It went everywhere.
+  const QString all = QStringList(m_met.begin(), m_met.end()).join(u'\n');
+  for (const char* met :
+       {"Nothing scanned yet", "Scanning", "Clean and delete", "Show in Files", "Version 1.0.0", "Keep in tray",
+        "You have no permission to read some of these folders.", "No permission to read", "Cleanup complete",
+        "Some files belong to the system and were left alone.", "Acme is open", "Trash"})
+    QVERIFY2(all.contains(QString::fromLatin1(met)), met);
+}
+
+// On the other host the same walk meets the words that it looks for.
+void TestJourneyWords::theWalkFindsThem() {
+  open(Small::Mac);
+  walk();
+  const QString found = foreign().join(u'\n');
+  for (const char* word : {"Finder", "Full Disk Access", "Xcode"})
+    QVERIFY2(found.contains(QString::fromLatin1(word)), word);
+}
+
+int main(int argc, char** argv) { return uitest::run<TestJourneyWords>(argc, argv); }
+
+#include "tst_JourneyWords.moc"
