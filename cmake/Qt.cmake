@@ -1,6 +1,6 @@
 # The one run-time dependency.
 set(TARNWICK_QT_MIN 6.4)
-find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS Core Gui Concurrent)
+find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS Core Gui Concurrent LinguistTools)
 if(TARNWICK_BUILD_UI)
   find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS Network Widgets Svg)
 endif()
