@@ -75,6 +75,25 @@ void paintCore(QPainter* painter, const RadarLayout& layout) {
   painter->setBrush(theme.core);
   painter->drawEllipse(layout.centre, layout.coreRadius, layout.coreRadius);
 }
+
+/// @param pixels, ratio  of the picture, and pixels to a logical one
+QPixmap picture(const QSize& pixels, double ratio, const RadarLayout& layout,
+                void (*paint)(QPainter*, const RadarLayout&)) {
+  QPixmap result(pixels);
+  result.fill(Qt::transparent);
+  QPainter painter(&result);
+  painter.scale(ratio, ratio);
+  painter.setRenderHint(QPainter::Antialiasing);
+  paint(&painter, layout);
+  return result;
+}
+
+void drawPixels(QPainter* painter, double ratio, const QPixmap& picture) {
+  painter->save();
+  painter->scale(1 / ratio, 1 / ratio); // pixel by pixel, at any ratio
+  painter->drawPixmap(QPoint(), picture);
+  painter->restore();
+}
 } // namespace
 
 RadarLayout radarLayout(const QSize& size) {
@@ -98,7 +117,7 @@ double radarSwept(double angle) { return std::fmod(angle + kSweepStep, kFullTurn
 
 Radar::Radar(QWidget* parent) : QWidget(parent), m_ticker(new Ticker(this, [this] { turn(); })) {
   setFixedSize(kSize);
-  connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
+  connect(&Theme::get(), &Theme::changed, this, &Radar::forgetPictures);
 }
 
 void Radar::setText(const QString& headline, const QString& caption) {
@@ -121,16 +140,32 @@ void Radar::turn() {
   update();
 }
 
+void Radar::forgetPictures() {
+  m_rings = {};
+  m_core = {};
+  update();
+}
+
 void Radar::paintEvent(QPaintEvent* /*event*/) {
   const Theme& theme = Theme::get();
   const RadarLayout layout = radarLayout(size());
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  paintRings(&painter, layout);
+  const double ratio = painter.deviceTransform().m11();
+  paintPictures(ratio, layout);
+  drawPixels(&painter, ratio, m_rings);
   paintSweep(&painter, layout);
-  paintCore(&painter, layout);
+  drawPixels(&painter, ratio, m_core);
   dial::paintText(&painter, layout.text, {m_headline, theme.mono(kHeadlinePx, kHeadlineWeight), theme.text},
                   {m_caption, theme.eyebrow(kCaptionPx), theme.text3});
+}
+
+/// Brings them up to date. @param ratio  pixels to a logical one
+void Radar::paintPictures(double ratio, const RadarLayout& layout) {
+  const QSize pixels(int(std::ceil(width() * ratio)), int(std::ceil(height() * ratio)));
+  if (m_rings.size() == pixels) return;
+  m_rings = picture(pixels, ratio, layout, paintRings);
+  m_core = picture(pixels, ratio, layout, paintCore);
 }
 
 void Radar::paintSweep(QPainter* painter, const RadarLayout& layout) const {

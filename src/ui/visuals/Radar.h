@@ -5,6 +5,7 @@
 #include "ui/visuals/dial.h"
 
 #include <QList>
+#include <QPixmap>
 #include <QWidget>
 
 namespace ui {
@@ -47,12 +48,18 @@ class Radar : public QWidget, public AccessibleValue {
 
  private:
   void turn();
+  void forgetPictures();
+  void paintPictures(double ratio, const RadarLayout& layout);
   void paintSweep(QPainter* painter, const RadarLayout& layout) const;
 
   QString m_headline;
   QString m_caption;
   double m_angle = 0;
   Ticker* m_ticker;
+
+  // Circles take ten times as long as the beam, which alone is another one with every beat.
+  QPixmap m_rings; ///< what lies below the beam
+  QPixmap m_core;  ///< what lies above it, without the texts
 };
 
 } // namespace ui

@@ -69,6 +69,7 @@ class TestDials : public QObject {
   void radarPaintsItsBeam();
   void radarBeamHasASmoothEdge();
   void radarPaintsRingsAndCore();
+  void radarFollowsTheScreen();
   void radarIsReadOut();
 
   void looksDontHangOnTheMetricSet();
@@ -445,6 +446,19 @@ void TestDials::radarPaintsRingsAndCore() {
     QVERIFY(at(image, {125 - 82.5, 125}).alpha() > 0);
     QVERIFY(hasInk(image, layout.text.headline, theme.text));
     QVERIFY(hasInk(image, layout.text.caption, theme.text3));
+  }
+}
+
+void TestDials::radarFollowsTheScreen() {
+  ui::Radar moved;
+  for (const double ratio : {1.0, 2.0, 1.25, 1.0}) {
+    ui::Radar fresh;
+    QCOMPARE(rendered(moved, ratio), rendered(fresh, ratio));
+  }
+  for (const bool dark : {true, false}) {
+    setLook(dark);
+    ui::Radar fresh;
+    QCOMPARE(rendered(moved), rendered(fresh));
   }
 }
 
