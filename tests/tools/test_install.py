@@ -83,7 +83,7 @@ class Install(unittest.TestCase):
         # The window tells the desktop the file's name without its suffix, so that the two are known as one.
         program = (demo.SOURCE / "src/ui/shell/program.cpp").read_text(encoding="utf-8")
         self.assertIn('setDesktopFileName(u"tarnwick"_s)', program)
-        self.assertEqual(entry["StartupWMClass"], "tarnwick")
+        self.assertEqual(entry["StartupWMClass"], "Tarnwick")  # under X11, the application's name
 
     def test_the_entry_has_one_place_in_a_menu(self):
         entry = self.entry()
