@@ -1,7 +1,6 @@
 #include "ui/controls/ElidedLabel.h"
 
 #include "ui/TipStyler.h"
-#include "ui/controls/factory.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -14,7 +13,7 @@ constexpr int kSpareWidth = 8;
 } // namespace
 
 ElidedLabel::ElidedLabel(const QString& text, const char* role, QWidget* parent) : QLabel(text, parent) {
-  setRole(this, role);
+  setProperty("role", QString::fromLatin1(role)); // it is dressed later, once
   setToolTip(plainTip(text));
   setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
   allowShrinking();
@@ -24,7 +23,7 @@ ElidedLabel::ElidedLabel(const QString& text, const char* role, QWidget* parent)
 // goes before that.
 void ElidedLabel::allowShrinking() {
   if (minimumWidth() != m_leastWidth) return; // somebody knows better
-  m_leastWidth = minimumSizeHint().width();
+  m_leastWidth = leastWidth();
   setMinimumWidth(m_leastWidth);
 }
 
@@ -33,9 +32,10 @@ void ElidedLabel::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange) allowShrinking();
 }
 
-QSize ElidedLabel::minimumSizeHint() const {
-  return {fontMetrics().horizontalAdvance(kEllipsis) + kSpareWidth, QLabel::minimumSizeHint().height()};
-}
+QSize ElidedLabel::minimumSizeHint() const { return {leastWidth(), QLabel::minimumSizeHint().height()}; }
+
+// Asking for the height would dress the label before it has a parent, and once more when it has one.
+int ElidedLabel::leastWidth() const { return fontMetrics().horizontalAdvance(kEllipsis) + kSpareWidth; }
 
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
   const QRect room = contentsRect();

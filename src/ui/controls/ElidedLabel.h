@@ -22,6 +22,7 @@ class ElidedLabel : public QLabel {
 
  private:
   void allowShrinking();
+  [[nodiscard]] int leastWidth() const;
 
   int m_leastWidth = 0; ///< the minimum width that it gave itself
 };

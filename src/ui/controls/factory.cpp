@@ -69,6 +69,12 @@ class PendingDrag : public QObject {
   bool m_done = false;
 };
 
+/// For a widget that goes: it would be dressed again when it loses its parent, which takes as long as to build another.
+void forgetLook(QWidget* widget) {
+  widget->setAttribute(Qt::WA_WState_Polished, false);
+  for (QWidget* child : widget->findChildren<QWidget*>()) child->setAttribute(Qt::WA_WState_Polished, false);
+}
+
 } // namespace
 
 QLabel* label(const QString& text, const char* role, QWidget* parent) {
@@ -96,6 +102,7 @@ void clearLayout(QLayout* layout) {
   while (QLayoutItem* item = layout->takeAt(0)) {
     if (QWidget* widget = item->widget()) {
       widget->hide();
+      forgetLook(widget);
       widget->setParent(nullptr);
       widget->deleteLater();
     } else if (QLayout* nested = item->layout()) {

@@ -117,6 +117,7 @@ void TestFactory::clearLayoutEmptiesAllLevels() {
     QVERIFY(label); // goes later
     QVERIFY(!label->isVisible());
     QVERIFY(!label->parent());
+    QVERIFY(!label->testAttribute(Qt::WA_WState_Polished)); // nor was it dressed again on its way
   }
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   QVERIFY(!first && !second && !third);
