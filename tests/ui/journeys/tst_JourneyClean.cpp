@@ -10,7 +10,9 @@
 #include "ui/shell/NavButton.h"
 #include "ui/shell/Toast.h"
 
+#include <QDir>
 #include <QProcess>
+#include <QSignalSpy>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -72,6 +74,7 @@ class TestJourneyClean : public JourneyTest {
   void aSecondCleanIsRefusedInWords();
   void whatWasRuledOutMeanwhileStays();
   void resultsFollowTheClean();
+  void quittingMeanwhileEndsTheLog();
 
  private:
   [[nodiscard]] QString freedOnScreen() const { return JourneyTest::cleanup()->findChild<ui::GradientText*>()->text(); }
@@ -326,6 +329,37 @@ void TestJourneyClean::resultsFollowTheClean() {
   clean(u"Clean and delete"_s);
   QVERIFY(!there(u".cache/pip/http/1"_s));
   QVERIFY(there(u"Downloads/tool_1.0_amd64.deb"_s));
+}
+
+// As when the program is told to quit: what was begun is finished and written down, the rest stays.
+void TestJourneyClean::quittingMeanwhileEndsTheLog() {
+  open();
+  constexpr int kMany = 1'000;
+  addManyItems(*m_home, kMany);
+  scan();
+  clickBox(rowBox(u"update"_s));
+  QSignalSpy progress(m_state.get(), &AppState::cleanProgress);
+  clickClean();
+  click(*question(), u"Clean and delete"_s);
+  QTRY_VERIFY_WITH_TIMEOUT(!progress.isEmpty(), kPatienceMs);
+  m_window.reset();
+  m_state.reset();
+  QCOMPARE(RunLock(m_home->outside(u"clean.lock"_s)).state(), RunLock::State::Held); // nobody has it
+  const QStringList logs = QDir(Cleaner::logDir()).entryList(QDir::Files);
+  QCOMPARE(logs.size(), 1);
+  QFile log(Cleaner::logDir() + u'/' + logs.first());
+  QVERIFY(log.open(QIODevice::ReadOnly));
+  const QStringList lines = QString::fromUtf8(log.readAll()).split(u'\n');
+  QVERIFY2(lines.last().isEmpty() && lines.at(lines.size() - 2).startsWith(u"Freed "_s), qPrintable(lines.last()));
+  const QStringList told = lines.filter(u"Downloads/many-"_s);
+  qsizetype gone = 0;
+  for (int i = 0; i < kMany; ++i) {
+    const QString path = m_home->path(u"Downloads/many-%1.deb"_s.arg(i));
+    if (QFile::exists(path)) continue;
+    ++gone;
+    QVERIFY2(told.filter(u"DELETED  %1 "_s.arg(path)).size() == 1, qPrintable(path));
+  }
+  QCOMPARE(told.size(), gone);
 }
 
 int main(int argc, char** argv) { return uitest::run<TestJourneyClean>(argc, argv); }
