@@ -32,7 +32,7 @@ void Shelf::place(QWidget* control, const QString& caption, int width) {
   // The stretch at the row's end keeps the others in their own size.
   m_row->insertLayout(m_row->count() - 1, cell, whole ? 1 : 0);
   if (whole)
-    m_row->removeItem(m_row->itemAt(m_row->count() - 1));
+    delete m_row->takeAt(m_row->count() - 1);
   else
     m_row->setAlignment(cell, Qt::AlignBottom);
 }
