@@ -1,5 +1,5 @@
 // ctest: LABELS journey
-// ctest: TIMEOUT 300
+// ctest: TIMEOUT 600
 // From the review to the result: asked and left alone, moved to the Trash, deleted, held back by a running app and by
 // an open file; then the disk, the log, the settings and the screen are looked at.
 #include "JourneyTest.h"

@@ -1,4 +1,5 @@
 // ctest: LABELS journey
+// ctest: TIMEOUT 300
 // From the start to the review: a scan is begun, watched, stopped, finished and repeated, and the window shows what is
 // on the disk.
 #include "JourneyTest.h"
@@ -33,7 +34,8 @@ class TestJourneyScan : public JourneyTest {
 
  private:
   /// Makes every path so long to judge that a scan can't be through before it is stopped.
-  static void slowDown() {
+  void slowDown() const {
+    addManyItems(*m_home, 100);
     QStringList rules = FixtureHome::rulesForOutside();
     for (int i = 0; i < 20'000; ++i) rules << u"/*a*e*o*%1*"_s.arg(i);
     AppSettings::instance().setExclusions(rules);
@@ -68,16 +70,26 @@ void TestJourneyScan::findsWhatIsThere() {
 
 void TestJourneyScan::isWatched() {
   open();
-  slowDown();
   m_window->go(ui::Sidebar::Cleanup);
   QVERIFY(shows(*m_window, u"Nothing scanned yet"_s));
+  QStringList stages; // what the rows said each time that the scan told of itself
+  connect(m_state.get(), &AppState::scanProgressChanged, this, [&] {
+    QStringList words;
+    for (QWidget* row : JourneyTest::cleanup()->findChildren<ui::ScanStepRow*>()) words << allTexts(row);
+    stages << words.join(u'\n');
+  });
   click(*m_window, u"Start Smart Scan"_s);
   QVERIFY(shows(*m_window, u"Scanning"_s));
   QVERIFY(button(*m_window, u"Stop"_s));
   QVERIFY(!button(*m_window, u"Rescan"_s));
-  QTRY_COMPARE_WITH_TIMEOUT(JourneyTest::cleanup()->findChildren<ui::ScanStepRow*>().size(), 8, kPatienceMs);
-  click(*m_window, u"Stop"_s);
-  waitFor(AppState::Empty);
+  waitFor(AppState::Review);
+  disconnect(m_state.get(), &AppState::scanProgressChanged, this, nullptr);
+  QVERIFY(!button(*m_window, u"Stop"_s));
+  QVERIFY(stages.size() > 8); // at least one for each category
+  for (const CategoryResult& result : std::as_const(m_state->results))
+    QVERIFY2(stages.last().contains(result.def.title), qPrintable(stages.last()));
+  QVERIFY(stages.last().contains(fmt::bytes(m_state->results.first().bytes))); // the first was through
+  QVERIFY(!stages.first().contains(fmt::bytes(m_state->results.first().bytes)));
 }
 
 void TestJourneyScan::stoppedLeavesNothing() {

@@ -1,4 +1,5 @@
 // ctest: LABELS journey
+// ctest: TIMEOUT 300
 // What the user ticks, by mouse and by keyboard, in every way there is; and that exactly this goes.
 #include "JourneyTest.h"
 

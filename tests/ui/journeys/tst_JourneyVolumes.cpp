@@ -1,4 +1,5 @@
 // ctest: LABELS journey
+// ctest: TIMEOUT 300
 // A part of the selection lies on a volume without a Trash: the question tells how much of it will stay, the clean
 // leaves it, and the result says so.
 #include "JourneyTest.h"

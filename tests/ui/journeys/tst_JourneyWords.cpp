@@ -1,4 +1,5 @@
 // ctest: LABELS journey
+// ctest: TIMEOUT 300
 // Every text of the window, on all its views and in all its dialogs: on Linux none of them speaks of another system.
 #include "JourneyTest.h"
 
