@@ -57,6 +57,12 @@ class Heartbeat {
     std::nth_element(all.begin(), at, all.end());
     return *at;
   }
+  /// What is beaten from now on, the present gap with it, belongs to the end.
+  void markEnd() { m_endFrom = m_gaps.size(); }
+  /// The worst gap before the end began, but for the first, and the worst from there on.
+  [[nodiscard]] double worstBeforeEnd(double Gap::*figure) const { return worst(figure, 1, m_endFrom); }
+  [[nodiscard]] double worstOfEnd(double Gap::*figure) const { return worst(figure, m_endFrom, m_gaps.size()); }
+  [[nodiscard]] Gap first() const { return m_gaps.front(); }
   /// The share of the whole time that lies in gaps of 16 ms and more, in percent.
   [[nodiscard]] double lateShare() const {
     constexpr double kFrameMs = 16;
@@ -69,6 +75,11 @@ class Heartbeat {
   }
 
  private:
+  [[nodiscard]] double worst(double Gap::*figure, std::size_t from, std::size_t to) const {
+    double found = 0;
+    for (std::size_t i = from; i < to; ++i) found = std::max(found, m_gaps[i].*figure);
+    return found;
+  }
   void beat() {
     const double cpu = threadCpuMs();
     m_gaps.push_back({m_clock.ms(), cpu - m_cpuMs});
@@ -80,6 +91,7 @@ class Heartbeat {
   bench::Clock m_clock;
   double m_cpuMs = threadCpuMs();
   std::vector<Gap> m_gaps;
+  std::size_t m_endFrom = 0;
 };
 
 void waitFor(int ms, Heartbeat* heartbeat) {
@@ -149,6 +161,7 @@ int main(int argc, char** argv) {
   const Painted painted(views, &loop);
   const bench::Clock clock;
   Heartbeat seen;
+  QObject::connect(state.scanner, &Scanner::finished, &loop, [&seen] { seen.markEnd(); });
   start->click();
   loop.exec();
   seen.end();
@@ -157,10 +170,13 @@ int main(int argc, char** argv) {
   for (const CategoryResult& result : state.results) items += result.items.size();
   const auto p99 = [](const Heartbeat& one) { return one.quantile(&Gap::ms, kPercentile); };
   const auto worst = [](const Heartbeat& one) { return one.quantile(&Gap::ms, 1); };
-  std::printf("name=window-heartbeat ms=%.1f files=%lld items=%lld beats=%zu p99_ms=%.2f worst_ms=%.2f "
-              "late_percent=%.2f p99_cpu_ms=%.2f worst_cpu_ms=%.2f unseen_p99_ms=%.2f unseen_worst_ms=%.2f "
-              "bare_p99_ms=%.2f bare_worst_ms=%.2f peak_kib=%ld\n",
-              clock.ms(), static_cast<long long>(state.scanFiles), static_cast<long long>(items), seen.beats(),
-              p99(seen), worst(seen), seen.lateShare(), seen.quantile(&Gap::cpuMs, kPercentile),
-              seen.quantile(&Gap::cpuMs, 1), p99(unseen), worst(unseen), p99(bare), worst(bare), bench::peakKib());
+  std::printf(
+      "name=window-heartbeat ms=%.1f files=%lld items=%lld beats=%zu p99_ms=%.2f worst_ms=%.2f "
+      "late_percent=%.2f p99_cpu_ms=%.2f worst_cpu_ms=%.2f first_cpu_ms=%.2f scanning_worst_ms=%.2f "
+      "scanning_worst_cpu_ms=%.2f end_worst_ms=%.2f end_worst_cpu_ms=%.2f unseen_p99_ms=%.2f unseen_worst_ms=%.2f "
+      "bare_p99_ms=%.2f bare_worst_ms=%.2f peak_kib=%ld\n",
+      clock.ms(), static_cast<long long>(state.scanFiles), static_cast<long long>(items), seen.beats(), p99(seen),
+      worst(seen), seen.lateShare(), seen.quantile(&Gap::cpuMs, kPercentile), seen.quantile(&Gap::cpuMs, 1),
+      seen.first().cpuMs, seen.worstBeforeEnd(&Gap::ms), seen.worstBeforeEnd(&Gap::cpuMs), seen.worstOfEnd(&Gap::ms),
+      seen.worstOfEnd(&Gap::cpuMs), p99(unseen), worst(unseen), p99(bare), worst(bare), bench::peakKib());
 }
