@@ -152,8 +152,9 @@ int main(int argc, char** argv) {
   Theme::get().install(&app);
   AppState state;
   ui::MainWindow window(&state);
-  window.go(ui::Sidebar::Cleanup);
   window.show();
+  QApplication::processEvents();
+  window.go(ui::Sidebar::Cleanup);
   QApplication::processEvents();
   auto* views = window.findChild<ui::CleanupPage*>()->findChild<QStackedWidget*>(u"views"_s);
   auto* start = views->currentWidget()->findChild<QPushButton*>();

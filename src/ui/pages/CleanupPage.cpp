@@ -34,7 +34,10 @@ CleanupPage::CleanupPage(AppState* state, QWidget* parent)
     m_views->addWidget(view);
   connect(state, &AppState::phaseChanged, this, &CleanupPage::syncPhase);
   connect(state, &AppState::scanProgressChanged, this, &CleanupPage::refreshScan);
-  connect(state, &AppState::resultsChanged, this, &CleanupPage::refreshReview);
+  // In another phase the review isn't seen, and is brought up to date when its phase comes.
+  connect(state, &AppState::resultsChanged, this, [this] {
+    if (m_state->phase == AppState::Review) refreshReview();
+  });
   connect(state, &AppState::selectionChanged, this, &CleanupPage::refreshSelection);
   connect(state, &AppState::cleanProgress, m_cleaningView, &CleanupProgressView::setProgress);
   connect(&AppSettings::instance(), &AppSettings::changed, this, &CleanupPage::refreshSelection);

@@ -102,9 +102,9 @@ OverviewPage::OverviewPage(AppState* state, QWidget* parent) : QWidget(parent), 
   content->addStretch();
 
   for (const auto changed : {&AppState::resultsChanged, &AppState::volumeChanged, &AppState::phaseChanged})
-    connect(state, changed, this, &OverviewPage::refresh);
-  connect(&AppSettings::instance(), &AppSettings::changed, this, &OverviewPage::refresh);
-  connect(&Theme::get(), &Theme::changed, this, &OverviewPage::refresh);
+    connect(state, changed, this, &OverviewPage::refreshIfSeen);
+  connect(&AppSettings::instance(), &AppSettings::changed, this, &OverviewPage::refreshIfSeen);
+  connect(&Theme::get(), &Theme::changed, this, &OverviewPage::refreshIfSeen);
   refresh();
 }
 
@@ -195,7 +195,27 @@ void OverviewPage::primaryAction() {
   emit openCleanup({});
 }
 
+// A scan and a clean end with several changes at once, while the user looks at another page.
+void OverviewPage::refreshIfSeen() {
+  if (m_away)
+    m_stale = true;
+  else
+    refresh();
+}
+
+void OverviewPage::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  m_away = false;
+  if (m_stale) refresh();
+}
+
+void OverviewPage::hideEvent(QHideEvent* event) {
+  QWidget::hideEvent(event);
+  m_away = true;
+}
+
 void OverviewPage::refresh() {
+  m_stale = false;
   showDisk();
   showDiskLine();
   showLegend();

@@ -22,7 +22,7 @@ class Sparkline;
 class StatCard;
 
 /// Keeps nothing of its own: all that it shows comes from the state and the settings, and is shown anew when they
-/// change.
+/// change. While another page is in its place it waits with that until it is shown again.
 class OverviewPage : public QWidget {
   Q_OBJECT
 
@@ -40,7 +40,12 @@ class OverviewPage : public QWidget {
   /// The user wants the Cleanup page, with the category @p id in view; empty leaves it as it is.
   void openCleanup(const QString& id);
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
  private:
+  void refreshIfSeen();
   QWidget* buildHeader();
   QWidget* buildHero();
   QVBoxLayout* buildHeroText();
@@ -61,6 +66,8 @@ class OverviewPage : public QWidget {
   void putInTabOrder(const QList<CategoryTile*>& tiles);
 
   AppState* m_state;
+  bool m_away = false;  ///< it was shown, and is no more
+  bool m_stale = false; ///< something changed meanwhile
   DiskOrb* m_orb = nullptr;
   Headline* m_headline = nullptr;
   QLabel* m_diskLine = nullptr;

@@ -41,6 +41,7 @@ class TestCleanupPage : public CleanupTest {
   void stopEndsTheScan();
   void coloursFollowTheLook();
   void journey();
+  void resultsOfAScanAreBuiltOnce();
   void doneGoesHome();
   void focusGoesAlong();
 
@@ -303,6 +304,22 @@ void TestCleanupPage::journey() {
   QCOMPARE(home.count(), 1);
   QVERIFY(m_state->phase != AppState::Done);
   QCOMPARE(viewIndex(), int(m_state->phase));
+}
+
+void TestCleanupPage::resultsOfAScanAreBuiltOnce() {
+  review({category(u"temp"_s, sizes(2))});
+  const QPointer<ui::CategoryRow> old = row(u"temp"_s);
+  scanning(1);
+  m_state->results = {category(u"temp"_s, sizes(3))};
+  emit m_state->resultsChanged();
+  QCOMPARE(row(u"temp"_s), old); // nobody sees it yet
+  QVERIFY(!old->isVisible());
+  m_state->setPhase(AppState::Review);
+  QVERIFY(row(u"temp"_s) != old);
+  QCOMPARE(itemBoxes().size(), 3);
+  m_state->results = {category(u"temp"_s, sizes(4))};
+  emit m_state->resultsChanged(); // on show
+  QCOMPARE(itemBoxes().size(), 4);
 }
 
 void TestCleanupPage::doneGoesHome() {

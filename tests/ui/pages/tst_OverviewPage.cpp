@@ -213,6 +213,7 @@ class TestOverviewPage : public QObject {
 
   void refreshesOn_data();
   void refreshesOn();
+  void waitsWhileAnotherPageIsShown();
   void rebuildsInsideATilesClick();
   void rebuildsInsideATilesKey();
   void scrollingSurvivesARebuild();
@@ -706,6 +707,23 @@ void TestOverviewPage::refreshesOn() {
   QCOMPARE(shown.orb()->value(), u"400 GB"_s);
   tell[source]();
   QCOMPARE(shown.orb()->value(), u"123 GB"_s);
+}
+
+void TestOverviewPage::waitsWhileAnotherPageIsShown() {
+  Shown shown;
+  shown.setResults(someResults());
+  shown.show();
+  const QPointer<CategoryTile> tile = shown.tiles()[0];
+  shown.page.hide();
+  shown.setVolume(1000 * kGB, 123 * kGB);
+  QCOMPARE(shown.tiles()[0], tile);
+  shown.page.show();
+  QCOMPARE(shown.orb()->value(), u"123 GB"_s);
+  const QPointer<CategoryTile> renewed = shown.tiles()[0];
+  QVERIFY(renewed != tile);
+  shown.page.hide();
+  shown.page.show(); // nothing has changed
+  QCOMPARE(shown.tiles()[0], renewed);
 }
 
 void TestOverviewPage::rebuildsInsideATilesClick() {
