@@ -37,6 +37,7 @@ class Window : private OwnState, public ui::MainWindow {
 Window* afterScan(int page) {
   auto* window = new Window(page);
   window->scan();
+  window->go(page); // a scan brings its own page to the front
   return window;
 }
 

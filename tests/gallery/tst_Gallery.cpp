@@ -3,10 +3,13 @@
 #include "gallery/Sheet.h"
 #include "gallery/Snapshot.h"
 #include "gallery/shots.h"
+#include "gallery/windows.h"
 #include "support/uitest.h"
 #include "ui/Theme.h"
 #include "ui/controls/ElidedLabel.h"
 #include "ui/controls/Segmented.h"
+#include "ui/pages/CleanupPage.h"
+#include "ui/pages/OverviewPage.h"
 
 #include <QDir>
 #include <QImage>
@@ -17,6 +20,8 @@
 #include <QScrollArea>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -86,6 +91,7 @@ class TestGallery : public QObject {
   void otherMetricsNeedAnotherProcess();
   void programWritesBothLooks();
   void programShowsWhatAScanFinds();
+  void eachPageIsOnShowAfterAScan();
   void everyControlIsOnTheSheet();
   void programTellsWhatWentWrong();
 };
@@ -249,6 +255,13 @@ void TestGallery::programShowsWhatAScanFinds() {
 }
 
 // A control that isn't on the sheet is one that nobody looks at.
+void TestGallery::eachPageIsOnShowAfterAScan() {
+  const std::unique_ptr<QWidget> overview(gallery::overviewAfterScan());
+  QVERIFY(overview->findChild<ui::OverviewPage*>()->isVisibleTo(overview.get()));
+  const std::unique_ptr<QWidget> cleanup(gallery::cleanupAfterScan());
+  QVERIFY(cleanup->findChild<ui::CleanupPage*>()->isVisibleTo(cleanup.get()));
+}
+
 void TestGallery::everyControlIsOnTheSheet() {
   // Taken when it is open; the common part of others.
   static const QSet<QString> kNotByItself = {u"SelectPopup"_s, u"PaintedButton"_s};
