@@ -252,6 +252,41 @@ class DropDownInterface : public ItemsInterface {
   AccessibleDropDown* m_choice;
 };
 
+/// A dialog in the window.
+class DialogInterface : public QAccessibleWidget {
+ public:
+  explicit DialogInterface(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Dialog) {}
+
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.modal = true;
+    return state;
+  }
+};
+
+/// An area whose other children are left out while a dialog covers them.
+class AreaInterface : public QAccessibleWidget {
+ public:
+  explicit AreaInterface(QWidget* widget) : QAccessibleWidget(widget), m_area(dynamic_cast<AccessibleArea*>(widget)) {}
+
+  [[nodiscard]] int childCount() const override {
+    return m_area->coveringDialog() ? 1 : QAccessibleWidget::childCount();
+  }
+  [[nodiscard]] QAccessibleInterface* child(int index) const override {
+    QWidget* dialog = m_area->coveringDialog();
+    if (!dialog) return QAccessibleWidget::child(index);
+    return index == 0 ? QAccessible::queryAccessibleInterface(dialog) : nullptr;
+  }
+  [[nodiscard]] int indexOfChild(const QAccessibleInterface* wanted) const override {
+    const QWidget* dialog = m_area->coveringDialog();
+    if (!dialog) return QAccessibleWidget::indexOfChild(wanted);
+    return wanted && wanted->object() == dialog ? 0 : -1;
+  }
+
+ private:
+  AccessibleArea* m_area;
+};
+
 QAccessibleInterface* make(const QString& /*className*/, QObject* object) {
   auto* widget = qobject_cast<QWidget*>(object);
   if (!widget) return nullptr;
@@ -260,6 +295,8 @@ QAccessibleInterface* make(const QString& /*className*/, QObject* object) {
   if (dynamic_cast<AccessibleValue*>(widget) || dynamic_cast<AccessibleButton*>(widget))
     return new ControlInterface(widget);
   if (dynamic_cast<AccessibleText*>(widget)) return new TextInterface(widget);
+  if (dynamic_cast<AccessibleDialog*>(widget)) return new DialogInterface(widget);
+  if (dynamic_cast<AccessibleArea*>(widget)) return new AreaInterface(widget);
   return nullptr;
 }
 

@@ -74,6 +74,20 @@ class AccessibleDropDown : public AccessibleItems {
   virtual void setExpanded(bool on) = 0;
 };
 
+/// A dialog that covers a part of its window.
+class AccessibleDialog {
+ public:
+  virtual ~AccessibleDialog() = default;
+};
+
+/// An area that dialogs cover. While one does, a reader finds nothing else in it.
+class AccessibleArea {
+ public:
+  virtual ~AccessibleArea() = default;
+  /// A child of the area; null while there is none.
+  [[nodiscard]] virtual QWidget* coveringDialog() const = 0;
+};
+
 /// Makes the interfaces known to Qt; Theme::install does it. More calls do nothing.
 void installAccessibility();
 

@@ -117,6 +117,7 @@ QScrollArea* scrollPage(QVBoxLayout** column) {
   auto* area = new QScrollArea;
   area->setWidgetResizable(true);
   area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus); // Tab stops at what lies in it, and their keys reach it too
   area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   auto* content = new QWidget;
   *column = vbox(0, {margin, kPageTop, margin, margin});

@@ -5,11 +5,13 @@
 #include "core/platform.h"
 #include "engines/Cleaner.h"
 #include "ui/Theme.h"
+#include "ui/accessible.h"
 #include "ui/controls/PageHeader.h"
 #include "ui/controls/factory.h"
 #include "ui/icons.h"
 #include "ui/pages/CleanupPage.h"
 #include "ui/pages/OverviewPage.h"
+#include "ui/paint.h"
 #include "ui/shell/AboutDialog.h"
 #include "ui/shell/ConfirmCleanDialog.h"
 #include "ui/shell/Overlay.h"
@@ -17,7 +19,6 @@
 #include "ui/shell/SidebarToggle.h"
 #include "ui/shell/TitleBar.h"
 #include "ui/shell/Toast.h"
-#include "ui/shell/frame.h"
 #include "ui/shell/website.h"
 #include "ui/shell/words.h"
 
@@ -55,9 +56,19 @@ class ContentLayer : public QWidget {
   ContentLayer() { setLayout(vbox()); }
 };
 
+/// Everything below the title bar: what dialogs cover and messages stand in.
+class ClientArea : public QWidget, public AccessibleArea {
+ public:
+  [[nodiscard]] QWidget* coveringDialog() const override {
+    for (Overlay* dialog : findChildren<Overlay*>(QString(), Qt::FindDirectChildrenOnly))
+      if (dialog->isVisible()) return dialog;
+    return nullptr;
+  }
+};
+
 } // namespace
 
-MainWindow::MainWindow(AppState* state, QWidget* parent) : QWidget(parent), m_state(state) {
+MainWindow::MainWindow(AppState* state, QWidget* parent) : QWidget(parent), m_state(state), m_frame(frame::kind()) {
   setWindowTitle(identity::kName);
   setWindowIcon(icons::appIcon());
   setMinimumSize(kMinimum);
@@ -77,8 +88,12 @@ MainWindow::MainWindow(AppState* state, QWidget* parent) : QWidget(parent), m_st
 void MainWindow::buildFrame() {
   QVBoxLayout* column = vbox();
   setLayout(column);
-  if (frame::kind() == frame::Kind::Drawn) column->addWidget(new TitleBar(this));
-  m_central = new QWidget;
+  if (m_frame == frame::Kind::Drawn) {
+    auto* bar = new TitleBar(this);
+    bar->setMenuButtonShown(false); // there is no menu to open
+    column->addWidget(bar);
+  }
+  m_central = new ClientArea;
   column->addWidget(m_central, 1);
 }
 
@@ -113,7 +128,7 @@ void MainWindow::buildFloatingToggle() {
   m_floatingToggle->setToolTip(tip);
   m_floatingToggle->setAccessibleName(tip);
   m_floatingToggle->resize(m_floatingToggle->sizeHint());
-  const bool besideButtons = frame::kind() == frame::Kind::SystemButtons;
+  const bool besideButtons = m_frame == frame::Kind::SystemButtons;
   m_floatingToggle->move(besideButtons ? kToggleX : kToggleXAlone, (kToggleStrip - m_floatingToggle->height()) / 2);
   connect(m_floatingToggle, &QAbstractButton::clicked, this, [this] { m_sidebar->setCollapsed(false, true); });
   connect(m_sidebar, &Sidebar::collapsedChanged, this, &MainWindow::applyToolbars);
@@ -217,6 +232,13 @@ void MainWindow::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.setClipRegion(event->region());
   Theme::get().paintBackdrop(&painter, rect());
+  if (m_frame == frame::Kind::Drawn && !isMaximized() && !isFullScreen()) paintOutline(&painter);
+}
+
+// Nothing else tells the window from a bright one below it.
+void MainWindow::paintOutline(QPainter* painter) const {
+  painter->setPen(paint::pen(Theme::get().line));
+  painter->drawRect(paint::hairline(rect()));
 }
 
 } // namespace ui

@@ -3,6 +3,8 @@
 /// here.
 #pragma once
 
+#include "ui/shell/frame.h"
+
 #include <QHash>
 #include <QWidget>
 
@@ -65,8 +67,10 @@ class MainWindow : public QWidget {
   void connectPages();
   void connectState();
   void confirmClean();
+  void paintOutline(QPainter* painter) const;
 
   AppState* m_state;
+  const frame::Kind m_frame;
   Sidebar* m_sidebar = nullptr;
   QStackedWidget* m_pages = nullptr;
   CleanupPage* m_cleanupPage = nullptr;

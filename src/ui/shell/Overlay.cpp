@@ -82,7 +82,16 @@ void Overlay::open() {
   show();
   raise();
   setFocus();
+  tellReaders(QAccessible::DialogStart);
   slideIn();
+}
+
+// What the area below holds changes for them with the dialog.
+void Overlay::tellReaders(QAccessible::Event what) {
+  QAccessibleEvent dialog(this, what);
+  QAccessible::updateAccessibility(&dialog);
+  QAccessibleEvent area(parentWidget(), QAccessible::ObjectReorder);
+  QAccessible::updateAccessibility(&area);
 }
 
 void Overlay::place() {
@@ -120,6 +129,11 @@ bool Overlay::focusNextPrevChild(bool next) {
 void Overlay::closeEvent(QCloseEvent* event) {
   if (m_before) m_before->setFocus(Qt::OtherFocusReason);
   QWidget::closeEvent(event);
+}
+
+void Overlay::hideEvent(QHideEvent* event) {
+  tellReaders(QAccessible::DialogEnd);
+  QWidget::hideEvent(event);
 }
 
 void Overlay::keyPressEvent(QKeyEvent* event) {

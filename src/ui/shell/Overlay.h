@@ -2,6 +2,8 @@
 /// shows itself with open(), and deletes itself when it is closed.
 #pragma once
 
+#include "ui/accessible.h"
+
 #include <QPointer>
 #include <QWidget>
 
@@ -9,10 +11,9 @@ class QPushButton;
 
 namespace ui {
 
-/// Escape and a press on the veil close it, which counts as cancelling; Enter presses the button that has
-/// the focus, else the default one. Tab stays
-/// among its controls, and the focus goes back to where it was.
-class Overlay : public QWidget {
+/// Escape and a press on the veil close it, which counts as cancelling; Enter presses the button that has the focus,
+/// else the default one. Tab stays among its controls, and the focus goes back to where it was.
+class Overlay : public QWidget, public AccessibleDialog {
   Q_OBJECT
 
  public:
@@ -30,12 +31,14 @@ class Overlay : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
   bool focusNextPrevChild(bool next) override;
   void closeEvent(QCloseEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void slideIn();
+  void tellReaders(QAccessible::Event what);
   [[nodiscard]] QPushButton* buttonForEnter() const;
 
   QPointer<QWidget> m_before; ///< had the focus when it opened

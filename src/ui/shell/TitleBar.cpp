@@ -36,10 +36,10 @@ TitleBar::TitleBar(QWidget* window, QWidget* parent) : QWidget(parent), m_window
   row->addSpacing(kLogoRoom);
   row->addWidget(label(identity::kName, "caption"));
   row->addStretch();
-  CaptionButton* menu = addButton(CaptionButton::Menu, Words::tr("Menu"));
-  menu->setToolTip(Words::tr("Menu"));
-  connect(menu, &QAbstractButton::clicked, this,
-          [this, menu] { emit menuRequested(menu->mapToGlobal(QPoint(0, menu->height()))); });
+  m_menu = addButton(CaptionButton::Menu, Words::tr("Menu"));
+  m_menu->setToolTip(Words::tr("Menu"));
+  connect(m_menu, &QAbstractButton::clicked, this,
+          [this] { emit menuRequested(m_menu->mapToGlobal(QPoint(0, m_menu->height()))); });
   connect(addButton(CaptionButton::Minimize, Words::tr("Minimize")), &QAbstractButton::clicked, window,
           &QWidget::showMinimized);
   m_maximize = addButton(CaptionButton::Maximize, Words::tr("Maximize"));
@@ -49,6 +49,8 @@ TitleBar::TitleBar(QWidget* window, QWidget* parent) : QWidget(parent), m_window
   window->installEventFilter(this);
   connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
 }
+
+void TitleBar::setMenuButtonShown(bool on) { m_menu->setVisible(on); }
 
 CaptionButton* TitleBar::addButton(int kind, const QString& name) {
   auto* button = new CaptionButton(CaptionButton::Kind(kind));

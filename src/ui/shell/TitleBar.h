@@ -19,6 +19,9 @@ class TitleBar : public QWidget {
   /// @param window  the one that its buttons work on
   explicit TitleBar(QWidget* window, QWidget* parent = nullptr);
 
+  /// Whether there is a menu button; there is, unless told otherwise.
+  void setMenuButtonShown(bool on);
+
  signals:
   /// The menu button was clicked. @p globalPos  its lower left corner
   void menuRequested(const QPoint& globalPos);
@@ -33,6 +36,7 @@ class TitleBar : public QWidget {
   [[nodiscard]] CaptionButton* addButton(int kind, const QString& name);
 
   QWidget* m_window;
+  CaptionButton* m_menu = nullptr;
   CaptionButton* m_maximize = nullptr;
 };
 

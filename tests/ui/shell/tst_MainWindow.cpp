@@ -12,6 +12,8 @@
 #include "ui/controls/PageHeader.h"
 #include "ui/pages/CleanupPage.h"
 #include "ui/pages/OverviewPage.h"
+#include "ui/shell/AboutDialog.h"
+#include "ui/shell/CaptionButton.h"
 #include "ui/shell/ConfirmCleanDialog.h"
 #include "ui/shell/NavButton.h"
 #include "ui/shell/Sidebar.h"
@@ -20,7 +22,9 @@
 #include "ui/shell/Toast.h"
 #include "ui/shell/program.h"
 
+#include <QAccessible>
 #include <QCheckBox>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -56,6 +60,34 @@ void click(const QWidget& among, const QString& text) {
   QTest::mouseClick(one, Qt::LeftButton);
 }
 
+/// Stands in for what the desktop opens addresses of a kind with.
+class Opened : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit Opened(const QString& scheme) : m_scheme(scheme) { QDesktopServices::setUrlHandler(scheme, this, "open"); }
+  ~Opened() override { QDesktopServices::unsetUrlHandler(m_scheme); }
+  [[nodiscard]] QStringList paths() const { return m_paths; }
+
+ public slots:
+  void open(const QUrl& url) { m_paths << url.path(); }
+
+ private:
+  QString m_scheme;
+  QStringList m_paths;
+};
+
+/// Those on show that take the focus, by Tab or by a click, and of which a screen reader could say nothing.
+QList<QWidget*> namelessControls(const QWidget& window) {
+  QList<QWidget*> found;
+  for (QWidget* one : window.findChildren<QWidget*>()) {
+    if (one->focusPolicy() == Qt::NoFocus || !one->isVisible()) continue;
+    const QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(one);
+    if (!heard || heard->text(QAccessible::Name).isEmpty() || heard->role() == QAccessible::NoRole) found << one;
+  }
+  return found;
+}
+
 /// Presses Tab until a button of this text has the focus.
 void tabTo(const QWidget& among, const QString& text) {
   constexpr int kMost = 100;
@@ -81,6 +113,7 @@ class TestMainWindow : public QObject {
   void cleanup();
 
   void firstSight();
+  void noMenuWithoutAMenu();
   void pagesByNumber();
   void scanBringsItsPage();
   void overviewOpensACategory();
@@ -89,12 +122,20 @@ class TestMainWindow : public QObject {
   void noSecondVeilWhileAsking();
   void messages();
   void collapsedInTheMacMetrics();
+  void floatingToggleStandsAtTheEdge();
   void noToggleOfItsOwnInTheOthers();
   void geometryComesBack();
   void refusedGeometryIsNone();
   void closingWithoutATrayQuits();
   void quitSavesTheGeometry();
   void backdropIsPainted();
+  void outlineWhileNotMaximised();
+  void helpOpensInTheBrowser();
+  void logFolderIsMadeFirst();
+  void aboutIsShown();
+  void everyControlHasAName_data();
+  void everyControlHasAName();
+  void readerStaysInTheDialog();
   void startOptionsAreExact();
   void backgroundWithoutATrayIsMinimised();
   void lowSpace_data();
@@ -153,6 +194,11 @@ void TestMainWindow::firstSight() {
   QVERIFY(m_window->findChild<TitleBar*>());
   QCOMPARE(m_window->findChild<TitleBar*>()->width(), 1180);
   QCOMPARE(m_window->findChildren<NavButton*>().size(), 2); // of the pages that there are
+}
+
+void TestMainWindow::noMenuWithoutAMenu() {
+  for (const CaptionButton* one : m_window->findChildren<CaptionButton*>())
+    QCOMPARE(one->isVisible(), one->kind() != CaptionButton::Menu);
 }
 
 void TestMainWindow::pagesByNumber() {
@@ -238,6 +284,15 @@ void TestMainWindow::collapsedInTheMacMetrics() {
   for (const PageHeader* header : m_window->findChildren<PageHeader*>()) QVERIFY(!header->isToolbar());
 }
 
+// No system's buttons lie there, so nothing keeps room for them.
+void TestMainWindow::floatingToggleStandsAtTheEdge() {
+  m_window->setSidebarCollapsed(true);
+  for (const SidebarToggle* one : m_window->findChildren<SidebarToggle*>())
+    if (one->isVisible()) QCOMPARE(one->pos(), QPoint(12, 8));
+  for (const PageHeader* header : m_window->findChildren<PageHeader*>())
+    QCOMPARE(header->layout()->contentsMargins().left(), 12 + 30 + 10);
+}
+
 void TestMainWindow::noToggleOfItsOwnInTheOthers() {
   Theme::get().mac = false;
   startAgain();
@@ -291,6 +346,90 @@ void TestMainWindow::backdropIsPainted() {
     QCOMPARE(shown.pixelColor(590, 420).alpha(), 255);
     QVERIFY(pixels::isNear(shown.pixelColor(590, 420), Theme::get().bg));
   }
+}
+
+void TestMainWindow::outlineWhileNotMaximised() {
+  const auto edge = [this] { return pixels::rendered(*m_window).pixelColor(0, 400); };
+  const QColor inside = pixels::rendered(*m_window).pixelColor(1, 400);
+  QVERIFY(pixels::isNear(edge(), pixels::over(Theme::get().line, inside)));
+  m_window->showMaximized();
+  QTRY_VERIFY(m_window->isMaximized());
+  QVERIFY(pixels::isNear(edge(), pixels::rendered(*m_window).pixelColor(1, 400)));
+}
+
+void TestMainWindow::helpOpensInTheBrowser() {
+  const Opened opened(u"https"_s);
+  m_window->openGuide();
+  m_window->openFaq();
+  QCOMPARE(opened.paths(), (QStringList{u"/guide/get-started-with-tarnwick/"_s, u"/support-center/"_s}));
+}
+
+// A user who never cleaned sees an empty folder, not an error.
+void TestMainWindow::logFolderIsMadeFirst() {
+  const Opened opened(u"file"_s);
+  QVERIFY(!QFile::exists(Cleaner::logDir()));
+  m_window->openLogFolder();
+  QVERIFY(QFileInfo(Cleaner::logDir()).isDir());
+  QCOMPARE(opened.paths(), QStringList{Cleaner::logDir()});
+}
+
+void TestMainWindow::aboutIsShown() {
+  m_window->showAbout();
+  const auto* about = m_window->findChild<AboutDialog*>();
+  QVERIFY(about && about->isVisible());
+  const Opened opened(u"https"_s);
+  click(*about, u"Tarnwick Website"_s);
+  QCOMPARE(opened.paths(), QStringList{u"/tarnwick/"_s});
+}
+
+void TestMainWindow::everyControlHasAName_data() {
+  QTest::addColumn<bool>("mac");
+  QTest::newRow("mac") << true;
+  QTest::newRow("win") << false;
+}
+
+// Through the pages that a user sees on the way from a scan to its review, and the question.
+void TestMainWindow::everyControlHasAName() {
+  QFETCH(bool, mac);
+  Theme::get().mac = mac;
+  startAgain();
+  const auto check = [this] {
+    const QList<QWidget*> nameless = namelessControls(*m_window);
+    for (const QWidget* one : nameless) qWarning() << "without a name:" << one << one->parentWidget();
+    QVERIFY(nameless.isEmpty());
+  };
+  check();
+  m_window->go(Sidebar::Cleanup);
+  check();
+  scanWithButton();
+  check();
+  emit m_window->findChild<OverviewPage*>()->openCleanup(u"dev"_s);
+  check();
+  emit m_window->findChild<CleanupPage*>()->confirmRequested();
+  check();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+  QTRY_VERIFY(!question());
+  m_window->showAbout();
+  check();
+}
+
+void TestMainWindow::readerStaysInTheDialog() {
+  const auto* sidebar = m_window->findChild<Sidebar*>();
+  QAccessibleInterface* area = QAccessible::queryAccessibleInterface(sidebar->parentWidget());
+  const int usually = area->childCount();
+  QVERIFY(usually >= 2);
+  emit m_window->findChild<CleanupPage*>()->confirmRequested();
+  QCOMPARE(area->childCount(), 1);
+  QCOMPARE(area->child(0)->object(), question());
+  QCOMPARE(area->child(0)->role(), QAccessible::Dialog);
+  QCOMPARE(area->indexOfChild(area->child(0)), 0);
+  QCOMPARE(area->child(0)->parent()->object(), area->object());
+  QVERIFY(!area->child(1));
+  question()->close();
+  QTRY_VERIFY(!question());
+  QCOMPARE(area->childCount(), usually);
+  QCOMPARE(area->indexOfChild(QAccessible::queryAccessibleInterface(const_cast<Sidebar*>(sidebar))),
+           area->indexOfChild(area->child(0)));
 }
 
 void TestMainWindow::startOptionsAreExact() {
