@@ -5,6 +5,8 @@
 #include <QFontDatabase>
 #include <QPainter>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 namespace ui {
@@ -73,10 +75,17 @@ void paintGlyph(QPainter* painter, const QRect& rect, QChar symbol, const QColor
   painter->fillPath(path, ink);
 }
 
+/// The middle of the pixel of the screen that holds @p point, so that a line of one pixel fills one row of them.
+QPointF pixelMiddle(const QPainter& painter, const QPointF& point) {
+  const QTransform toScreen = painter.deviceTransform();
+  const QPointF there = toScreen.map(point);
+  return toScreen.inverted().map(QPointF(std::ceil(there.x()) - 0.5, std::ceil(there.y()) - 0.5));
+}
+
 void paintShape(QPainter* painter, const QRect& rect, const QPainterPath& shape, const QColor& ink) {
   QPen pen(ink);
   pen.setCosmetic(true);
-  painter->translate(QRectF(rect).center());
+  painter->translate(pixelMiddle(*painter, QRectF(rect).center()));
   painter->setPen(pen);
   painter->setBrush(Qt::NoBrush);
   painter->drawPath(shape);

@@ -9,15 +9,13 @@ namespace ui {
 namespace {
 
 // In pixels.
-constexpr int kEdge = 8;
+constexpr int kEdge = 6; // above and below
+constexpr int kSide = 4; // left and right
 constexpr int kCorner = 16;
 
 class Grip : public QWidget {
  public:
-  Grip(Qt::Edges edges, QWidget* window) : QWidget(window), m_edges(edges) {
-    setCursor(resizeCursor(edges));
-    setAccessibleName({});
-  }
+  Grip(Qt::Edges edges, QWidget* window) : QWidget(window), m_edges(edges) { setCursor(resizeCursor(edges)); }
 
  protected:
   void mousePressEvent(QMouseEvent* event) override {
@@ -33,17 +31,20 @@ class Grip : public QWidget {
 } // namespace
 
 QList<ResizeGrip> resizeGrips(const QSize& window) {
-  const int w = window.width();
-  const int h = window.height();
+  const QRect all(QPoint(), window);
+  const QRegion rim = QRegion(all) - all.adjusted(kSide, kEdge, -kSide, -kEdge);
+  const int right = window.width() - kCorner;
+  const int bottom = window.height() - kCorner;
+  const auto part = [&rim](const QRect& rect) { return rim & rect; };
   return {
-      {Qt::TopEdge, QRect(kCorner, 0, w - 2 * kCorner, kEdge)},
-      {Qt::BottomEdge, QRect(kCorner, h - kEdge, w - 2 * kCorner, kEdge)},
-      {Qt::LeftEdge, QRect(0, kCorner, kEdge, h - 2 * kCorner)},
-      {Qt::RightEdge, QRect(w - kEdge, kCorner, kEdge, h - 2 * kCorner)},
-      {Qt::TopEdge | Qt::LeftEdge, QRect(0, 0, kCorner, kCorner)},
-      {Qt::TopEdge | Qt::RightEdge, QRect(w - kCorner, 0, kCorner, kCorner)},
-      {Qt::BottomEdge | Qt::LeftEdge, QRect(0, h - kCorner, kCorner, kCorner)},
-      {Qt::BottomEdge | Qt::RightEdge, QRect(w - kCorner, h - kCorner, kCorner, kCorner)},
+      {Qt::TopEdge, part({kCorner, 0, right - kCorner, kCorner})},
+      {Qt::BottomEdge, part({kCorner, bottom, right - kCorner, kCorner})},
+      {Qt::LeftEdge, part({0, kCorner, kCorner, bottom - kCorner})},
+      {Qt::RightEdge, part({right, kCorner, kCorner, bottom - kCorner})},
+      {Qt::TopEdge | Qt::LeftEdge, part({0, 0, kCorner, kCorner})},
+      {Qt::TopEdge | Qt::RightEdge, part({right, 0, kCorner, kCorner})},
+      {Qt::BottomEdge | Qt::LeftEdge, part({0, bottom, kCorner, kCorner})},
+      {Qt::BottomEdge | Qt::RightEdge, part({right, bottom, kCorner, kCorner})},
   };
 }
 
@@ -76,7 +77,9 @@ void ResizeBorder::place() {
   const bool fixed = m_window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen);
   const QList<ResizeGrip> places = resizeGrips(m_window->size());
   for (qsizetype i = 0; i < m_grips.size(); ++i) {
-    m_grips[i]->setGeometry(places[i].rect);
+    const QRect box = places[i].region.boundingRect();
+    m_grips[i]->setGeometry(box);
+    m_grips[i]->setMask(places[i].region.translated(-box.topLeft()));
     m_grips[i]->setVisible(!fixed);
     m_grips[i]->raise();
   }

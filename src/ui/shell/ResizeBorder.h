@@ -3,7 +3,7 @@
 
 #include <QList>
 #include <QObject>
-#include <QRect>
+#include <QRegion>
 
 class QWidget;
 
@@ -11,9 +11,10 @@ namespace ui {
 
 struct ResizeGrip {
   Qt::Edges edges;
-  QRect rect;
+  QRegion region; ///< in the window
 };
-/// Four corners and, between them, four edges; together they are the outermost pixels of a window of this size.
+/// Four corners, each an angle, and between them four edges; together they are the outermost pixels of a window of this
+/// size. At the sides they are so narrow that a scroll bar at the window's edge can still be taken.
 [[nodiscard]] QList<ResizeGrip> resizeGrips(const QSize& window);
 [[nodiscard]] Qt::CursorShape resizeCursor(Qt::Edges edges);
 

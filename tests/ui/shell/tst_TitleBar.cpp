@@ -25,12 +25,15 @@ class TestTitleBar : public QObject {
   void logoPlace();
   void buttonsWork();
   void menuTellsItsPlace();
+  void menuButtonCanBeAway();
   void glyphFollowsTheWindow();
   void doubleClickZooms();
   void buttonColours();
   void shapes_data();
   void shapes();
+  void shapesAreCrisp();
   void gripsCoverTheEdge();
+  void gripsLeaveTheContent();
   void gripCursors();
   void gripsFollowTheWindow();
 
@@ -98,6 +101,13 @@ void TestTitleBar::menuTellsItsPlace() {
   QCOMPARE(asked[0][0].toPoint(), m_bar->mapToGlobal(QPoint(700 - 4 * 46, 40)));
 }
 
+void TestTitleBar::menuButtonCanBeAway() {
+  QVERIFY(button(CaptionButton::Menu)->isVisible());
+  m_bar->setMenuButtonShown(false);
+  QVERIFY(!button(CaptionButton::Menu)->isVisible());
+  QCOMPARE(button(CaptionButton::Minimize)->x(), 700 - 3 * 46);
+}
+
 // By whatever means the window is maximised.
 void TestTitleBar::glyphFollowsTheWindow() {
   CaptionButton* maximize = button(CaptionButton::Maximize);
@@ -152,16 +162,39 @@ void TestTitleBar::shapes() {
   QCOMPARE(captionShape(CaptionButton::Kind(kind), maximized).boundingRect(), bounds);
 }
 
+// A line of one pixel fills one row, also where the middle of the button lies between two.
+void TestTitleBar::shapesAreCrisp() {
+  for (const double ratio : {1.0, 1.5, 2.0}) {
+    CaptionButton one(CaptionButton::Minimize);
+    const QImage shown = pixels::rendered(one, ratio);
+    const int x = int(23 * ratio);
+    QList<int> alphas;
+    for (int y = 0; y < shown.height(); ++y)
+      if (const int alpha = shown.pixelColor(x, y).alpha(); alpha > 8) alphas << alpha; // but for rounding
+    QCOMPARE(alphas.size(), 1);
+    QVERIFY(alphas[0] > 250);
+  }
+}
+
 void TestTitleBar::gripsCoverTheEdge() {
   const QSize size(700, 400);
   QRegion edge(QRect(QPoint(), size));
-  edge -= QRect(QPoint(), size).adjusted(8, 8, -8, -8);
+  edge -= QRect(QPoint(), size).adjusted(4, 6, -4, -6); // 10 pixels of a scroll bar are more than it takes
   QRegion covered;
   for (const ResizeGrip& grip : resizeGrips(size)) {
-    QVERIFY2(!covered.intersects(grip.rect), "grips lie on one another");
-    covered += grip.rect;
+    QVERIFY2(!covered.intersects(grip.region), "grips lie on one another");
+    covered += grip.region;
   }
-  QVERIFY((edge - covered).isEmpty());
+  QCOMPARE(covered, edge);
+}
+
+void TestTitleBar::gripsLeaveTheContent() {
+  new ResizeBorder(m_window.get());
+  CaptionButton* close = button(CaptionButton::Close);
+  const QPoint corner = close->mapTo(m_window.get(), close->rect().topRight());
+  QCOMPARE(m_window->childAt(corner + QPoint(-4, 6)), close);
+  QVERIFY(m_window->childAt(corner + QPoint(-3, 6)) != close);
+  QVERIFY(m_window->childAt(corner + QPoint(-4, 5)) != close);
 }
 
 void TestTitleBar::gripCursors() {
