@@ -2,6 +2,7 @@
 #include "app/AppState.h"
 #include "app/identity.h"
 #include "core/platform.h"
+#include "engines/categories.h"
 #include "support/pixels.h"
 #include "support/uitest.h"
 #include "ui/Theme.h"
@@ -13,6 +14,7 @@
 #include "ui/shell/ConfirmCleanDialog.h"
 #include "ui/shell/ConfirmDialog.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QFileInfo>
 #include <QLabel>
@@ -104,6 +106,9 @@ class TestDialogs : public QObject {
   void closeChoices();
   void closeHintFollows();
   void aboutTells();
+  void everythingFits_data();
+  void everythingFits();
+  void readerHearsADialog();
 
  private:
   ConfirmDialog* openConfirm();
@@ -429,6 +434,43 @@ void TestDialogs::aboutTells() {
   QCOMPARE(defaultButton(*dialog)->text(), u"Close"_s);
   defaultButton(*dialog)->click();
   QTRY_VERIFY(!dialog);
+}
+
+void TestDialogs::everythingFits_data() { coversAndStands_data(); }
+
+// The longest question, in the smallest window: eight categories, no Trash for a part of it, and apps that run.
+void TestDialogs::everythingFits() {
+  QFETCH(bool, mac);
+  Theme::get().mac = mac;
+  for (const CategoryDef& def : categories::forThisPlatform()) {
+    CategoryResult result = found(def.id, 1'234'000'000, def.safety);
+    result.def = def;
+    result.items[0].path = u"/dev/shm/thing"_s;
+    m_state->results << result;
+  }
+  for (const QString& app : {u"Google Chrome"_s, u"Firefox"_s, u"Visual Studio Code"_s, u"Thunderbird"_s})
+    m_state->results[1].items << item(app, 1000, app);
+  m_state->selectAll(true);
+  constexpr int kTitleBar = 40;
+  m_area->resize(960, 640 - kTitleBar);
+  auto* dialog = new ConfirmCleanDialog(m_state.get(), m_area.get());
+  dialog->open();
+  settle(dialog);
+  QCOMPARE(m_state->selectedResults().size(), 8);
+  QVERIFY2(dialog->rect().contains(dialog->panel->geometry()), qPrintable(QString::number(dialog->panel->height())));
+  for (const QLabel* label : dialog->findChildren<QLabel*>()) {
+    const int height = label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+    QVERIFY2(label->height() >= height, qPrintable(label->text()));
+    QVERIFY2(label->wordWrap() || label->width() >= label->sizeHint().width(), qPrintable(label->text()));
+  }
+}
+
+void TestDialogs::readerHearsADialog() {
+  const ConfirmDialog* dialog = openConfirm();
+  const QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(const_cast<ConfirmDialog*>(dialog));
+  QCOMPARE(heard->role(), QAccessible::Dialog);
+  QCOMPARE(heard->text(QAccessible::Name), u"Delete it?"_s);
+  QVERIFY(heard->state().modal);
 }
 
 int main(int argc, char** argv) { return uitest::run<TestDialogs>(argc, argv); }
