@@ -1,0 +1,251 @@
+// ctest: RESOURCE_LOCK clean
+// The program as it runs: started, started again, stopped while it works. It is this test program itself, started as a
+// child, which tells on its standard output what its window shows.
+#include "ui/shell/program.h"
+
+#include "app/AppSettings.h"
+#include "engines/Cleaner.h"
+#include "support/SampleHome.h"
+#include "ui/pages/CleanupPage.h"
+#include "ui/shell/ConfirmCleanDialog.h"
+#include "ui/shell/MainWindow.h"
+#include "ui/shell/Toast.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QPushButton>
+#include <QSettings>
+#include <QTest>
+#include <QTimer>
+
+#include <csignal>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr char kStore[] = "TARNWICK_TEST_STORE"; // folder of the settings; set in a child
+constexpr char kClean[] = "TARNWICK_TEST_CLEAN"; // set where the child is to clean what a scan finds
+constexpr int kPatienceMs = 60'000;
+constexpr int kLookMs = 20;
+
+ui::MainWindow* mainWindow() {
+  for (QWidget* one : QApplication::topLevelWidgets())
+    if (auto* window = qobject_cast<ui::MainWindow*>(one)) return window;
+  return nullptr;
+}
+
+/// What a child tells, as often as it changes.
+QByteArray seen(const ui::MainWindow& window) {
+  const auto* toast = window.findChild<ui::Toast*>();
+  const char* place = !window.isVisible() ? "hidden" : window.isMinimized() ? "minimised" : "shown";
+  return QByteArray(place) + " page " + QByteArray::number(window.page()) + ": " +
+         (toast->isHidden() ? QByteArray() : toast->accessibleName().toUtf8()) + "\n";
+}
+
+/// Asks for a clean as soon as there is something to clean, agrees, and is interrupted.
+void cleanWhenPossible(const ui::MainWindow& window) {
+  if (auto* question = window.findChild<ui::ConfirmCleanDialog*>()) {
+    for (QPushButton* one : question->findChildren<QPushButton*>())
+      if (one->isDefault()) one->click();
+    std::raise(SIGINT); // at once, while the worker has only begun
+    return;
+  }
+  for (QPushButton* one : window.findChildren<QPushButton*>())
+    if (one->isVisible() && one->isEnabled() && one->text().startsWith(u"Clean "_s)) one->click();
+}
+
+void watch() {
+  auto* timer = new QTimer(qApp);
+  QObject::connect(timer, &QTimer::timeout, [last = QByteArray()]() mutable {
+    const ui::MainWindow* window = mainWindow();
+    if (!window) return;
+    const QByteArray now = seen(*window);
+    if (now != last) std::fputs(now.constData(), stdout);
+    last = now;
+    if (qEnvironmentVariableIsSet(kClean)) cleanWhenPossible(*window);
+    std::fflush(stdout);
+  });
+  timer->start(kLookMs);
+}
+
+/// They match nothing and are slow to tell it, so that a test can step in while the program works.
+QStringList slowPatterns() {
+  constexpr int kRules = 3000;
+  QStringList rules;
+  for (int i = 0; i < kRules; ++i) rules << u"/*a*e*o*%1*"_s.arg(kRules + i);
+  return rules;
+}
+
+/// One start of the program.
+class Start {
+ public:
+  explicit Start(const QStringList& arguments = {}, bool cleans = false) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QString::fromLatin1(kStore), QFileInfo(QFileInfo(QSettings().fileName()).path()).path());
+    if (cleans) environment.insert(QString::fromLatin1(kClean), u"yes"_s);
+    m_process.setProcessEnvironment(environment);
+    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_process.start(QCoreApplication::applicationFilePath(), arguments);
+  }
+  ~Start() {
+    m_process.kill();
+    m_process.waitForFinished();
+  }
+
+  /// Waits for the child to tell this.
+  [[nodiscard]] bool tells(const QByteArray& what) {
+    QElapsedTimer since;
+    since.start();
+    while (!m_told.contains(what) && since.elapsed() < kPatienceMs && m_process.state() != QProcess::NotRunning) {
+      m_process.waitForReadyRead(kLookMs);
+      m_told += m_process.readAllStandardOutput();
+    }
+    m_told += m_process.readAllStandardOutput();
+    return m_told.contains(what);
+  }
+  void forget() { m_told.clear(); }
+  void stop(int signal) const { ::kill(pid_t(m_process.processId()), signal); }
+  /// Waits for the end. @return the exit code; -1 after a crash, a signal that ended it, or no end at all
+  [[nodiscard]] int result() {
+    if (!m_process.waitForFinished(kPatienceMs)) return -1;
+    return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+  }
+
+ private:
+  QProcess m_process;
+  QByteArray m_told;
+};
+
+} // namespace
+
+class TestProgram : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase();
+  void init();
+
+  void endsByASignal_data();
+  void endsByASignal();
+  void secondStart();
+  void inTheBackground();
+  void scheduledScanIsStopped();
+  void cleanIsStoppedWithItsLogWhole();
+
+ private:
+  const FixtureHome m_home; // one for all, since the settings stay where they were first
+};
+
+void TestProgram::initTestCase() {
+  fillSampleHome(m_home);
+  const QString sockets = m_home.outside(u"run"_s);
+  QVERIFY(QDir().mkpath(sockets));
+  QVERIFY(QFile::setPermissions(sockets, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+  qputenv("XDG_RUNTIME_DIR", QFile::encodeName(sockets));
+}
+
+void TestProgram::init() {
+  AppSettings& settings = AppSettings::instance();
+  settings.setLowSpaceAlerts(false);
+  settings.setSchedule(AppSettings::Off);
+  settings.setExclusions(FixtureHome::rulesForOutside());
+  QSettings().remove(u"ui/windowGeometry"_s);
+}
+
+void TestProgram::endsByASignal_data() {
+  QTest::addColumn<int>("signal");
+  QTest::newRow("SIGTERM") << SIGTERM;
+  QTest::newRow("SIGINT") << SIGINT;
+  QTest::newRow("SIGHUP") << SIGHUP;
+}
+
+void TestProgram::endsByASignal() {
+  QFETCH(int, signal);
+  Start program;
+  QVERIFY(program.tells("shown page 0"));
+  program.stop(signal);
+  QCOMPARE(program.result(), 0);
+  QSettings().sync();
+  QVERIFY(!QSettings().value(u"ui/windowGeometry"_s).toByteArray().isEmpty());
+}
+
+void TestProgram::secondStart() {
+  Start first({u"--background"_s});
+  QVERIFY(first.tells("minimised page 0"));
+  Start silent({u"--background"_s});
+  QCOMPARE(silent.result(), 0);
+  Start updated({u"--updated"_s});
+  QCOMPARE(updated.result(), 0);
+  QVERIFY(first.tells("shown page 0: Tarnwick was updated to version 1.0.0."));
+  QVERIFY(!silent.tells("page"));
+  QVERIFY(!updated.tells("page")); // it had no window of its own
+  first.stop(SIGTERM);
+  QCOMPARE(first.result(), 0);
+}
+
+// Without a tray the window list is the only way back.
+void TestProgram::inTheBackground() {
+  Start first({u"--background"_s});
+  QVERIFY(first.tells("minimised page 0"));
+  Start second;
+  QCOMPARE(second.result(), 0);
+  QVERIFY(first.tells("shown page 0"));
+  first.stop(SIGTERM);
+  QCOMPARE(first.result(), 0);
+}
+
+// It starts by itself in the background too, and its worker is waited for.
+void TestProgram::scheduledScanIsStopped() {
+  AppSettings& settings = AppSettings::instance();
+  settings.setSchedule(AppSettings::Weekly);
+  settings.setLastScan(QDateTime::currentDateTime().addDays(-30));
+  settings.setExclusions(FixtureHome::rulesForOutside() + slowPatterns());
+  QSettings().sync();
+  addManyItems(m_home, 2000);
+  Start program({u"--background"_s});
+  QVERIFY(program.tells("minimised page 1"));
+  program.stop(SIGTERM);
+  QCOMPARE(program.result(), 0);
+  QSettings().sync();
+  QVERIFY(settings.lastScan().daysTo(QDateTime::currentDateTime()) > 1);
+}
+
+void TestProgram::cleanIsStoppedWithItsLogWhole() {
+  AppSettings& settings = AppSettings::instance();
+  settings.setSchedule(AppSettings::Weekly);
+  settings.setLastScan(QDateTime::currentDateTime().addDays(-30));
+  settings.setMoveToTrash(false);
+  QSettings().sync();
+  constexpr int kThumbs = 10'000;
+  for (int i = 0; i < kThumbs; ++i) m_home.file(u".cache/thumbnails/normal/%1.png"_s.arg(i), 1);
+  Start program({}, true);
+  QCOMPARE(program.result(), 0);
+  const QStringList logs = QDir(Cleaner::logDir()).entryList({u"cleanup-*.log"_s});
+  QCOMPARE(logs.size(), 1);
+  QFile log(Cleaner::logDir() + u'/' + logs[0]);
+  QVERIFY(log.open(QIODevice::ReadOnly));
+  const QByteArray text = log.readAll();
+  QVERIFY2(text.contains("\nFreed ") && text.endsWith(".\n"), text.right(400).constData());
+  QVERIFY(!QDir(m_home.path(u".cache/thumbnails/normal"_s)).isEmpty()); // it did stop
+}
+
+int main(int argc, char** argv) {
+  if (!qEnvironmentVariableIsSet(kStore)) {
+    QCoreApplication::setApplicationName(u"Tarnwick"_s);
+    QCoreApplication::setOrganizationName(u"Tarnwick"_s);
+    for (const char* name : {"DBUS_SESSION_BUS_ADDRESS", "TARNWICK_LANG", "TARNWICK_LOOK"}) qunsetenv(name);
+    QCoreApplication app(argc, argv);
+    TestProgram test;
+    return QTest::qExec(&test, argc, argv);
+  }
+  QSettings::setDefaultFormat(QSettings::IniFormat);
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, qEnvironmentVariable(kStore));
+  qAddPreRoutine(watch);
+  return ui::runProgram(argc, argv);
+}
+
+#include "tst_program.moc"
