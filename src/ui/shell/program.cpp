@@ -90,6 +90,9 @@ int runProgram(int argc, char** argv) {
   window.restoreWindowState();
   QObject::connect(&app, &QCoreApplication::aboutToQuit, &window, &MainWindow::saveWindowState);
   QObject::connect(&app, &QCoreApplication::aboutToQuit, &instance, &Instance::leave);
+  // What runs is to end while the window is taken down, not only after it.
+  QObject::connect(&app, &QCoreApplication::aboutToQuit, &state, &AppState::cancelScan);
+  QObject::connect(&app, &QCoreApplication::aboutToQuit, &state, &AppState::stopClean);
   QObject::connect(&instance, &Instance::asked, &window, [&window](Instance::Wish wish) { obey(&window, wish); });
   const Interrupts interrupts;
   QObject::connect(&interrupts, &Interrupts::interrupted, &app, &QCoreApplication::quit);
