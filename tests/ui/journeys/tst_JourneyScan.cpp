@@ -4,7 +4,9 @@
 // on the disk.
 #include "JourneyTest.h"
 
+#include "ui/pages/CategoryTile.h"
 #include "ui/shell/NavButton.h"
+#include "ui/visuals/DiskOrb.h"
 #include "ui/visuals/ScanStepRow.h"
 
 #include <QSet>
@@ -28,11 +30,22 @@ class TestJourneyScan : public JourneyTest {
   void stoppedRescanLeavesTheFindings();
   void rescanBeginsAnew();
   void startsFromTheOverview();
+  void startsFromTheOverviewByKeyboard();
   void nothingFound();
   void unreadableFolder();
   void changesNothing();
 
  private:
+  void goToOverview() {
+    QTest::mouseClick(m_window->findChildren<ui::NavButton*>().first(), Qt::LeftButton);
+    settle();
+    QCOMPARE(m_window->page(), int(ui::Sidebar::Overview));
+  }
+  [[nodiscard]] ui::CategoryTile* tile(const QString& id) const {
+    for (ui::CategoryTile* one : m_window->findChildren<ui::CategoryTile*>())
+      if (one->id() == id && one->isVisible()) return one;
+    return nullptr;
+  }
   /// Makes every path so long to judge that a scan can't be through before it is stopped.
   void slowDown() const {
     addManyItems(*m_home, 100);
@@ -143,14 +156,42 @@ void TestJourneyScan::rescanBeginsAnew() {
 void TestJourneyScan::startsFromTheOverview() {
   open();
   QCOMPARE(m_window->page(), int(ui::Sidebar::Overview));
-  m_state->startScan(); // as the schedule does
+  auto* orb = m_window->findChild<ui::DiskOrb*>();
+  QCOMPARE(orb->action(), u"Scan"_s);
+  QTest::mouseClick(orb, Qt::LeftButton, {}, orb->coreRect().center().toPoint());
   QCOMPARE(m_window->page(), int(ui::Sidebar::Cleanup));
   waitFor(AppState::Review);
-  const QList<ui::NavButton*> pages = m_window->findChildren<ui::NavButton*>();
-  QTest::mouseClick(pages.first(), Qt::LeftButton);
-  QCOMPARE(m_window->page(), int(ui::Sidebar::Overview));
-  QVERIFY(shows(*m_window, fmt::bytes(m_state->totalReclaimable())) ||
-          allTexts(m_window.get()).join(u'\n').contains(fmt::bytes(m_state->totalReclaimable())));
+  goToOverview();
+  QCOMPARE(orb->action(), u"Review"_s);
+  QVERIFY(allTexts(m_window.get()).contains(fmt::bytes(m_state->totalReclaimable()) + u" ready to clean"_s));
+  QTest::mouseClick(tile(u"dev"_s), Qt::LeftButton);
+  settle();
+  QCOMPARE(m_window->page(), int(ui::Sidebar::Cleanup));
+  QVERIFY(shows(*detail(), m_state->result(u"dev"_s)->def.title));
+  goToOverview();
+  click(*m_window, u"See all"_s);
+  QCOMPARE(m_window->page(), int(ui::Sidebar::Cleanup));
+  m_home->file(u".cache/acme-new/index"_s, 900'000);
+  goToOverview();
+  click(*m_window, u"Rescan"_s);
+  QCOMPARE(m_window->page(), int(ui::Sidebar::Cleanup));
+  waitFor(AppState::Review);
+  showDetail(u"appcache"_s);
+  QVERIFY(itemBox(u"acme-new"_s));
+}
+
+void TestJourneyScan::startsFromTheOverviewByKeyboard() {
+  open();
+  QVERIFY(tabUntil(*m_window, [](const QWidget* at) { return qobject_cast<const ui::DiskOrb*>(at); }));
+  press(*m_window, Qt::Key_Space);
+  QCOMPARE(m_state->phase, AppState::Scanning);
+  waitFor(AppState::Review);
+  goToOverview();
+  QVERIFY(tabUntil(*m_window, [this](const QWidget* at) { return at == tile(u"update"_s); }));
+  press(*m_window, Qt::Key_Return);
+  settle();
+  QCOMPARE(m_window->page(), int(ui::Sidebar::Cleanup));
+  QVERIFY(shows(*detail(), m_state->result(u"update"_s)->def.title));
 }
 
 void TestJourneyScan::nothingFound() {
