@@ -166,7 +166,10 @@ void paintGlow(QPainter* painter, const QPointF& centre, const Glow& glow, const
   gradient.setColorAt(1, ui::paint::withAlpha(colour, 0));
   painter->setPen(Qt::NoPen);
   painter->setBrush(gradient);
-  painter->drawEllipse(QPointF(0, 0), glow.radiusX, glow.radiusX);
+  // Only what it lights: the rest of its circle would cost as much, for nothing, and more often than not a repaint lies
+  // in the rest.
+  const double reach = kGlowEnds * glow.radiusX;
+  painter->drawEllipse(QPointF(0, 0), reach, reach);
   painter->restore();
 }
 

@@ -9,11 +9,14 @@
 #include <QPainter>
 #include <QPalette>
 #include <QProcess>
+#include <QRadialGradient>
 #include <QRawFont>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTextLayout>
 #include <QTextStream>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -161,6 +164,7 @@ class TestTheme : public QObject {
   void gradientRunsCornerToCorner();
   void backdropGlowsFromItsCorners_data();
   void backdropGlowsFromItsCorners();
+  void backdropGlowsAreWhole();
 
   void lookVariableIsExact_data();
   void lookVariableIsExact();
@@ -384,6 +388,40 @@ void TestTheme::backdropGlowsFromItsCorners() {
   QCOMPARE(image.pixelColor(1999, 1300), theme.bg);
   QCOMPARE(image.pixelColor(1000, 800), theme.bg);
   QCOMPARE(image.pixelColor(0, 1599), theme.bg);
+}
+
+// Where a glow has faded, nothing may be seen of where its painting ends.
+void TestTheme::backdropGlowsAreWhole() {
+  setMode(AppSettings::Light);
+  const Theme& theme = Theme::get();
+  QImage expected({1180, 780}, QImage::Format_ARGB32_Premultiplied);
+  expected.fill(theme.bg);
+  QPainter painter(&expected);
+  painter.setPen(Qt::NoPen);
+  const auto glow = [&](const QPointF& centre, double width, double height, const QColor& colour) {
+    painter.resetTransform();
+    painter.translate(centre);
+    painter.scale(1, height / width);
+    QColor nothing = colour;
+    nothing.setAlpha(0);
+    QRadialGradient gradient({0, 0}, width);
+    gradient.setStops({{0, colour}, {0.6, nothing}, {1, nothing}});
+    painter.setBrush(gradient);
+    painter.drawEllipse(QPointF(), width, width);
+  };
+  glow({0.12 * 1180, -0.10 * 780}, 900, 500, theme.glowA);
+  glow({1.05 * 1180, 1.10 * 780}, 800, 600, theme.glowB);
+  painter.end();
+  const QImage image = backdrop(expected.size());
+  int worst = 0;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) {
+      const QRgb seen = image.pixel(x, y);
+      const QRgb wanted = expected.pixel(x, y);
+      worst = std::max({worst, qAbs(qRed(seen) - qRed(wanted)), qAbs(qGreen(seen) - qGreen(wanted)),
+                        qAbs(qBlue(seen) - qBlue(wanted))});
+    }
+  QVERIFY2(worst <= 1, qPrintable(QString::number(worst))); // a gradient is rounded by where its line begins
 }
 
 void TestTheme::lookVariableIsExact_data() {
