@@ -2,6 +2,7 @@
 
 #include "app/AppSettings.h"
 #include "app/identity.h"
+#include "app/records.h"
 #include "gallery/GalleryWindow.h"
 #include "gallery/shots.h"
 #include "ui/Theme.h"
@@ -56,8 +57,7 @@ int showWindow() {
   return QApplication::exec();
 }
 
-int write(const QString& folder, const QString& sheet) {
-  const QString wrong = gallery::writeShots(folder, sheet);
+int exitCode(const QString& wrong) {
   if (wrong.isEmpty()) return 0;
   std::fprintf(stderr, "tarnwick-gallery: %s\n", qPrintable(wrong));
   return kFailed;
@@ -72,6 +72,7 @@ int main(int argc, char** argv) {
   const QTemporaryDir settings;
   useSettingsIn(settings);
   QApplication::setStyle(u"Fusion"_s);
+  records::registerMetaTypes();
   i18n::install(&app);
   Theme::get().install(&app);
 
@@ -79,13 +80,17 @@ int main(int argc, char** argv) {
   parser.setApplicationDescription(u"Shows every control in every state. TARNWICK_LOOK (mac, win) and QT_SCALE_FACTOR "
                                    "decide on metrics and scale."_s);
   parser.addHelpOption();
-  const QCommandLineOption toFolder(u"write"_s, u"Writes pictures in both looks into DIR and ends."_s, u"DIR"_s);
-  const QCommandLineOption only(u"sheet"_s, u"Writes this sheet alone."_s, u"NAME"_s);
-  parser.addOptions({toFolder, only});
+  const QCommandLineOption sheet(u"write"_s, u"Writes pictures in both looks into DIR and ends."_s, u"DIR"_s);
+  const QCommandLineOption views(u"write-views"_s, u"Writes pictures of the window's views into DIR and ends."_s,
+                                 u"DIR"_s);
+  const QCommandLineOption only(u"view"_s, u"Writes this view alone."_s, u"NAME"_s);
+  parser.addOptions({sheet, views, only});
   if (!parser.parse(app.arguments()) || !parser.positionalArguments().isEmpty()) {
     std::fprintf(stderr, "%s\n", qPrintable(parser.helpText()));
     return kWrongCall;
   }
   if (parser.isSet(u"help"_s)) parser.showHelp();
-  return parser.isSet(toFolder) ? write(parser.value(toFolder), parser.value(only)) : showWindow();
+  if (parser.isSet(views)) return exitCode(gallery::writeViews(parser.value(views), parser.value(only)));
+  if (parser.isSet(sheet)) return exitCode(gallery::writeSheet(parser.value(sheet)));
+  return showWindow();
 }

@@ -2,7 +2,7 @@
 
 #include "app/AppSettings.h"
 #include "gallery/Sheet.h"
-#include "gallery/windows.h"
+#include "gallery/views.h"
 #include "ui/Theme.h"
 
 #include <QCoreApplication>
@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -20,18 +21,6 @@ using namespace std::chrono_literals;
 namespace gallery {
 
 namespace {
-
-// Those that scan come last, as the others tell when the last scan was.
-constexpr SheetEntry kSheets[] = {
-    {"gallery", [] { return static_cast<QWidget*>(new Sheet); }},
-    {"overview", overviewAtStart},
-    {"cleanup", cleanupAtStart},
-    {"about", aboutDialog},
-    {"overview-found", overviewAfterScan},
-    {"cleanup-found", cleanupAfterScan},
-    {"clean-question", cleanQuestion},
-    {"toast", toast},
-};
 
 // By then an eased ring has come as close to its value as can be seen, and what turns has turned a little.
 constexpr auto kRest = 1s;
@@ -42,45 +31,74 @@ void rest() {
   loop.exec();
 }
 
-/// One widget is shown in both looks, so that what keeps a colour of the first is seen in the second.
+/// Writes what @p widget shows in both looks, under what @p name calls it in the look in force. One widget is shown in
+/// both, so that what keeps a colour of the first is seen in the second.
 /// @return the file that couldn't be written; empty if both were
-QString writeBothLooks(const SheetEntry& entry, const QDir& folder) {
-  AppSettings& settings = AppSettings::instance();
-  const Theme& theme = Theme::get();
-  settings.setThemeMode(AppSettings::Light);
-  const std::unique_ptr<QWidget> widget(entry.make());
-  widget->show();
-  rest();
+QString writeBothLooks(QWidget* widget, const QDir& folder, const std::function<QString(const QPixmap&)>& name) {
   for (const auto mode : {AppSettings::Light, AppSettings::Dark}) {
-    settings.setThemeMode(mode);
+    AppSettings::instance().setThemeMode(mode);
     widget->activateWindow();
     widget->setFocus(); // what is taken when open has had it
     QCoreApplication::processEvents();
     const QPixmap picture = widget->grab();
-    const QString name = shotName(QString::fromLatin1(entry.name), theme.dark, theme.mac, picture.devicePixelRatio());
-    if (!picture.save(folder.filePath(name))) return folder.filePath(name);
+    const QString file = folder.filePath(name(picture));
+    if (!picture.save(file)) return file;
   }
   return {};
 }
 
-} // namespace
-
-std::span<const SheetEntry> sheets() { return kSheets; }
-
-QString shotName(const QString& sheet, bool dark, bool mac, double scale) {
-  return u"%1-%2-%3-%4x.png"_s.arg(sheet, dark ? u"dark"_s : u"light"_s, mac ? u"mac"_s : u"win"_s).arg(scale);
+QString writeView(const ViewEntry& entry, const QDir& folder) {
+  AppSettings::instance().setThemeMode(AppSettings::Light);
+  const std::unique_ptr<Scene> scene = openView(entry);
+  rest();
+  for (const QSize& size : viewSizes()) {
+    scene->window.resize(size);
+    const QString unwritten = writeBothLooks(&scene->window, folder, [&](const QPixmap&) {
+      return viewName(QString::fromLatin1(entry.name), Theme::get().dark, size);
+    });
+    if (!unwritten.isEmpty()) return unwritten;
+  }
+  return {};
 }
 
-QString writeShots(const QString& folder, const QString& sheet) {
-  if (!QDir().mkpath(folder)) return u"can't make the folder %1"_s.arg(folder);
+QString made(const QString& folder) {
+  return QDir().mkpath(folder) ? QString() : u"can't make the folder %1"_s.arg(folder);
+}
+QString written(const QString& unwritten) {
+  return unwritten.isEmpty() ? QString() : u"can't write %1"_s.arg(unwritten);
+}
+
+} // namespace
+
+QString sheetName(bool dark, bool mac, double scale) {
+  return u"gallery-%1-%2-%3x.png"_s.arg(dark ? u"dark"_s : u"light"_s, mac ? u"mac"_s : u"win"_s).arg(scale);
+}
+
+QString viewName(const QString& view, bool dark, const QSize& size) {
+  return u"%1-%2-%3x%4.png"_s.arg(view, dark ? u"dark"_s : u"light"_s).arg(size.width()).arg(size.height());
+}
+
+QString writeSheet(const QString& folder) {
+  if (const QString wrong = made(folder); !wrong.isEmpty()) return wrong;
+  AppSettings::instance().setThemeMode(AppSettings::Light);
+  Sheet sheet;
+  sheet.show();
+  rest();
+  return written(writeBothLooks(&sheet, QDir(folder), [](const QPixmap& picture) {
+    return sheetName(Theme::get().dark, Theme::get().mac, picture.devicePixelRatio());
+  }));
+}
+
+QString writeViews(const QString& folder, const QString& only) {
+  if (const QString wrong = made(folder); !wrong.isEmpty()) return wrong;
   bool known = false;
-  for (const SheetEntry& entry : sheets()) {
-    if (!sheet.isEmpty() && QLatin1StringView(entry.name) != sheet) continue;
+  for (const ViewEntry& entry : views()) {
+    if (!only.isEmpty() && QLatin1StringView(entry.name) != only) continue;
     known = true;
-    const QString unwritten = writeBothLooks(entry, QDir(folder));
-    if (!unwritten.isEmpty()) return u"can't write %1"_s.arg(unwritten);
+    const QString wrong = written(writeView(entry, QDir(folder)));
+    if (!wrong.isEmpty()) return wrong;
   }
-  return known ? QString() : u"there is no sheet called %1"_s.arg(sheet);
+  return known ? QString() : u"there is no view called %1"_s.arg(only);
 }
 
 } // namespace gallery

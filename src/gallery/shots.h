@@ -1,28 +1,24 @@
-/// Pictures of the sheets, written without a screen.
+/// Pictures of the sheet and of the window's views, written without a screen. What moves is given a second to come to
+/// rest.
 #pragma once
 
 #include <QString>
 
-#include <span>
-
-class QWidget;
+class QSize;
 
 namespace gallery {
 
-/// What there are pictures of.
-struct SheetEntry {
-  const char* name; ///< stands at the head of the pictures' file names
-  QWidget* (*make)();
-};
-[[nodiscard]] std::span<const SheetEntry> sheets();
+/// The names of pictures: "gallery-dark-mac-1.5x.png", "cleanup-review-light-960x640.png".
+[[nodiscard]] QString sheetName(bool dark, bool mac, double scale);
+[[nodiscard]] QString viewName(const QString& view, bool dark, const QSize& size);
 
-/// The name of a picture: "gallery-dark-mac-1.5x.png".
-[[nodiscard]] QString shotName(const QString& sheet, bool dark, bool mac, double scale);
+// Both write into @p folder, which is made if need be, in this process's metrics and scale, and change the theme
+// setting. They return what went wrong; empty if nothing did.
 
-/// Writes each sheet in both looks, in this process's metrics and scale, into @p folder, which is made if need be.
-/// What moves is given a second to come to rest. Changes the theme setting.
-/// @param sheet  the only one to write, by its name; empty writes all
-/// @return what went wrong; empty if nothing did
-[[nodiscard]] QString writeShots(const QString& folder, const QString& sheet);
+/// The sheet in both looks.
+[[nodiscard]] QString writeSheet(const QString& folder);
+/// Each view in both looks at both sizes.
+/// @param only  the only one to write, by its name; empty writes all
+[[nodiscard]] QString writeViews(const QString& folder, const QString& only);
 
 } // namespace gallery

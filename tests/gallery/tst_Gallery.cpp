@@ -3,8 +3,10 @@
 #include "gallery/Sheet.h"
 #include "gallery/Snapshot.h"
 #include "gallery/shots.h"
-#include "gallery/windows.h"
+#include "gallery/views.h"
+#include "support/SampleHome.h"
 #include "support/uitest.h"
+#include "support/window.h"
 #include "ui/Theme.h"
 #include "ui/controls/ElidedLabel.h"
 #include "ui/controls/Segmented.h"
@@ -21,7 +23,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-#include <memory>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -61,6 +63,17 @@ bool isInView(const QWidget* widget) {
   return false;
 }
 
+const gallery::ViewEntry& viewCalled(const QByteArray& name) {
+  const auto all = gallery::views();
+  const auto found = std::find_if(all.begin(), all.end(), [&](const auto& entry) { return entry.name == name; });
+  if (found == all.end()) qFatal("no view is called %s", name.constData());
+  return *found;
+}
+
+bool contains(const QStringList& texts, const QString& part) {
+  return std::any_of(texts.begin(), texts.end(), [&](const QString& text) { return text.contains(part); });
+}
+
 ui::Segmented* segmentedWith(const QWidget& window, const QString& item) {
   for (auto* control : window.findChildren<ui::Segmented*>())
     for (int index = 0; index < control->itemCount(); ++index)
@@ -78,9 +91,14 @@ class TestGallery : public QObject {
   void initTestCase() { Theme::get().install(qApp); }
   void init() { setLook(AppSettings::Light); }
 
-  void shotNames_data();
-  void shotNames();
-  void sheetsHaveNamesOfTheirOwn();
+  void sheetNames_data();
+  void sheetNames();
+  void viewNames();
+  void viewsHaveNamesOfTheirOwn();
+  void viewsShowWhatTheyAreCalled_data();
+  void viewsShowWhatTheyAreCalled();
+  void viewsShowEveryPhase();
+  void viewsLeaveTheHomeAlone();
   void nothingIsSqueezed_data();
   void nothingIsSqueezed();
   void sheetFollowsTheLook();
@@ -90,13 +108,12 @@ class TestGallery : public QObject {
   void otherLookStandsBesideTheLiveOne();
   void otherMetricsNeedAnotherProcess();
   void programWritesBothLooks();
-  void programShowsWhatAScanFinds();
-  void eachPageIsOnShowAfterAScan();
+  void programWritesAViewAtBothSizes();
   void everyControlIsOnTheSheet();
   void programTellsWhatWentWrong();
 };
 
-void TestGallery::shotNames_data() {
+void TestGallery::sheetNames_data() {
   QTest::addColumn<bool>("dark");
   QTest::addColumn<bool>("mac");
   QTest::addColumn<double>("scale");
@@ -106,18 +123,67 @@ void TestGallery::shotNames_data() {
   QTest::newRow("dark win 1.5") << true << false << 1.5 << u"gallery-dark-win-1.5x.png"_s;
 }
 
-void TestGallery::shotNames() {
+void TestGallery::sheetNames() {
   QFETCH(bool, dark);
   QFETCH(bool, mac);
   QFETCH(double, scale);
-  QTEST(gallery::shotName(u"gallery"_s, dark, mac, scale), "name");
+  QTEST(gallery::sheetName(dark, mac, scale), "name");
 }
 
-void TestGallery::sheetsHaveNamesOfTheirOwn() {
+void TestGallery::viewNames() {
+  QCOMPARE(gallery::viewName(u"cleanup-review"_s, false, {960, 640}), u"cleanup-review-light-960x640.png"_s);
+  QCOMPARE(gallery::viewName(u"about"_s, true, {1180, 780}), u"about-dark-1180x780.png"_s);
+}
+
+void TestGallery::viewsHaveNamesOfTheirOwn() {
   QSet<QByteArray> names;
-  for (const gallery::SheetEntry& entry : gallery::sheets()) names << QByteArray(entry.name);
-  QCOMPARE(size_t(names.size()), gallery::sheets().size());
-  QVERIFY(names.contains("gallery"));
+  for (const gallery::ViewEntry& entry : gallery::views()) names << QByteArray(entry.name);
+  QCOMPARE(size_t(names.size()), gallery::views().size());
+}
+
+void TestGallery::viewsShowWhatTheyAreCalled_data() {
+  QTest::addColumn<QString>("text");
+  QTest::newRow("overview-empty") << u"What Smart Scan looks at"_s;
+  QTest::newRow("overview-found") << u"Top recommendations"_s;
+  QTest::newRow("cleanup-empty") << u"Nothing scanned yet"_s;
+  QTest::newRow("cleanup-scan") << u"Scanning"_s;
+  QTest::newRow("cleanup-review") << u"Largest items"_s;
+  QTest::newRow("cleanup-review-partly") << u"Select recommended"_s;
+  QTest::newRow("cleanup-review-permanent") << u"Emptying cannot be undone"_s;
+  QTest::newRow("cleanup-review-collapsed") << u"Select recommended"_s;
+  QTest::newRow("cleanup-cleaning") << u"Cleaning"_s;
+  QTest::newRow("cleanup-done") << u"For example: "_s;
+  QTest::newRow("clean-question") << u"Clean and delete"_s;
+  QTest::newRow("about") << u"Version"_s;
+  QTest::newRow("close-dialog") << u"Keep Tarnwick running?"_s;
+  QTest::newRow("toast") << u"Moved 12 items to the Trash"_s;
+}
+
+void TestGallery::viewsShowWhatTheyAreCalled() {
+  QFETCH(QString, text);
+  const FixtureHome home;
+  fillSampleHome(home);
+  const gallery::ViewEntry& entry = viewCalled(QTest::currentDataTag());
+  const auto scene = gallery::openView(entry);
+  QCOMPARE(scene->window.page(), entry.page); // though a scan brings its own page to the front
+  QVERIFY2(contains(windowtest::shownTexts(scene->window), text), qPrintable(text));
+}
+
+void TestGallery::viewsShowEveryPhase() {
+  QSet<int> phases;
+  for (const gallery::ViewEntry& entry : gallery::views()) phases << int(gallery::openView(entry)->state.phase);
+  QCOMPARE(phases, QSet<int>({0, 1, 2, 3, 4}));
+}
+
+void TestGallery::viewsLeaveTheHomeAlone() {
+  const FixtureHome home;
+  fillSampleHome(home);
+  (void)gallery::openView(gallery::views().front()); // makes the folder of the settings
+  const auto before = wholeTree(home);
+  for (const gallery::ViewEntry& entry : gallery::views()) (void)gallery::openView(entry);
+  const auto after = wholeTree(home);
+  QCOMPARE(after.keys(), before.keys());
+  for (auto one = before.begin(); one != before.end(); ++one) QVERIFY2(after.value(one.key()) == *one, one.key());
 }
 
 void TestGallery::nothingIsSqueezed_data() {
@@ -230,7 +296,7 @@ void TestGallery::otherMetricsNeedAnotherProcess() {
 void TestGallery::programWritesBothLooks() {
   const QTemporaryDir folder;
   const QDir shots(folder.filePath(u"a/b"_s));
-  const Run run = runGallery({u"--write"_s, shots.path(), u"--sheet"_s, u"gallery"_s}, u"win"_s, u"1.5"_s);
+  const Run run = runGallery({u"--write"_s, shots.path()}, u"win"_s, u"1.5"_s);
   QVERIFY2(run.code == 0, qPrintable(run.errors));
   const QStringList names = {u"gallery-dark-win-1.5x.png"_s, u"gallery-light-win-1.5x.png"_s};
   QCOMPARE(shots.entryList(QDir::Files, QDir::Name), names);
@@ -241,27 +307,22 @@ void TestGallery::programWritesBothLooks() {
   QVERIFY(dark.width() >= 1404 * 3 / 2);
 }
 
-void TestGallery::programShowsWhatAScanFinds() {
+void TestGallery::programWritesAViewAtBothSizes() {
   const QTemporaryDir folder;
-  const auto write = [&](const QString& sheet) {
-    const Run run = runGallery({u"--write"_s, folder.path(), u"--sheet"_s, sheet});
-    return run.code == 0 ? QImage(folder.filePath(sheet + u"-dark-mac-1x.png"_s)) : QImage();
-  };
-  const QImage before = write(u"overview"_s);
-  const QImage after = write(u"overview-found"_s);
-  QVERIFY(!before.isNull());
-  QCOMPARE(before.size(), after.size());
-  QVERIFY(before != after);
+  const Run run = runGallery({u"--write-views"_s, folder.path(), u"--view"_s, u"cleanup-empty"_s});
+  QVERIFY2(run.code == 0, qPrintable(run.errors));
+  const QStringList names = {u"cleanup-empty-dark-1180x780.png"_s, u"cleanup-empty-dark-960x640.png"_s,
+                             u"cleanup-empty-light-1180x780.png"_s, u"cleanup-empty-light-960x640.png"_s};
+  const QDir shots(folder.path());
+  QCOMPARE(shots.entryList(QDir::Files, QDir::Name), names);
+  for (const QString& name : names) {
+    const QImage picture(shots.filePath(name));
+    QCOMPARE(picture.size(), name.contains(u"960"_s) ? QSize(960, 640) : QSize(1180, 780));
+    QCOMPARE(picture.pixelColor(picture.width() / 2, 4).lightness() < 60, name.contains(u"dark"_s));
+  }
 }
 
 // A control that isn't on the sheet is one that nobody looks at.
-void TestGallery::eachPageIsOnShowAfterAScan() {
-  const std::unique_ptr<QWidget> overview(gallery::overviewAfterScan());
-  QVERIFY(overview->findChild<ui::OverviewPage*>()->isVisibleTo(overview.get()));
-  const std::unique_ptr<QWidget> cleanup(gallery::cleanupAfterScan());
-  QVERIFY(cleanup->findChild<ui::CleanupPage*>()->isVisibleTo(cleanup.get()));
-}
-
 void TestGallery::everyControlIsOnTheSheet() {
   // Taken when it is open; the common part of others.
   static const QSet<QString> kNotByItself = {u"SelectPopup"_s, u"PaintedButton"_s};
@@ -287,16 +348,18 @@ void TestGallery::everyControlIsOnTheSheet() {
 
 void TestGallery::programTellsWhatWentWrong() {
   const QTemporaryDir folder;
-  Run run = runGallery({u"--write"_s, folder.path(), u"--sheet"_s, u"nothing"_s});
+  Run run = runGallery({u"--write-views"_s, folder.path(), u"--view"_s, u"nothing"_s});
   QCOMPARE(run.code, 1);
-  QVERIFY(run.errors.contains(u"no sheet called nothing"_s));
+  QVERIFY(run.errors.contains(u"no view called nothing"_s));
   QVERIFY(QDir(folder.path()).isEmpty());
 
   QFile file(folder.filePath(u"file"_s));
   QVERIFY(file.open(QIODevice::WriteOnly));
-  run = runGallery({u"--write"_s, folder.filePath(u"file/below"_s)});
-  QCOMPARE(run.code, 1);
-  QVERIFY(run.errors.contains(u"can't make the folder"_s));
+  for (const QString& verb : {u"--write"_s, u"--write-views"_s}) {
+    run = runGallery({verb, folder.filePath(u"file/below"_s)});
+    QCOMPARE(run.code, 1);
+    QVERIFY(run.errors.contains(u"can't make the folder"_s));
+  }
 
   QCOMPARE(runGallery({u"--write"_s, folder.path(), u"--loud"_s}).code, 2);
 }

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""./dev shots takes every sheet in both metric sets and at all scales, and ends where one fails.
+"""./dev shots takes the sheet in both metric sets and at all scales, then the views, and ends where one fails.
 
 The gallery and the tools that build it are stand-ins that write down how they were called.
 """
@@ -28,7 +28,7 @@ shots "$@"
 GALLERY = """#!/bin/bash
 echo "$TARNWICK_LOOK $QT_SCALE_FACTOR $TARNWICK_LANG ${FONTCONFIG_FILE##*/} [${DBUS_SESSION_BUS_ADDRESS-}] $*" >>calls
 echo "what the gallery says"
-[[ $QT_SCALE_FACTOR != "${BROKEN_AT-}" ]]
+[[ $QT_SCALE_FACTOR != "${BROKEN_AT-}" && $1 != "${BROKEN_DO-}" ]]
 """
 
 
@@ -59,16 +59,17 @@ class Shots(unittest.TestCase):
         self.assertEqual(
             self.calls(),
             ["setup build shots demo", "build dev tarnwick-gallery", "demo linux"]
-            + [f"{look} {scale} en fonts.conf [] {target}" for look in ("mac", "win") for scale in ("1", "1.5", "2")],
+            + [f"{look} {scale} en fonts.conf [] {target}" for look in ("mac", "win") for scale in ("1", "1.5", "2")]
+            + [f"mac 1 en fonts.conf [] --write-views {self.root}/build/shots"],
         )
         self.assertNotIn("what the gallery says", done.stdout + done.stderr)
         self.assertIn(f"the pictures lie in {self.root}/build/shots", done.stderr)
 
     def test_a_folder_is_seen_from_where_the_verb_is_called(self):
         self.shots("pictures")
-        self.assertTrue(self.calls()[-1].endswith(f"--write {self.caller}/pictures"), self.calls())
+        self.assertTrue(self.calls()[-1].endswith(f"--write-views {self.caller}/pictures"), self.calls())
         self.shots("/elsewhere")
-        self.assertTrue(self.calls()[-1].endswith("--write /elsewhere"), self.calls())
+        self.assertTrue(self.calls()[-1].endswith("--write-views /elsewhere"), self.calls())
 
     def test_the_first_that_fails_is_told_and_the_last(self):
         done = self.shots(BROKEN_AT="1.5")
@@ -76,6 +77,12 @@ class Shots(unittest.TestCase):
         self.assertEqual(len(self.calls()), 5)
         self.assertIn("mac metrics at scale 1.5 failed", done.stderr)
         self.assertIn("what the gallery says", done.stderr)
+
+    def test_views_that_fail_are_told(self):
+        done = self.shots(BROKEN_DO="--write-views")
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("the views failed", done.stderr)
+        self.assertNotIn("the pictures lie", done.stderr)
 
 
 if __name__ == "__main__":

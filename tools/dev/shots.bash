@@ -3,10 +3,10 @@
 shot_metrics=(mac win)
 shot_scales=(1 1.5 2)
 
-# take_shots FOLDER METRICS SCALE: every sheet in both looks. The desktop that this runs on has no say in them.
+# take_shots METRICS SCALE ARGS...: the gallery with these arguments. The desktop that this runs on has no say in it.
 take_shots() {
   quietly env -u DBUS_SESSION_BUS_ADDRESS LC_ALL=C.UTF-8 TARNWICK_LANG=en FONTCONFIG_FILE="$root/tools/dev/fonts.conf" \
-    TARNWICK_LOOK="$2" QT_SCALE_FACTOR="$3" build/dev/src/gallery/tarnwick-gallery --write "$1"
+    TARNWICK_LOOK="$1" QT_SCALE_FACTOR="$2" build/dev/src/gallery/tarnwick-gallery "${@:3}"
 }
 
 # shots [DIR]: a relative DIR is seen from where ./dev was called.
@@ -18,8 +18,9 @@ shots() {
   enter_demo linux || return
   for metrics in "${shot_metrics[@]}"; do
     for scale in "${shot_scales[@]}"; do
-      if ! take_shots "$folder" "$metrics" "$scale"; then say "$metrics metrics at scale $scale failed"; return 1; fi
+      if ! take_shots "$metrics" "$scale" --write "$folder"; then say "$metrics metrics at scale $scale failed"; return 1; fi
     done
   done
+  if ! take_shots mac 1 --write-views "$folder"; then say "the views failed"; return 1; fi
   say "the pictures lie in $folder"
 }
