@@ -56,6 +56,8 @@ class ControlInterface : public QAccessibleWidget, public QAccessibleValueInterf
     QAccessible::State state = QAccessibleWidget::state();
     state.readOnly = !m_button || !m_button->isPressable();
     state.busy = m_value && m_value->valueFraction() < 0;
+    state.selectable = m_button && m_button->isChoice();
+    state.selected = m_button && m_button->isChosen();
     return state;
   }
 

@@ -28,6 +28,10 @@ class AccessibleButton {
   [[nodiscard]] virtual QString buttonText() const = 0;
   /// Whether there is anything to press; where there isn't, it is read as a text. For the whole life of the widget.
   [[nodiscard]] virtual bool isPressable() const { return true; }
+  /// Whether it is one of several of which one is chosen.
+  [[nodiscard]] virtual bool isChoice() const { return false; }
+  /// Whether it is the chosen one.
+  [[nodiscard]] virtual bool isChosen() const { return false; }
   /// Does what a click does.
   virtual void press() = 0;
 };

@@ -1,10 +1,12 @@
 #include "ui/controls/factory.h"
 
 #include "ui/Theme.h"
+#include "ui/accessible.h"
 #include "ui/desktop.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QScrollArea>
@@ -119,6 +121,8 @@ QScrollArea* scrollPage(QVBoxLayout** column) {
   area->setFrameShape(QFrame::NoFrame);
   area->setFocusPolicy(Qt::NoFocus); // Tab stops at what lies in it, and their keys reach it too
   area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  // The focus goes to what it holds. Keys for which that has no use scroll, as they come here then.
+  area->setFocusPolicy(Qt::NoFocus);
   auto* content = new QWidget;
   *column = vbox(0, {margin, kPageTop, margin, margin});
   content->setLayout(*column);
@@ -141,6 +145,18 @@ bool zoomWindowFrom(QWidget* widget, QMouseEvent* event) {
   QWidget* window = widget->window();
   window->isMaximized() ? window->showNormal() : window->showMaximized();
   return true;
+}
+
+bool pressFrom(AccessibleButton* button, QKeyEvent* event) {
+  switch (event->key()) {
+  case Qt::Key_Space:
+  case Qt::Key_Return:
+  case Qt::Key_Enter:
+    if (!event->isAutoRepeat()) button->press();
+    return true;
+  default:
+    return false;
+  }
 }
 
 } // namespace ui

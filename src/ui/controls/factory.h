@@ -5,6 +5,7 @@
 #include <QString>
 
 class QHBoxLayout;
+class QKeyEvent;
 class QLabel;
 class QLayout;
 class QMouseEvent;
@@ -13,6 +14,8 @@ class QVBoxLayout;
 class QWidget;
 
 namespace ui {
+
+class AccessibleButton;
 
 /// A label; @p role, if not null, is what the style sheet selects on.
 [[nodiscard]] QLabel* label(const QString& text, const char* role = nullptr, QWidget* parent = nullptr);
@@ -26,11 +29,14 @@ void setRole(QWidget* widget, const char* role);
 /// caller.
 void clearLayout(QLayout* layout);
 
-/// A page's scrolling column. @param column  receives the layout to fill
+/// A page's scrolling column. No Tab stop itself: it scrolls by the keys that the control with the focus, which it
+/// holds, leaves alone. @param column  receives the layout to fill
 [[nodiscard]] QScrollArea* scrollPage(QVBoxLayout** column);
 /// Begins to move the window on a press of the left button; false: the event is the base class's.
 bool dragWindowFrom(QWidget* widget, QMouseEvent* event);
 /// Maximises or restores the window on a double click of the left button; false: the event is the base class's.
 bool zoomWindowFrom(QWidget* widget, QMouseEvent* event);
+/// Presses a painted button by Space or Enter, once while the key is held; false: the event is the base class's.
+bool pressFrom(AccessibleButton* button, QKeyEvent* event);
 
 } // namespace ui

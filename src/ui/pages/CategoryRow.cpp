@@ -2,6 +2,7 @@
 
 #include "ui/Theme.h"
 #include "ui/controls/KeyboardFocus.h"
+#include "ui/controls/factory.h"
 #include "ui/paint.h"
 
 #include <QKeyEvent>
@@ -38,15 +39,7 @@ void CategoryRow::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void CategoryRow::keyPressEvent(QKeyEvent* event) {
-  switch (event->key()) {
-  case Qt::Key_Space:
-  case Qt::Key_Return:
-  case Qt::Key_Enter:
-    if (!event->isAutoRepeat()) press();
-    break;
-  default:
-    QWidget::keyPressEvent(event);
-  }
+  if (!pressFrom(this, event)) QWidget::keyPressEvent(event);
 }
 
 void CategoryRow::paintEvent(QPaintEvent* /*event*/) {

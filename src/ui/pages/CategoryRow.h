@@ -25,6 +25,8 @@ class CategoryRow : public QWidget, public AccessibleButton {
   [[nodiscard]] bool isKeyboardFocused() const;
 
   [[nodiscard]] QString buttonText() const override { return accessibleName(); }
+  [[nodiscard]] bool isChoice() const override { return true; }
+  [[nodiscard]] bool isChosen() const override { return active; }
   void press() override;
 
  protected:

@@ -65,15 +65,7 @@ bool CategoryTile::event(QEvent* event) {
 }
 
 void CategoryTile::keyPressEvent(QKeyEvent* event) {
-  switch (event->key()) {
-  case Qt::Key_Space:
-  case Qt::Key_Return:
-  case Qt::Key_Enter:
-    if (!event->isAutoRepeat()) press();
-    break;
-  default:
-    QWidget::keyPressEvent(event);
-  }
+  if (!pressFrom(this, event)) QWidget::keyPressEvent(event);
 }
 
 /// Taken, so that nothing below the tile takes the click for its own.

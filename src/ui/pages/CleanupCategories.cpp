@@ -60,6 +60,12 @@ QString spoken(const CategoryResult& result) {
   return result.def.title + ", "_L1 + (isBlocked(result) ? CleanupWords::blocked() : fmt::bytes(result.bytes));
 }
 
+/// What its group tells of the row, and its look of being the one on show.
+QString describing(const CategoryResult& result, bool active) {
+  const QString safety = categories::safetyLabel(result.def.safety);
+  return active ? safety + ", "_L1 + CleanupWords::tr("Details shown") : safety;
+}
+
 ElidedLabel* styledLabel(const QString& text, const char* role, const QString& style) {
   auto* result = new ElidedLabel(text, role);
   result->setStyleSheet(style);
@@ -193,7 +199,7 @@ void CleanupCategories::addRow(const CategoryResult& result, qint64 largest, boo
   row->onClick = [this, id = result.def.id] { emit chosen(id); };
   row->setObjectName("category-"_L1 + result.def.id);
   row->setAccessibleName(spoken(result));
-  row->setAccessibleDescription(categories::safetyLabel(result.def.safety));
+  row->setAccessibleDescription(describing(result, active));
   row->installEventFilter(this);
   QCheckBox* box = buildBox(result);
   QHBoxLayout* line = hbox(kRowSpacing, kRowMargins);

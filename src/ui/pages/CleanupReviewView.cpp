@@ -82,6 +82,7 @@ PageHeader* CleanupReviewView::buildHeader() {
 FooterBar* CleanupReviewView::buildFooter() {
   m_selectionLabel->setObjectName("selectionLabel"_L1);
   m_cleanButton->setObjectName("cleanButton"_L1);
+  m_stackBar->setAccessibleName(CleanupWords::tr("Selection"));
   auto* footer = new FooterBar;
   footer->row()->addWidget(m_selectionLabel);
   footer->row()->addWidget(m_stackBar, 1);

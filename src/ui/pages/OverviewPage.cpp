@@ -164,6 +164,7 @@ QHBoxLayout* OverviewPage::buildChips() {
 QWidget* OverviewPage::buildStats() {
   m_sparkline = new Sparkline;
   m_sparkline->setValueFormat(fmt::bytes);
+  m_sparkline->setAccessibleName(Words::tr("Freed in the last %1 months").arg(kHistoryMonths));
   m_freed = new StatCard(m_sparkline);
   m_lastScan = new StatCard(new IconView(u"history"_s, Tone::Accent, kHistoryIconSize));
   m_schedule = new StatCard(new IconTile(u"calendar"_s, QColor::fromRgb(kCalendarHue), kCalendarIconSize));

@@ -25,7 +25,6 @@ constexpr int kSideMac = 28;
 constexpr int kSideWin = 32;
 constexpr QMargins kCentredMargins(32, 24, 32, 24);
 constexpr int kBelowBlock = 2; // stretch
-constexpr int kGlowBelow = 33; // how far a large button's glow reaches below it; cut off, it shows an edge
 constexpr int kStartSpacing = 8;
 constexpr int kStartTile = 56;
 constexpr int kBelowTile = 8;
@@ -59,7 +58,6 @@ int pageSide() { return Theme::get().mac ? kSideMac : kSideWin; }
 
 QWidget* centred(QLayout* block, int maxWidth) {
   auto* holder = new QWidget;
-  block->setContentsMargins(0, 0, 0, kGlowBelow);
   holder->setLayout(block);
   holder->setMaximumWidth(maxWidth);
   QHBoxLayout* row = hbox();

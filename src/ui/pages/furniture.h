@@ -23,7 +23,7 @@ class Radar;
 /// What a block that ends with a filled button leaves free below it, so that the button's glow isn't cut off; pixels.
 inline constexpr int kGlowRoom = 34;
 
-/// A widget that holds @p block in the middle of its width, at most @p maxWidth wide.
+/// A widget that holds @p block in the middle of its width, at most @p maxWidth wide. The block keeps its margins.
 [[nodiscard]] QWidget* centred(QLayout* block, int maxWidth);
 
 /// What a page shows before anything was done on it.

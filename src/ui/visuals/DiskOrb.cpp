@@ -3,6 +3,7 @@
 #include "core/fmt.h"
 #include "ui/Theme.h"
 #include "ui/controls/KeyboardFocus.h"
+#include "ui/controls/factory.h"
 #include "ui/visuals/dial.h"
 #include "ui/visuals/hues.h"
 
@@ -175,15 +176,7 @@ void DiskOrb::leaveEvent(QEvent* /*event*/) {
 }
 
 void DiskOrb::keyPressEvent(QKeyEvent* event) {
-  switch (event->key()) {
-  case Qt::Key_Space:
-  case Qt::Key_Return:
-  case Qt::Key_Enter:
-    if (!event->isAutoRepeat()) press();
-    break;
-  default:
-    QWidget::keyPressEvent(event);
-  }
+  if (!pressFrom(this, event)) QWidget::keyPressEvent(event);
 }
 
 void DiskOrb::paintEvent(QPaintEvent* /*event*/) {

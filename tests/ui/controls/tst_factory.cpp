@@ -165,6 +165,7 @@ void TestFactory::scrollPageIsAColumn() {
   QVERIFY(area->widgetResizable());
   QCOMPARE(area->frameShape(), QFrame::NoFrame);
   QCOMPARE(area->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+  QCOMPARE(area->focusPolicy(), Qt::NoFocus);
 }
 
 void TestFactory::scrollPageScrollsOnlyDown() {

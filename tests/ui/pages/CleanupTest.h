@@ -6,9 +6,11 @@
 #include "engines/categories.h"
 #include "support/uitest.h"
 #include "ui/Theme.h"
+#include "ui/controls/Note.h"
 #include "ui/pages/CategoryRow.h"
 #include "ui/pages/CleanupPage.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
@@ -58,6 +60,11 @@ inline QPushButton* button(const QWidget* widget, const QString& text) {
   for (QPushButton* one : widget->findChildren<QPushButton*>())
     if (one->text() == text && one->isVisibleTo(widget)) return one;
   return nullptr;
+}
+
+/// What a screen reader calls it.
+inline QString nameOf(QWidget* widget) {
+  return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
 }
 
 } // namespace cleanuptest
@@ -116,6 +123,9 @@ class CleanupTest : public FlowTest {
     boxes.removeIf([](const QCheckBox* box) { return !box->text().isEmpty(); });
     return boxes;
   }
+  [[nodiscard]] bool detailSays(const QString& text) const { return cleanuptest::texts(detail()).contains(text); }
+  [[nodiscard]] static ui::Note* noteIn(const QWidget* widget) { return widget->findChild<ui::Note*>(); }
+  [[nodiscard]] QPushButton* cleanButton() const { return find<QPushButton>("cleanButton"); }
 
   std::unique_ptr<ui::CleanupPage> m_page;
 };

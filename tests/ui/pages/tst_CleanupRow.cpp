@@ -113,10 +113,11 @@ void TestCleanupRow::barPaints() {
 void TestCleanupRow::centredBlock() {
   auto* inner = new QWidget;
   inner->setMinimumHeight(40);
-  QVBoxLayout* block = ui::vbox();
+  QVBoxLayout* block = ui::vbox(0, {0, 0, 0, 7});
   block->addWidget(inner);
   const std::unique_ptr<QWidget> whole(ui::centred(block, 460));
   QCOMPARE(whole->layout()->contentsMargins(), QMargins(32, 24, 32, 24));
+  QCOMPARE(block->contentsMargins(), QMargins(0, 0, 0, 7)); // its own
   whole->resize(1000, 600);
   whole->show();
   QCoreApplication::processEvents();

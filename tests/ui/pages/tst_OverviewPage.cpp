@@ -1,57 +1,13 @@
-#include "ui/pages/OverviewPage.h"
+// The Overview: what it holds, and what its figures and words say.
+#include "OverviewTest.h"
 
-#include "app/AppSettings.h"
-#include "app/AppState.h"
-#include "core/fmt.h"
-#include "engines/Scanner.h"
-#include "engines/categories.h"
-#include "support/pixels.h"
-#include "support/uitest.h"
-#include "ui/Theme.h"
-#include "ui/controls/Button.h"
-#include "ui/controls/Card.h"
-#include "ui/controls/ElidedLabel.h"
-#include "ui/controls/Headline.h"
-#include "ui/controls/IconTile.h"
-#include "ui/controls/IconView.h"
-#include "ui/controls/PageHeader.h"
-#include "ui/pages/CategoryTile.h"
-#include "ui/pages/Chip.h"
-#include "ui/pages/LegendItem.h"
-#include "ui/pages/StatCard.h"
-#include "ui/visuals/DiskOrb.h"
-#include "ui/visuals/Sparkline.h"
-
-#include <QAccessible>
-#include <QGridLayout>
-#include <QLabel>
-#include <QRegularExpression>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QSignalSpy>
 #include <QTranslator>
-#include <QVBoxLayout>
 
-using namespace Qt::StringLiterals;
+using namespace overviewtest;
 using ui::CategoryTile;
 using ui::OverviewPage;
 
 namespace {
-
-constexpr qint64 kGB = 1'000'000'000;
-
-CategoryResult found(const QString& id, qint64 bytes) {
-  CategoryResult made;
-  made.def.id = id;
-  made.def.title = u"Title of "_s + id;
-  made.def.blurb = u"About "_s + id;
-  made.def.icon = u"globe"_s;
-  made.def.colour = Qt::red;
-  made.bytes = bytes;
-  return made;
-}
-
-QString roleOf(const QWidget* widget) { return widget->property("role").toString(); }
 
 /// Marks every text with the context that it was asked for in.
 class Marking : public QTranslator {
@@ -63,125 +19,24 @@ class Marking : public QTranslator {
   }
 };
 
-/// A page over a state of its own, with a disk of 1000 GB of which 400 are available.
-struct Shown {
-  AppState state;
-  OverviewPage page{&state};
-
-  Shown() {
-    setVolume(1000 * kGB, 400 * kGB);
-    page.resize(724, 640);
-  }
-
-  void setVolume(qint64 total, qint64 available, qint64 purgeable = 0) {
-    state.volume.totalBytes = total;
-    state.volume.availableBytes = available;
-    state.volume.purgeableBytes = purgeable;
-    emit state.volumeChanged();
-  }
-  void setResults(const QList<CategoryResult>& results) {
-    state.results = results;
-    emit state.resultsChanged();
-  }
-  void setLastScan(const QDateTime& when) {
-    state.lastScan = when;
-    emit state.phaseChanged();
-  }
-  void show() {
-    page.show();
-    page.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&page));
-  }
-
-  template <typename Widget>
-  [[nodiscard]] Widget* only() const {
-    const auto all = page.findChildren<Widget*>();
-    Q_ASSERT(all.size() == 1);
-    return all.first();
-  }
-  template <typename Widget>
-  [[nodiscard]] Widget* withText(const QString& text) const {
-    for (Widget* widget : page.findChildren<Widget*>())
-      if (widget->text() == text) return widget;
-    return nullptr;
-  }
-  [[nodiscard]] ui::DiskOrb* orb() const { return only<ui::DiskOrb>(); }
-  [[nodiscard]] QString headline() const { return only<ui::Headline>()->text(); }
-  [[nodiscard]] ui::Button* rescan() const { return withText<ui::Button>(u"Rescan"_s); }
-  [[nodiscard]] ui::Button* seeAll() const { return withText<ui::Button>(u"See all"_s); }
-  [[nodiscard]] QGridLayout* grid() const { return only<QGridLayout>(); }
-
-  /// What stands right of the orb.
-  [[nodiscard]] QLayout* heroText() const { return orb()->parentWidget()->layout()->itemAt(1)->layout(); }
-  [[nodiscard]] QString diskLine() const { return qobject_cast<QLabel*>(heroText()->itemAt(5)->widget())->text(); }
-  [[nodiscard]] QString scanChip() const {
-    return qobject_cast<ui::Chip*>(heroText()->itemAt(9)->layout()->itemAt(1)->widget())->shownText();
-  }
-  [[nodiscard]] QStringList legend() const {
-    QStringList all;
-    for (const ui::LegendItem* item : page.findChildren<ui::LegendItem*>()) all << item->shownText();
-    return all;
-  }
-  /// Value and caption of freed, last scan, schedule.
-  [[nodiscard]] QStringList stat(int index) const {
-    const ui::StatCard* card = page.findChildren<ui::StatCard*>().at(index);
-    return {card->value(), card->caption()};
-  }
-  [[nodiscard]] QString tilesHeading() const {
-    for (const QLabel* label : page.findChildren<QLabel*>())
-      if (roleOf(label) == u"h3") return label->text();
-    return {};
-  }
-  /// In their places: row by row.
-  [[nodiscard]] QList<CategoryTile*> tiles() const {
-    QList<CategoryTile*> all;
-    for (int row = 0; row < grid()->rowCount(); ++row)
-      for (int column = 0; column < grid()->columnCount(); ++column)
-        if (QLayoutItem* item = grid()->itemAtPosition(row, column)) all << qobject_cast<CategoryTile*>(item->widget());
-    return all;
-  }
-  [[nodiscard]] QStringList tileNames() const {
-    QStringList names;
-    for (const CategoryTile* tile : tiles()) names << tile->buttonText();
-    return names;
-  }
-};
-
-QList<CategoryResult> someResults() {
-  return {found(u"temp"_s, 2 * kGB), found(u"browser"_s, 5 * kGB), found(u"trash"_s, 1 * kGB)};
-}
-
 } // namespace
 
-class TestOverviewPage : public QObject {
+class TestOverviewPage : public OverviewTest {
   Q_OBJECT
 
  private slots:
-  void initTestCase() {
-    records::registerMetaTypes();
-    Theme::get().install(qApp);
-  }
-  void init() {
-    qputenv("TARNWICK_HOST", "linux");
-    Theme::get().mac = true;
-    AppSettings& settings = AppSettings::instance();
-    settings.setThemeMode(AppSettings::Light);
-    settings.setSchedule(AppSettings::Weekly);
-    settings.setLastScan({});
-    settings.put("history/freed", QVariantMap());
-  }
+  void initTestCase() { installOnce(); }
+  void init() { reset(); }
 
   void header();
   void columnOrder();
   void heroHolds();
   void chipRow();
   void statsHold();
-  void tilesHead();
   void pageMargins_data();
   void pageMargins();
   void fitsTheSmallestWindow_data();
   void fitsTheSmallestWindow();
-
   void orbShowsTheDisk();
   void headline_data();
   void headline();
@@ -196,32 +51,9 @@ class TestOverviewPage : public QObject {
   void schedule_data();
   void schedule();
   void buttonsComeWithResults();
-
-  void tilesWithoutResults_data();
-  void tilesWithoutResults();
-  void tilesWithResults();
-  void nineResults();
-  void emptyResultsGiveNoTiles();
-  void tilesShareTheWidth();
-  void clickOnATileWithoutResults();
-  void clickOnATile();
-
-  void orbWithoutResultsStartsAScan();
-  void orbWithResultsOnlyOpens();
-  void rescanStartsAScan();
-  void seeAllOnlyOpens();
-
   void refreshesOn_data();
   void refreshesOn();
   void waitsWhileAnotherPageIsShown();
-  void rebuildsInsideATilesClick();
-  void rebuildsInsideATilesKey();
-  void scrollingSurvivesARebuild();
-  void focusSurvivesARebuild_data();
-  void focusSurvivesARebuild();
-  void focusOfATileThatIsGone();
-  void tabOrder();
-  void everythingIsReadOut();
   void textsAreTranslatedInTheirContexts();
   void wordsOfThisHost();
 };
@@ -330,24 +162,6 @@ void TestOverviewPage::statsHold() {
   const ui::IconTile calendar(u"calendar"_s, QColor(0xa8, 0x55, 0xf7), 30);
   QCOMPARE(pixels::rendered(*visualOf(1)), pixels::rendered(const_cast<ui::IconView&>(history)));
   QCOMPARE(pixels::rendered(*visualOf(2)), pixels::rendered(const_cast<ui::IconTile&>(calendar)));
-}
-
-void TestOverviewPage::tilesHead() {
-  const Shown shown;
-  const auto* area = shown.only<QScrollArea>();
-  const auto* row = qobject_cast<QHBoxLayout*>(area->widget()->layout()->itemAt(3)->layout());
-  QCOMPARE(row->spacing(), 0);
-  QCOMPARE(row->contentsMargins(), QMargins());
-  const QWidget* heading = row->itemAt(0)->widget();
-  QCOMPARE(roleOf(heading), u"h3"_s);
-  QCOMPARE(heading->contentsMargins(), QMargins(0, 26, 0, 12));
-  QVERIFY(row->itemAt(1)->spacerItem());
-  const QLayout* button = row->itemAt(2)->layout();
-  QCOMPARE(button->contentsMargins(), QMargins(0, 26, 0, 12));
-  QCOMPARE(button->itemAt(0)->widget(), shown.seeAll());
-  QCOMPARE(shown.seeAll()->property("kind").toString(), u"link"_s);
-  QCOMPARE(shown.grid()->horizontalSpacing(), 10);
-  QCOMPARE(shown.grid()->verticalSpacing(), 10);
 }
 
 void TestOverviewPage::pageMargins_data() {
@@ -546,147 +360,6 @@ void TestOverviewPage::buttonsComeWithResults() {
   QVERIFY(!shown.seeAll()->isVisible());
 }
 
-void TestOverviewPage::tilesWithoutResults_data() {
-  QTest::addColumn<QByteArray>("host");
-  QTest::newRow("mac") << QByteArray("mac");
-  QTest::newRow("linux") << QByteArray("linux");
-}
-
-void TestOverviewPage::tilesWithoutResults() {
-  QFETCH(QByteArray, host);
-  qputenv("TARNWICK_HOST", host);
-  const Shown shown;
-  QCOMPARE(shown.tilesHeading(), u"What Smart Scan looks at"_s);
-  QStringList titles;
-  for (const CategoryDef& def : categories::forThisPlatform()) titles << def.title;
-  QCOMPARE(titles.size(), 8);
-  QCOMPARE(shown.tileNames(), titles);
-  for (const CategoryTile* tile : shown.tiles()) {
-    QVERIFY(!tile->isPressable());
-    QVERIFY(!tile->toolTip().isEmpty());
-  }
-}
-
-void TestOverviewPage::tilesWithResults() {
-  Shown shown;
-  shown.setResults({found(u"temp"_s, 2 * kGB), found(u"logs"_s, 0), found(u"browser"_s, 5 * kGB), found(u"dev"_s, 1)});
-  QCOMPARE(shown.tilesHeading(), u"Top recommendations"_s);
-  QCOMPARE(shown.tileNames(),
-           (QStringList{u"Title of browser, 5.0 GB"_s, u"Title of temp, 2.0 GB"_s, u"Title of dev, 1 KB"_s}));
-  QCOMPARE(shown.tiles()[0]->toolTip(), u"About browser"_s);
-  QCOMPARE(shown.state.results.first().def.id, u"temp"_s); // sorted is a copy
-}
-
-void TestOverviewPage::nineResults() {
-  Shown shown;
-  QList<CategoryResult> results;
-  for (int i = 1; i <= 9; ++i) results << found(QString::number(i), i * kGB);
-  shown.setResults(results);
-  QCOMPARE(shown.tiles().size(), 8);
-  QCOMPARE(shown.grid()->rowCount(), 2);
-  QCOMPARE(shown.grid()->columnCount(), 4);
-  for (int i = 0; i < 8; ++i) {
-    const auto* tile = qobject_cast<CategoryTile*>(shown.grid()->itemAtPosition(i / 4, i % 4)->widget());
-    QCOMPARE(tile->id(), QString::number(9 - i));
-  }
-}
-
-void TestOverviewPage::emptyResultsGiveNoTiles() {
-  Shown shown;
-  shown.show();
-  shown.setResults({found(u"temp"_s, 0), found(u"browser"_s, 0)});
-  QCOMPARE(shown.tiles().size(), 0);
-  QCOMPARE(shown.tilesHeading(), u"Top recommendations"_s);
-  QVERIFY(shown.seeAll()->isVisible());
-  QVERIFY(shown.rescan()->isVisible());
-  QCOMPARE(shown.headline(), u"0 KB ready to clean"_s);
-  QCOMPARE(shown.orb()->action(), u"Review"_s);
-}
-
-void TestOverviewPage::tilesShareTheWidth() {
-  Shown shown;
-  QList<CategoryResult> results = someResults();
-  results[0].def.title = u"Caches of applications with a name that is much too long for any tile"_s;
-  shown.setResults(results);
-  shown.show();
-  const QWidget* content = shown.only<QScrollArea>()->widget();
-  const int share = (content->width() - 2 * 28 - 2 * 10) / 4;
-  for (const CategoryTile* tile : shown.tiles())
-    QVERIFY2(qAbs(tile->width() - share) <= 8, qPrintable(u"%1 of %2"_s.arg(tile->width()).arg(share)));
-}
-
-void TestOverviewPage::clickOnATileWithoutResults() {
-  Shown shown;
-  const QSignalSpy opened(&shown.page, &OverviewPage::openCleanup);
-  shown.show();
-  QTest::mouseClick(shown.tiles()[0], Qt::LeftButton);
-  QCOMPARE(opened.count(), 0);
-  QCOMPARE(shown.state.phase, AppState::Empty);
-}
-
-void TestOverviewPage::clickOnATile() {
-  Shown shown;
-  const QSignalSpy opened(&shown.page, &OverviewPage::openCleanup);
-  shown.setResults(someResults());
-  shown.show();
-  QTest::mouseClick(shown.tiles()[1], Qt::LeftButton);
-  QTest::keyClick(shown.tiles()[0], Qt::Key_Space);
-  QCOMPARE(opened.count(), 2);
-  QCOMPARE(opened[0][0].toString(), u"temp"_s);
-  QCOMPARE(opened[1][0].toString(), u"browser"_s);
-  QCOMPARE(shown.state.phase, AppState::Empty);
-}
-
-void TestOverviewPage::orbWithoutResultsStartsAScan() {
-  Shown shown;
-  const QSignalSpy opened(&shown.page, &OverviewPage::openCleanup);
-  int phaseAtOpening = -1;
-  connect(&shown.page, &OverviewPage::openCleanup, this, [&] { phaseAtOpening = shown.state.phase; });
-  shown.show();
-  QTest::mouseClick(shown.orb(), Qt::LeftButton);
-  QCOMPARE(opened.count(), 1);
-  QVERIFY(opened[0][0].toString().isEmpty());
-  QCOMPARE(phaseAtOpening, int(AppState::Scanning));
-  QTRY_VERIFY(shown.state.phase != AppState::Scanning);
-  QTRY_VERIFY(!shown.state.scanner->isRunning());
-}
-
-void TestOverviewPage::orbWithResultsOnlyOpens() {
-  Shown shown;
-  shown.setResults(someResults());
-  const QSignalSpy opened(&shown.page, &OverviewPage::openCleanup);
-  shown.show();
-  QTest::mouseClick(shown.orb(), Qt::LeftButton);
-  QCOMPARE(opened.count(), 1);
-  QVERIFY(opened[0][0].toString().isEmpty());
-  QCOMPARE(shown.state.phase, AppState::Empty);
-  QVERIFY(!shown.state.scanner->isRunning());
-}
-
-void TestOverviewPage::rescanStartsAScan() {
-  Shown shown;
-  shown.setResults(someResults());
-  const QSignalSpy opened(&shown.page, &OverviewPage::openCleanup);
-  shown.show();
-  QTest::mouseClick(shown.rescan(), Qt::LeftButton);
-  QCOMPARE(opened.count(), 1);
-  QVERIFY(opened[0][0].toString().isEmpty());
-  QCOMPARE(shown.state.phase, AppState::Scanning);
-  QTRY_VERIFY(shown.state.phase != AppState::Scanning);
-  QTRY_VERIFY(!shown.state.scanner->isRunning());
-}
-
-void TestOverviewPage::seeAllOnlyOpens() {
-  Shown shown;
-  shown.setResults(someResults());
-  const QSignalSpy opened(&shown.page, &OverviewPage::openCleanup);
-  shown.show();
-  QTest::mouseClick(shown.seeAll(), Qt::LeftButton);
-  QCOMPARE(opened.count(), 1);
-  QVERIFY(opened[0][0].toString().isEmpty());
-  QVERIFY(!shown.state.scanner->isRunning());
-}
-
 void TestOverviewPage::refreshesOn_data() {
   QTest::addColumn<int>("source");
   const char* const names[] = {"results", "volume", "phase", "settings", "theme"};
@@ -724,140 +397,6 @@ void TestOverviewPage::waitsWhileAnotherPageIsShown() {
   shown.page.hide();
   shown.page.show(); // nothing has changed
   QCOMPARE(shown.tiles()[0], renewed);
-}
-
-void TestOverviewPage::rebuildsInsideATilesClick() {
-  Shown shown;
-  shown.setResults(someResults());
-  shown.show();
-  const QPointer<CategoryTile> clicked = shown.tiles()[0];
-  connect(&shown.page, &OverviewPage::openCleanup, this, [&] {
-    shown.setResults({found(u"new"_s, kGB)});
-    QVERIFY(clicked); // deleted later
-    QVERIFY(clicked->isHidden());
-  });
-  QTest::mouseClick(clicked, Qt::LeftButton);
-  QCOMPARE(shown.tileNames(), QStringList{u"Title of new, 1.0 GB"_s});
-  QTRY_VERIFY(!clicked);
-}
-
-void TestOverviewPage::rebuildsInsideATilesKey() {
-  Shown shown;
-  shown.setResults(someResults());
-  shown.show();
-  const QPointer<CategoryTile> pressed = shown.tiles()[0];
-  pressed->setFocus(Qt::TabFocusReason);
-  int opened = 0;
-  connect(&shown.page, &OverviewPage::openCleanup, this, [&] {
-    ++opened;
-    shown.setResults({found(u"new"_s, kGB)});
-  });
-  QTest::keyClick(pressed, Qt::Key_Return);
-  QCOMPARE(opened, 1);
-  QTRY_VERIFY(!pressed);
-  QCOMPARE(shown.tiles().size(), 1);
-}
-
-void TestOverviewPage::scrollingSurvivesARebuild() {
-  Shown shown;
-  shown.setResults(someResults());
-  shown.page.resize(724, 400);
-  shown.show();
-  QScrollBar* bar = shown.only<QScrollArea>()->verticalScrollBar();
-  QTRY_VERIFY(bar->maximum() > 100);
-  bar->setValue(bar->maximum());
-  const int scrolled = bar->value();
-  const QSignalSpy moved(bar, &QScrollBar::valueChanged);
-  shown.setResults(someResults());
-  for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
-  QCOMPARE(bar->value(), scrolled);
-  QCOMPARE(moved.count(), 0);
-}
-
-void TestOverviewPage::focusSurvivesARebuild_data() {
-  QTest::addColumn<Qt::FocusReason>("reason");
-  QTest::addColumn<bool>("ring");
-  QTest::newRow("by Tab") << Qt::TabFocusReason << true;
-  QTest::newRow("by mouse") << Qt::MouseFocusReason << false;
-}
-
-void TestOverviewPage::focusSurvivesARebuild() {
-  QFETCH(Qt::FocusReason, reason);
-  QFETCH(bool, ring);
-  Shown shown;
-  shown.setResults(someResults());
-  shown.show();
-  const QPointer<CategoryTile> old = shown.tiles()[1];
-  old->setFocus(reason);
-  QVERIFY(old->hasFocus());
-  const QSignalSpy moves(qApp, &QApplication::focusChanged);
-  QList<CategoryResult> grown = someResults();
-  grown.first().bytes = 9 * kGB; // now the largest
-  shown.setResults(grown);
-  QVERIFY(shown.tiles()[0] != old);
-  QCOMPARE(shown.tiles()[0]->id(), u"temp"_s);
-  QVERIFY(shown.tiles()[0]->hasFocus());
-  QCOMPARE(shown.tiles()[0]->showsFocus(), ring);
-  QCOMPARE(moves.count(), 2); // off the old one, onto the new one, and nowhere else
-}
-
-void TestOverviewPage::focusOfATileThatIsGone() {
-  Shown shown;
-  shown.setResults(someResults());
-  shown.show();
-  shown.tiles()[1]->setFocus(Qt::TabFocusReason);
-  shown.setResults({found(u"browser"_s, kGB)});
-  QVERIFY(!shown.tiles()[0]->hasFocus());
-}
-
-void TestOverviewPage::tabOrder() {
-  QWidget window;
-  AppState state;
-  auto* page = new OverviewPage(&state, &window);
-  auto* later = new QPushButton(u"Made after the page"_s, &window);
-  state.results = someResults();
-  emit state.resultsChanged();
-  window.resize(724, 640);
-  window.show();
-  window.activateWindow();
-  QVERIFY(QTest::qWaitForWindowActive(&window));
-  later->setFocus();
-  QStringList order;
-  for (int i = 0; i < 8; ++i) {
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    const QWidget* at = QApplication::focusWidget();
-    if (const auto* tile = qobject_cast<const CategoryTile*>(at))
-      order << tile->id();
-    else if (const auto* button = qobject_cast<const QPushButton*>(at))
-      order << button->text();
-    else
-      order << QString::fromLatin1(at->metaObject()->className());
-  }
-  order.removeAll(u"QScrollArea"_s);
-  QCOMPARE(order, (QStringList{u"Rescan"_s, u"ui::DiskOrb"_s, u"See all"_s, u"browser"_s, u"temp"_s, u"trash"_s,
-                               u"Made after the page"_s}));
-  Q_UNUSED(page)
-}
-
-void TestOverviewPage::everythingIsReadOut() {
-  Shown shown;
-  shown.setResults(someResults());
-  shown.setLastScan(QDateTime::currentDateTime());
-  const auto nameOf = [](QWidget* widget) {
-    return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
-  };
-  QStringList names;
-  for (auto* card : shown.page.findChildren<ui::StatCard*>()) names << nameOf(card);
-  for (auto* chip : shown.page.findChildren<ui::Chip*>()) names << nameOf(chip);
-  for (auto* item : shown.page.findChildren<ui::LegendItem*>()) names << nameOf(item);
-  for (auto* tile : shown.tiles()) names << nameOf(tile);
-  names << nameOf(shown.only<ui::Headline>()) << nameOf(shown.orb()) << nameOf(shown.rescan())
-        << nameOf(shown.seeAll());
-  QCOMPARE(names, (QStringList{u"Freed this month, 0 KB"_s, u"Last scan, Today"_s, u"Scheduled scan, Weekly"_s,
-                               u"System files protected"_s, u"Scanned today"_s, u"Apps, documents & system, 592 GB"_s,
-                               u"Reclaimable, 8.0 GB"_s, u"Available, 400 GB"_s, u"Title of browser, 5.0 GB"_s,
-                               u"Title of temp, 2.0 GB"_s, u"Title of trash, 1.0 GB"_s, u"8.0 GB ready to clean"_s,
-                               u"Review"_s, u"Rescan"_s, u"See all"_s}));
 }
 
 void TestOverviewPage::textsAreTranslatedInTheirContexts() {
