@@ -240,7 +240,7 @@ void CleanupDetail::addHeader(const CategoryResult& result) {
 void CleanupDetail::addBlurb(const CategoryDef& def) {
   if (def.safety == Permanent) {
     m_detailLayout->addSpacing(kBelowBlurb);
-    m_detailLayout->addWidget(spokenNote(Note::Caution, u"alert"_s, def.blurb.toHtmlEscaped()));
+    addNote(m_detailLayout, spokenNote(Note::Caution, u"alert"_s, def.blurb.toHtmlEscaped()));
     return;
   }
   QLabel* blurb = label(def.blurb, "sub");
@@ -255,7 +255,7 @@ void CleanupDetail::addNotes(const CategoryResult& result) {
   for (Note* note : {accessNote(result), runningNote(result.items)}) {
     if (!note) continue;
     m_detailLayout->addSpacing(kAboveNote);
-    m_detailLayout->addWidget(note);
+    addNote(m_detailLayout, note);
     if (auto* action = note->findChild<QPushButton*>()) m_focusStops << action;
   }
 }

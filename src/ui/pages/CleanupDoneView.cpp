@@ -138,8 +138,8 @@ void CleanupDoneView::addNotes(QVBoxLayout* column) {
   m_skippedNote->setObjectName("skippedNote"_L1);
   m_adminNote = administratorNote();
   m_adminNote->setObjectName("adminNote"_L1);
-  column->addWidget(m_skippedNote);
-  column->addWidget(m_adminNote);
+  addNote(column, m_skippedNote);
+  addNote(column, m_adminNote);
   column->addSpacing(kBelowNotes);
 }
 

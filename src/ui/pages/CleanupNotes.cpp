@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QSet>
 #include <QTextDocumentFragment>
+#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -63,7 +64,6 @@ QStringList ownersOf(const QList<CleanItem>& items) {
 
 Note* spokenNote(Note::Kind kind, const QString& icon, const QString& html) {
   auto* note = new Note(kind, icon, {});
-  note->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // it takes no room that its text doesn't need
   setNoteText(note, html);
   return note;
 }
@@ -72,6 +72,9 @@ void setNoteText(Note* note, const QString& html) {
   note->setText(html);
   note->setAccessibleName(QTextDocumentFragment::fromHtml(html).toPlainText());
 }
+
+// A policy without growth would hold it at the height of its hint, which is that of another width.
+void addNote(QVBoxLayout* column, Note* note) { column->addWidget(note, 0, Qt::AlignTop); }
 
 Note* administratorNote() {
   if (!isMac()) return lockNote(leftAlone());

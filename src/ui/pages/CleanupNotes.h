@@ -4,12 +4,16 @@
 #include "app/records.h"
 #include "ui/controls/Note.h"
 
+class QVBoxLayout;
+
 namespace ui {
 
 /// A note that a screen reader hears as one text.
 [[nodiscard]] Note* spokenNote(Note::Kind kind, const QString& icon, const QString& html);
 /// Gives such a note another text.
 void setNoteText(Note* note, const QString& html);
+/// Appends a note that is as high as its text needs, though there be more room.
+void addNote(QVBoxLayout* column, Note* note);
 
 /// After a clean: some files need administrator rights. On Linux without a button, as there are none to be had.
 [[nodiscard]] Note* administratorNote();

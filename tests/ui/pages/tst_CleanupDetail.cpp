@@ -4,6 +4,7 @@
 #include "ui/pages/CleanupDetail.h"
 #include "ui/pages/CleanupNotes.h"
 
+#include <QLayout>
 #include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -24,6 +25,7 @@ class TestCleanupDetail : public CleanupTest {
   void accessNotes_data();
   void accessNotes();
   void runningNotes();
+  void longNoteIsWhole();
   void showsInTheFileManager();
   void itemRows();
   void itemIcons_data();
@@ -137,6 +139,16 @@ void TestCleanupDetail::runningNotes() {
   review({result});
   QCOMPARE(noteIn(detail())->text(), two->text());
   QVERIFY(detailSays(u"R&D is running"_s));
+}
+
+void TestCleanupDetail::longNoteIsWhole() {
+  CategoryResult result = category(u"browser"_s, sizes(200));
+  for (qsizetype i = 0; i < result.items.size(); ++i) result.items[i].owner = u"Application %1"_s.arg(i);
+  m_page->resize(724, 640);
+  review({result});
+  const ui::Note* note = noteIn(detail());
+  QVERIFY(note->width() < 320);
+  QCOMPARE(note->height(), note->layout()->totalHeightForWidth(note->width()));
 }
 
 void TestCleanupDetail::showsInTheFileManager() {

@@ -9,6 +9,9 @@
 #include "ui/visuals/ProgressRing.h"
 
 #include <QDesktopServices>
+#include <QLayout>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QUrl>
 
 #include <limits>
@@ -65,6 +68,7 @@ class TestCleanupDone : public CleanupTest {
   void administratorNote();
   void logOpens();
   void columnIsNoWiderThan640();
+  void scrollsOnlyWhereItMust();
 
  public slots:
   void openedUrl(const QUrl& url) { m_opened << url; }
@@ -270,6 +274,21 @@ void TestCleanupDone::columnIsNoWiderThan640() {
     const int middle = note("skippedNote")->mapTo(m_page.get(), note("skippedNote")->rect().center()).x();
     QVERIFY(qAbs(middle - width / 2) <= 1);
   }
+}
+
+void TestCleanupDone::scrollsOnlyWhereItMust() {
+  m_page->resize(724, 604);
+  done({.skipped = 3, .skippedSamples = {u'/' + QString(300, u'w')}, .runningApps = {u"Fox"_s}});
+  settle();
+  const QScrollArea* area = view()->findChild<QScrollArea*>();
+  QCOMPARE(area->widget()->height(), area->viewport()->height());
+  QVERIFY(!area->verticalScrollBar()->isVisible());
+  const ui::Note* skipped = note("skippedNote");
+  QCOMPARE(skipped->height(), skipped->layout()->totalHeightForWidth(skipped->width()));
+  done({.skipped = 3, .runningApps = QStringList(400, u"Fox"_s)});
+  settle();
+  QVERIFY(area->verticalScrollBar()->isVisible());
+  QCOMPARE(skipped->height(), skipped->layout()->totalHeightForWidth(skipped->width()));
 }
 
 int main(int argc, char** argv) { return uitest::run<TestCleanupDone>(argc, argv); }

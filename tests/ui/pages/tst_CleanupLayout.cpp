@@ -440,7 +440,7 @@ void TestCleanupLayout::contexts() {
   // Those with something put in.
   for (const QString& text : {u" can be cleaned"_s, u" items"_s, u"Fox is open. Quit it to include its cache."_s,
                               u"Fox is running"_s, u"and 1 more items"_s, u"Show 1 more"_s, u"Show in "_s, u"Clean "_s,
-                              u"<b>%Ln file(s) skipped</b>"_s, u"For example: /a"_s, u"<b>Left caches of"_s}) {
+                              u" file(s) skipped</b>"_s, u"For example: /a"_s, u"<b>Left caches of"_s}) {
     const bool said = std::any_of(all.cbegin(), all.cend(), [&](const QString& one) {
       return one.contains(u"[CleanupPage]"_s) && one.contains(text);
     });
