@@ -1,4 +1,3 @@
-// ctest: RESOURCE_LOCK clean
 // The window: its pages, its close rule, its geometry, and the whole journey of a Smart Scan by mouse and by keyboard.
 #include "ui/shell/MainWindow.h"
 
@@ -7,6 +6,7 @@
 #include "support/SampleHome.h"
 #include "support/pixels.h"
 #include "support/uitest.h"
+#include "support/window.h"
 #include "ui/Theme.h"
 #include "ui/controls/Button.h"
 #include "ui/controls/PageHeader.h"
@@ -35,6 +35,8 @@
 
 using namespace Qt::StringLiterals;
 using namespace ui;
+using windowtest::click;
+using windowtest::tabTo;
 
 namespace {
 
@@ -46,18 +48,6 @@ CategoryResult found(const QString& id, qint64 bytes) {
   result.def.title = id;
   result.bytes = bytes;
   return result;
-}
-
-Button* button(const QWidget& among, const QString& text) {
-  for (Button* one : among.findChildren<Button*>())
-    if (one->text() == text && one->isVisible()) return one;
-  return nullptr;
-}
-
-void click(const QWidget& among, const QString& text) {
-  Button* one = button(among, text);
-  QVERIFY2(one, qPrintable(text));
-  QTest::mouseClick(one, Qt::LeftButton);
 }
 
 /// Stands in for what the desktop opens addresses of a kind with.
@@ -86,20 +76,6 @@ QList<QWidget*> namelessControls(const QWidget& window) {
     if (!heard || heard->text(QAccessible::Name).isEmpty() || heard->role() == QAccessible::NoRole) found << one;
   }
   return found;
-}
-
-/// Presses Tab until a button of this text has the focus.
-void tabTo(const QWidget& among, const QString& text) {
-  constexpr int kMost = 100;
-  const auto isThere = [&] {
-    const auto* focused = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
-    return focused && focused->text().startsWith(text);
-  };
-  for (int i = 0; i < kMost && !isThere(); ++i) {
-    QWidget* from = QApplication::focusWidget();
-    QTest::keyClick(from ? from : const_cast<QWidget*>(&among), Qt::Key_Tab);
-  }
-  QVERIFY2(isThere(), qPrintable(text));
 }
 
 } // namespace
@@ -172,7 +148,9 @@ void TestMainWindow::init() {
 
 void TestMainWindow::startAgain() {
   m_window.reset();
-  m_state = std::make_unique<AppState>();
+  CleanerWorld world;
+  world.lockPath = m_home->outside(u"clean.lock"_s); // so that no test waits for another one
+  m_state = std::make_unique<AppState>(nullptr, world);
   m_window = std::make_unique<MainWindow>(m_state.get());
   m_window->show();
   QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
