@@ -121,8 +121,6 @@ QScrollArea* scrollPage(QVBoxLayout** column) {
   area->setFrameShape(QFrame::NoFrame);
   area->setFocusPolicy(Qt::NoFocus); // Tab stops at what lies in it, and their keys reach it too
   area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  // The focus goes to what it holds. Keys for which that has no use scroll, as they come here then.
-  area->setFocusPolicy(Qt::NoFocus);
   auto* content = new QWidget;
   *column = vbox(0, {margin, kPageTop, margin, margin});
   content->setLayout(*column);
