@@ -39,6 +39,7 @@ constexpr QMargins kHeading(12, 8, 0, 6);
 constexpr int kAboveDrive = 8;
 constexpr int kBelowDrive = 6;
 constexpr int kFootGap = 2;
+constexpr Qt::Alignment kToggleInRow = Qt::AlignRight | Qt::AlignVCenter; // at the right also if it stands alone
 constexpr int kLabelPx = 13;
 constexpr int kLabelWeight = 600;
 constexpr int kBesideLabel = 100;
@@ -114,11 +115,8 @@ void Sidebar::buildFoot(QVBoxLayout* column, const QList<int>& pages) {
     return;
   }
   m_foot = hbox(kFootGap);
-  if (settings)
-    m_foot->addWidget(settings, 1);
-  else
-    m_foot->addStretch();
-  m_foot->addWidget(m_toggle, 0, Qt::AlignVCenter);
+  if (settings) m_foot->addWidget(settings, 1);
+  m_foot->addWidget(m_toggle, 0, kToggleInRow);
   column->addLayout(m_foot);
 }
 
@@ -210,7 +208,7 @@ void Sidebar::applyCompact(bool compact) {
 void Sidebar::applyCompactFoot(bool compact) {
   m_foot->setDirection(compact ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
   m_foot->setStretch(0, compact ? 0 : 1);
-  m_foot->setAlignment(m_toggle, compact ? Qt::AlignHCenter : Qt::AlignVCenter);
+  m_foot->setAlignment(m_toggle, compact ? Qt::AlignHCenter : kToggleInRow);
 }
 
 void Sidebar::refreshBadge() {

@@ -60,6 +60,7 @@ class TestSidebar : public QObject {
   void slides();
   void secondWishTakesOver();
   void railOfTheOtherMetrics();
+  void toggleStandsAtTheFoot();
   void badgeFollowsTheResults();
   void badgeLayout();
   void compactLayout();
@@ -241,6 +242,21 @@ void TestSidebar::railOfTheOtherMetrics() {
   sidebar->setCollapsed(false, false);
   QCOMPARE(sidebar->layout()->contentsMargins(), QMargins(12, 6, 12, 14));
   QTRY_VERIFY(sidebar->toggleButton()->x() > entry(*sidebar, u"Settings"_s)->x());
+}
+
+// Also where there is no Settings entry beside it.
+void TestSidebar::toggleStandsAtTheFoot() {
+  Theme::get().mac = false;
+  const auto sidebar = make({Sidebar::Overview, Sidebar::Cleanup});
+  sidebar->resize(sidebar->expandedWidth(), 600);
+  sidebar->show();
+  const SidebarToggle* toggle = sidebar->toggleButton();
+  const auto* drive = sidebar->findChild<DriveCard*>();
+  const auto foot = [&] { return QPoint(toggle->geometry().right() + 1, toggle->geometry().bottom() + 1); };
+  QTRY_COMPARE(foot(), QPoint(sidebar->width() - 12, sidebar->height() - 14));
+  sidebar->setCollapsed(true, false);
+  QTRY_COMPARE(foot(), QPoint(10 + 36, sidebar->height() - 14));
+  QVERIFY(toggle->y() - drive->geometry().bottom() < 20);
 }
 
 void TestSidebar::badgeFollowsTheResults() {
