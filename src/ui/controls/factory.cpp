@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStyle>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -114,6 +115,21 @@ void clearLayout(QLayout* layout) {
   }
 }
 
+namespace {
+
+// What a page shows ends below what its header shows, whether there is a scroll bar beside it or not. As its width is
+// the same in both cases, a text that wraps can't make the bar come and go.
+void keepEdge(const QScrollArea* area, QVBoxLayout* column, int margin) {
+  const QScrollBar* bar = area->verticalScrollBar();
+  QObject::connect(bar, &QScrollBar::rangeChanged, column, [bar, column, margin](int least, int most) {
+    QMargins margins = column->contentsMargins();
+    margins.setRight(most > least ? margin - bar->sizeHint().width() : margin);
+    column->setContentsMargins(margins);
+  });
+}
+
+} // namespace
+
 QScrollArea* scrollPage(QVBoxLayout** column) {
   const int margin = Theme::get().mac ? kPageMarginMac : kPageMarginWin;
   auto* area = new QScrollArea;
@@ -125,6 +141,7 @@ QScrollArea* scrollPage(QVBoxLayout** column) {
   *column = vbox(0, {margin, kPageTop, margin, margin});
   content->setLayout(*column);
   area->setWidget(content);
+  keepEdge(area, *column, margin);
   return area;
 }
 

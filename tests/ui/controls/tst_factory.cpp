@@ -37,6 +37,7 @@ class TestFactory : public QObject {
   void scrollPageIsAColumn_data();
   void scrollPageIsAColumn();
   void scrollPageScrollsOnlyDown();
+  void scrollPageKeepsItsEdge();
   void dragTakesTheLeftButtonOnly();
   void dragNeedsAWindow();
   void zoomTogglesTheWindow();
@@ -179,6 +180,25 @@ void TestFactory::scrollPageScrollsOnlyDown() {
   QVERIFY(QTest::qWaitForWindowExposed(area.get()));
   QVERIFY(!area->horizontalScrollBar()->isVisible());
   QTRY_VERIFY(area->verticalScrollBar()->maximum() > 0);
+}
+
+void TestFactory::scrollPageKeepsItsEdge() {
+  QVBoxLayout* column = nullptr;
+  const std::unique_ptr<QScrollArea> area(ui::scrollPage(&column));
+  auto* content = new QWidget;
+  content->setFixedHeight(50);
+  column->addWidget(content);
+  column->addStretch();
+  area->resize(400, 300);
+  area->show();
+  const auto edge = [&] { return content->mapTo(area.get(), QPoint(content->width(), 0)).x(); };
+  QTRY_COMPARE(edge(), 400 - 28);
+  content->setFixedHeight(900);
+  QTRY_VERIFY(area->verticalScrollBar()->isVisible());
+  QTRY_COMPARE(edge(), 400 - 28);
+  content->setFixedHeight(50);
+  QTRY_VERIFY(!area->verticalScrollBar()->isVisible());
+  QTRY_COMPARE(edge(), 400 - 28);
 }
 
 void TestFactory::dragTakesTheLeftButtonOnly() {
