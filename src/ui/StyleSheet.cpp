@@ -88,6 +88,7 @@ QAbstractScrollArea::corner { background: transparent; border: none; }
 QStackedWidget { background: transparent; }
 QScrollBar { background: transparent; border: none; margin: 2px; }
 QScrollBar:vertical { width: 10px; }
+ui--Card QScrollBar:vertical { margin: 8px 2px; }
 QScrollBar:horizontal { height: 10px; }
 QScrollBar::handle { background: @lineStrong; border-radius: 3px; }
 QScrollBar::handle:vertical { min-height: 32px; }

@@ -218,6 +218,7 @@ constexpr Rule kRules[] = {
     {"QScrollBar", "background", "transparent"},
     {"QScrollBar", "margin", "2px"},
     {"QScrollBar:vertical", "width", "10px"},
+    {"ui--Card QScrollBar:vertical", "margin", "8px 2px"},
     {"QScrollBar:horizontal", "height", "10px"},
     {"QScrollBar::handle", "background", "{lineStrong}"},
     {"QScrollBar::handle", "border-radius", "3px"},

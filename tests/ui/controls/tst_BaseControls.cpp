@@ -18,6 +18,9 @@
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyleOptionSlider>
 
 #include <cmath>
 
@@ -54,6 +57,7 @@ class TestBaseControls : public QObject {
   void elidedLabelKeepsAMinimumThatIsSet();
   void cardFills();
   void cardWithoutBorder();
+  void cardKeepsScrollBarsOutOfItsCorners();
   void dividerIsAHairline();
   void iconViewPaintsItsTone();
   void iconViewChanges();
@@ -167,6 +171,31 @@ void TestBaseControls::cardWithoutBorder() {
   card.bordered = false;
   QCOMPARE(rendered(card).pixelColor(1, 30), QColor(Qt::white));
   QVERIFY(rendered(card).pixelColor(0, 30).red() >= 254);
+}
+
+// Else the handle at either end reaches over the rounded outline.
+void TestBaseControls::cardKeepsScrollBarsOutOfItsCorners() {
+  ui::Card card;
+  auto* area = new QScrollArea;
+  auto* row = new QHBoxLayout(&card);
+  row->setContentsMargins(1, 1, 1, 1);
+  row->addWidget(area);
+  auto* tall = new QWidget;
+  tall->setFixedSize(50, 2000);
+  area->setWidget(tall);
+  card.resize(200, 300);
+  card.show();
+  const QScrollBar* bar = area->verticalScrollBar();
+  QTRY_VERIFY(bar->isVisible());
+  QStyleOptionSlider option;
+  option.initFrom(bar);
+  option.orientation = Qt::Vertical;
+  option.maximum = bar->maximum();
+  option.pageStep = bar->pageStep();
+  const QRect groove = bar->style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarGroove, bar);
+  QVERIFY2(groove.top() >= 8, qPrintable(QString::number(groove.top())));
+  QVERIFY2(groove.bottom() < bar->height() - 8, qPrintable(QString::number(groove.bottom())));
+  QCOMPARE(bar->width(), 10);
 }
 
 void TestBaseControls::dividerIsAHairline() {
