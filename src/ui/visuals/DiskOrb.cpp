@@ -207,7 +207,7 @@ void DiskOrb::paintHalo(QPainter* painter, const orb::Layout& layout) const {
   };
   painter->setPen(Qt::NoPen);
   for (int reach = kHaloReach; reach > 0; reach -= kHaloStep)
-    fillGrownBy(reach, int((1 - reach / kHaloEnd) * kHaloPeak.at(m_hovered) + 1));
+    fillGrownBy(double(reach), int((1 - reach / kHaloEnd) * kHaloPeak.at(m_hovered) + 1));
   fillGrownBy(kNearGlow, kNearGlowAlpha.at(m_hovered));
 }
 

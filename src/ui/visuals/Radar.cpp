@@ -16,9 +16,9 @@ namespace ui {
 namespace {
 // Lengths in pixels.
 constexpr QSize kSize(250, 250);
-constexpr double kMargin = 1;     // from the sweep to the widget's edge
-constexpr double kFirstRing = 50; // from the innermost ring to the sweep's edge
-constexpr double kRingStep = 16;
+constexpr double kMargin = 1;  // from the sweep to the widget's edge
+constexpr int kFirstRing = 50; // from the innermost ring to the sweep's edge
+constexpr int kRingStep = 16;
 constexpr double kRim = 0.5;
 constexpr double kHollowShare = 0.55; // of the sweep's radius
 constexpr double kCoreRadius = 62;
@@ -105,7 +105,7 @@ RadarLayout radarLayout(const QSize& size) {
                      .rings = {},
                      .coreRadius = kCoreRadius,
                      .text = {}};
-  for (double ring = radius - kFirstRing; ring < radius; ring += kRingStep) layout.rings << ring;
+  for (int inwards = kFirstRing; inwards > 0; inwards -= kRingStep) layout.rings << radius - inwards;
   layout.rings << radius - kRim;
   const double left = centre.x() - kCoreRadius;
   layout.text.headline = QRectF(left, centre.y() + kHeadlineTop, 2 * kCoreRadius, kHeadlineHeight);
