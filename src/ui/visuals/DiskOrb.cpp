@@ -206,8 +206,10 @@ void DiskOrb::paintHalo(QPainter* painter, const orb::Layout& layout) const {
     painter->drawEllipse(layout.core.adjusted(-growth, -growth, growth, growth));
   };
   painter->setPen(Qt::NoPen);
-  for (int reach = kHaloReach; reach > 0; reach -= kHaloStep)
-    fillGrownBy(double(reach), int((1 - reach / kHaloEnd) * kHaloPeak.at(m_hovered) + 1));
+  for (int reach = kHaloReach; reach > 0; reach -= kHaloStep) {
+    const int alpha = int((1 - reach / kHaloEnd) * kHaloPeak.at(m_hovered) + 1);
+    fillGrownBy(reach, alpha);
+  }
   fillGrownBy(kNearGlow, kNearGlowAlpha.at(m_hovered));
 }
 
