@@ -14,7 +14,9 @@
 
 class Cleaner;
 struct CleanerWorld;
+class LargeFileFinder;
 class Scanner;
+class SystemDataScanner;
 
 /// What a run takes from its caller instead of from the stored settings. The defaults are what the window uses.
 struct RunOptions {
@@ -66,6 +68,15 @@ class AppState : public QObject {
   qint64 cleanFilesTotal = 0;                 ///< of all selected items
   CleanReport report;                         ///< of the last clean
   qint64 freeBeforeClean = 0;                 ///< bytes available when the last clean began
+  LargeFileFinder* largeFinder = nullptr;     ///< a child
+  QList<LargeFile> largeFiles;                ///< of the last complete search, less what was moved away; largest first
+  bool largeScanned = false;                  ///< a search was completed at least once
+  qint64 largeProgressCount = 0;              ///< files seen so far in the running search
+  QList<TrashUndoEntry> trashUndo;            ///< what the last trashLargeFiles() moved
+  SystemDataScanner* systemDataScanner = nullptr; ///< a child
+  QList<SystemDataItem> systemData;               ///< of the last complete measuring
+  bool systemDataReady = false;                   ///< a measuring was completed at least once
+  bool systemDataBusy = false;                    ///< an action on System Data runs in the background
 
   /// Emits phaseChanged() if it is another one.
   void setPhase(Phase newPhase);
@@ -121,6 +132,28 @@ class AppState : public QObject {
   [[nodiscard]] bool selectionNeedsAdmin() const;
   [[nodiscard]] bool selectionNeedsFullDiskAccess() const;
 
+  // Large files.
+
+  /// Searches the home folder for files above the stored size; nothing happens while a search runs. A cancelled search
+  /// leaves the last list.
+  void startLargeScan();
+  /// Moves files of the list to the Trash, and remembers that for undoLastTrash(); what was remembered before is
+  /// forgotten. A file stays in the list, and counts as skipped in the message, where it is open, excluded, protected,
+  /// another file than was listed, or can't be moved. Blocks for as long as the moves take.
+  void trashLargeFiles(const QList<QString>& paths);
+  /// Moves back what the last trashLargeFiles() moved, never over what stands there now, forgets it, and searches anew
+  /// if anything came back.
+  void undoLastTrash();
+
+  // System Data.
+
+  /// Measures; nothing happens while a measuring runs. A cancelled one leaves the last figures.
+  void startSystemDataScan();
+  /// Carries out the action of one row without asking: the caller has asked the user. Ignored while one runs, and for
+  /// an unknown id. What takes time runs in the background and is followed by a new measuring; what there is to say
+  /// comes as toast().
+  void runSystemDataAction(const QString& id);
+
  signals:
   void phaseChanged();
   /// scanDefs, scanCategory, scanBytes, scanFiles or scanPath changed.
@@ -131,6 +164,17 @@ class AppState : public QObject {
   /// In selected bytes; cleanCategory and the files are brought up to date before.
   void cleanProgress(qint64 done, qint64 total, QString path);
   void volumeChanged();
+  /// largeFiles changed, or a search began or ended.
+  void largeFilesChanged();
+  /// The running search: files seen, the folder at work, how many large ones were found with how many bytes, and the
+  /// largest of them, largest first.
+  void largeProgress(qint64 filesSeen, QString dir, int found, qint64 bytesFound, QList<LargeFile> top);
+  /// systemData or systemDataBusy changed, or a measuring began or ended.
+  void systemDataChanged();
+  /// The running measuring: at work on row @p index of @p total, at @p path, with @p bytes counted so far for that row.
+  void systemDataProgress(int index, int total, QString path, qint64 bytes);
+  /// Row @p index has its figure.
+  void systemDataMeasured(int index, qint64 bytes, bool denied);
   /// A short message for the user; @p undoable offers to undo.
   void toast(QString text, bool undoable);
 

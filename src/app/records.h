@@ -84,10 +84,51 @@ struct LargeFile {
   QDateTime lastUsed; ///< later of access and modification
 };
 
+/// One move to the Trash that can be taken back.
+struct TrashUndoEntry {
+  QString originalPath;
+  QString trashedPath; ///< where it lies now; may be empty: then it can't be brought back
+  QString infoPath;    ///< its info file; empty on systems without such
+};
+
+/// One row of the System Data breakdown.
+struct SystemDataItem {
+  enum Action : qint32 {
+    None = 0,
+    RevealInFinder = 1,    ///< show it in the file manager
+    MoveToTrash = 2,       ///< move the contents of its folders to the Trash
+    RemoveSnapshots = 3,   ///< have the system remove its local snapshots
+    DeleteUnavailable = 4, ///< have the developer tools delete simulators without a runtime
+    CleanInCleanup = 5,    ///< the Cleanup page does it
+    OpenXcode = 6,
+  };
+
+  QString id; ///< stable key, never translated
+  QString title;
+  QString blurb; ///< what it is, and who trims it
+  QString icon;
+  QColor color;
+  bool actionable = false; ///< the user can reclaim it
+  Action action = None;
+  QList<QString> paths;    ///< places to measure
+  QList<QString> excludes; ///< exact folders below them that aren't entered
+  qint64 bytes = 0;        ///< allocated; 0 until measured
+  qint64 files = 0;
+  bool denied = false; ///< a place that exists couldn't be read
+  qint32 count = -1;   ///< number of objects that the size doesn't tell; -1: doesn't apply
+  QString detail;      ///< short text under the title
+
+  /// The text of its button; empty for None and for what isn't an action.
+  [[nodiscard]] QString actionLabel() const;
+  /// Whether the user must be asked first.
+  [[nodiscard]] bool destructive() const;
+};
+
 Q_DECLARE_METATYPE(CategoryResult)
 Q_DECLARE_METATYPE(CategoryDef)
 Q_DECLARE_METATYPE(CleanReport)
 Q_DECLARE_METATYPE(LargeFile)
+Q_DECLARE_METATYPE(SystemDataItem)
 
 namespace records {
 /// Registers the types that cross threads in signals. Before any engine exists.
