@@ -8,6 +8,7 @@
 #include <QGraphicsDropShadowEffect>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionButton>
 
 using namespace Qt::StringLiterals;
 
@@ -197,6 +198,12 @@ void Button::paintEvent(QPaintEvent* event) {
   const ButtonLayout layout = buttonLayout(QWidget::size(), textWidth, !m_iconName.isEmpty(), isLarge());
   paintBody(&painter, layout);
   paintContent(&painter, layout);
+}
+
+// The ring that shows the keyboard's focus is drawn around the button; the style's own frame would show any focus.
+void Button::initStyleOption(QStyleOptionButton* option) const {
+  QPushButton::initStyleOption(option);
+  option->state &= ~QStyle::State_HasFocus;
 }
 
 void Button::paintBody(QPainter* painter, const ButtonLayout& layout) const {

@@ -42,6 +42,7 @@ class Button : public QPushButton {
  protected:
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void initStyleOption(QStyleOptionButton* option) const override;
 
  private:
   [[nodiscard]] QString sizeName() const { return m_sizeName; }

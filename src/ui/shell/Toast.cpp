@@ -39,6 +39,7 @@ Toast::Toast(QWidget* parent)
       m_text(label({})),
       m_button(new QPushButton(words::Overlay::tr("Undo"))),
       m_timer(new QTimer(this)) {
+  m_text->setTextFormat(Qt::PlainText); // names of files stand in it
   m_timer->setSingleShot(true);
   connect(m_timer, &QTimer::timeout, this, &QWidget::hide);
   QHBoxLayout* row = hbox(kGap, kMargins);
@@ -67,7 +68,6 @@ void Toast::show(const QString& text, bool undoable) {
   m_button->setVisible(undoable);
   dress();
   setAccessibleName(text);
-  adjustSize();
   place();
   QWidget::show();
   raise();
@@ -76,7 +76,20 @@ void Toast::show(const QString& text, bool undoable) {
   QAccessible::updateAccessibility(&heard);
 }
 
+// As wide as the message, which wraps only where the area has no room for that.
+void Toast::fit() {
+  m_text->setWordWrap(false);
+  layout()->activate();
+  adjustSize();
+  const int room = parentWidget()->width() - 2 * kAboveEdge;
+  if (width() <= room) return;
+  m_text->setWordWrap(true);
+  layout()->activate();
+  resize(room, layout()->totalHeightForWidth(room));
+}
+
 void Toast::place() {
+  fit();
   const QSize area = parentWidget()->size();
   move((area.width() - width()) / 2, area.height() - height() - kAboveEdge);
 }

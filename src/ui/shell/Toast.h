@@ -23,7 +23,7 @@ class Toast : public QWidget {
 
   /// Shows @p text for kShownFor, counted from now also while the window is hidden. @p undoable shows "Undo".
   void show(const QString& text, bool undoable);
-  /// Centres the toast above the lower edge of its parent.
+  /// Centres the toast above the lower edge of its parent, no wider than that has room.
   void place();
 
  signals:
@@ -36,6 +36,7 @@ class Toast : public QWidget {
 
  private:
   void dress();
+  void fit();
 
   QLabel* m_text;
   QPushButton* m_button;

@@ -73,6 +73,7 @@ class TestButton : public QObject {
   void hoverRepaints_data();
   void hoverRepaints();
   void sheetShowsHover();
+  void focusPaintsNothingInside();
   void laidOutHeights_data();
   void laidOutHeights();
   void largeIsFoundByTheSheet();
@@ -343,6 +344,28 @@ void TestButton::sheetShowsHover() {
   QTest::mouseMove(button, {50, 15});
   QTRY_VERIFY(button->underMouse());
   QVERIFY(isNear(bodyColour(*button), Theme::get().hover));
+}
+
+void TestButton::focusPaintsNothingInside() {
+  QWidget window;
+  auto* row = new QHBoxLayout(&window);
+  auto* other = new QPushButton;
+  row->addWidget(other);
+  QList<Button*> all;
+  for (const char* kind : {static_cast<const char*>(nullptr), "ghost", "link", "primary"}) {
+    all << new Button(u"Go"_s, kind);
+    row->addWidget(all.last());
+  }
+  window.show();
+  window.activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(&window));
+  for (Button* button : all) {
+    other->setFocus();
+    const QImage before = button->grab().toImage();
+    button->setFocus(Qt::OtherFocusReason);
+    QVERIFY(button->hasFocus());
+    QCOMPARE(button->grab().toImage(), before);
+  }
 }
 
 void TestButton::laidOutHeights_data() {

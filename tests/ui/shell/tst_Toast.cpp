@@ -34,6 +34,8 @@ class TestToast : public QObject {
   void newerReplacesAndLasts();
   void undoGoesAndTells();
   void notUndoableIsNarrower();
+  void longMessageWraps();
+  void textIsPlain();
   void countsWhileTheWindowIsHidden();
   void invertsTheLook_data();
   void invertsTheLook();
@@ -118,6 +120,27 @@ void TestToast::notUndoableIsNarrower() {
   QVERIFY(button()->isHidden());
   QVERIFY2(m_toast->width() <= wide - button()->width(), qPrintable(QString::number(m_toast->width())));
   QCOMPARE(m_toast->pos(), wanted());
+}
+
+void TestToast::longMessageWraps() {
+  m_toast->show(u"Moved"_s, true);
+  const int oneLine = m_toast->height();
+  m_toast->show(u"Simulator cleanup failed: "_s + u"no such device set "_s.repeated(12), true);
+  QCOMPARE(m_toast->width(), m_area->width() - 2 * kAboveEdge);
+  QVERIFY(m_toast->height() > oneLine);
+  QCOMPARE(m_toast->pos(), wanted());
+  const auto* text = m_toast->findChild<QLabel*>();
+  QVERIFY(text->height() >= text->heightForWidth(text->width()));
+  m_area->resize(2 * m_area->width(), m_area->height());
+  QVERIFY(m_toast->height() < m_area->height());
+  QCOMPARE(m_toast->pos(), wanted());
+  m_toast->show(u"Moved"_s, true);
+  QCOMPARE(m_toast->height(), oneLine);
+}
+
+void TestToast::textIsPlain() {
+  m_toast->show(u"Couldn't open <b>x</b>"_s, false);
+  QCOMPARE(m_toast->findChild<QLabel*>()->textFormat(), Qt::PlainText);
 }
 
 void TestToast::countsWhileTheWindowIsHidden() {
