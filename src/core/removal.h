@@ -6,6 +6,7 @@
 #pragma once
 
 #include "core/fs.h"
+#include "core/trash.h"
 
 #include <QByteArray>
 #include <QString>
@@ -41,7 +42,15 @@ enum class Verdict {
 };
 
 /// Why something stays for good.
-enum class Kept { Excluded, ProtectedData, ProtectedLocation, Open, AnotherVolume, NoTrash };
+enum class Kept {
+  Excluded,
+  ProtectedData,
+  ProtectedLocation,
+  Open,
+  AnotherVolume,
+  NoTrash,
+  NotWhole, ///< a folder that was to leave whole or not at all, and in which something must stay
+};
 
 /// A node that the system refused to let go, kept for another attempt.
 struct Stay {
@@ -61,11 +70,15 @@ struct Handlers {
   /// The system refused; the node stays for now. Told of a folder that can't be entered or read to its end, or that
   /// stays although nothing told to stay lies in it; a folder that stays for what it holds is no word.
   std::function<void(const Stay&)> busy = {};
+  /// The node went to the Trash, a folder with all in it; tells where it lies now. May be empty.
+  std::function<void(const Node&, const trash::Outcome&)> moved = {};
 };
 
 struct Options {
   bool toTrash = false; ///< move to the Trash rather than delete; a failed move never becomes a delete
   bool dryRun = false;  ///< ask and tell everything, touch nothing
+  /// Where things move to the Trash: a folder goes in one piece or stays as it is; it is never opened and emptied.
+  bool wholeOnly = false;
 };
 
 /// Removes any number of targets. One thread at a time.

@@ -44,6 +44,7 @@ Act moveToTrash(Run& run, int dirFd, const Node& node) {
   const trash::Outcome outcome = run.session.move(dirFd, name, node.realRaw);
   switch (outcome.result) {
   case trash::Result::Moved:
+    if (run.handlers.moved) run.handlers.moved(node, outcome);
     return {};
   case trash::Result::NoTrash:
     return {.noTrash = true};
@@ -85,6 +86,10 @@ bool RemovalWalk::folder() {
   m_entersClean = m_run.options.toTrash && isClean() && verdict == Verdict::Remove;
   m_entersStaying = verdict == Verdict::KeepFolder;
   if (!m_run.options.dryRun) pauseBefore(node());
+  if (m_run.options.wholeOnly && !m_entersClean) {
+    keep(Kept::NotWhole);
+    return false;
+  }
   return !m_entersClean || moveWhole() == Whole::Open;
 }
 
@@ -128,14 +133,14 @@ bool RemovalWalk::surveyIsClean() {
 }
 
 RemovalWalk::Whole RemovalWalk::moveWhole() {
-  if (m_run.options.dryRun) return predictedRefusal() == 0 ? Whole::Settled : Whole::Open;
-  const Act act = moveToTrash(m_run, fd(), node());
+  const Act act = m_run.options.dryRun ? Act{.error = predictedRefusal()} : moveToTrash(m_run, fd(), node());
   if (act.noTrash) {
     keep(Kept::NoTrash);
   } else if (act.error == 0) {
-    settle(0);
+    if (!m_run.options.dryRun) settle(0);
   } else if (act.error != ENOENT) {
-    return Whole::Open;
+    if (!m_run.options.wholeOnly) return Whole::Open;
+    busy(act.error);
   }
   return Whole::Settled;
 }

@@ -70,6 +70,7 @@ SkipReason reasonFor(removal::Kept kept) {
     return SkipReason::NoTrash;
   case removal::Kept::Excluded:
   case removal::Kept::Open:
+  case removal::Kept::NotWhole: // not asked for
     break;
   }
   return SkipReason::Open;

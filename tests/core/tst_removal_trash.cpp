@@ -46,6 +46,8 @@ class TestRemovalTrash : public QObject {
   void surveysDeepAndNamelessTrees();
   void leavesAFolderThatBecameALink();
   void dryRunTellsTheSame();
+  void tellsWhatMoved();
+  void leavesAFolderInOnePieceOrAsItIs();
 
  private:
   [[nodiscard]] QString trash(const QString& name = {}) const {
@@ -332,6 +334,45 @@ void TestRemovalTrash::dryRunTellsTheSame() {
   seen.clear();
   Remover({.toTrash = true}, seen.handlers()).remove(at(m_home.path(u"in/tree"_s)));
   QCOMPARE(seen.keptPaths(), told);
+}
+
+void TestRemovalTrash::tellsWhatMoved() {
+  const QString kept = m_home.file(u"in/tree/a/kept"_s);
+  const QString goes = m_home.file(u"in/tree/a/goes"_s);
+  m_home.file(u"in/tree/whole/file"_s);
+  RemovalRecorder seen;
+  seen.verdicts.insert(kept, Verdict::KeepOpen);
+  QMap<QString, QString> moved;
+  removal::Handlers handlers = seen.handlers();
+  handlers.moved = [&](const removal::Node& node, const ::trash::Outcome& where) {
+    moved.insert(node.path, where.trashedPath);
+    QVERIFY(isThere(where.trashedPath) && isThere(where.infoPath));
+  };
+  Remover({.toTrash = true}, handlers).remove(at(m_home.path(u"in/tree"_s)));
+  const QMap<QString, QString> expected{{goes, trash(u"goes"_s)}, {m_home.path(u"in/tree/whole"_s), trash(u"whole"_s)}};
+  QCOMPARE(moved, expected);
+}
+
+void TestRemovalTrash::leavesAFolderInOnePieceOrAsItIs() {
+  const QString tree = m_home.path(u"in/tree"_s);
+  const QString deep = m_home.file(u"in/tree/a/b/file"_s);
+  m_home.file(u"in/tree/c/file"_s);
+  RemovalRecorder seen;
+  Remover remover({.toTrash = true, .wholeOnly = true}, seen.handlers());
+  const QList<std::pair<QString, Verdict>> reasons{
+      {deep, Verdict::KeepOpen}, {m_home.path(u"in/tree/a"_s), Verdict::NotWhole}, {tree, Verdict::NotWhole}};
+  for (const auto& [path, verdict] : reasons) {
+    seen.clear();
+    seen.verdicts = {{path, verdict}};
+    remover.remove(at(tree));
+    QCOMPARE(seen.kept.size(), 1);
+    QVERIFY(seen.kept.first().first == tree && seen.kept.first().second == Kept::NotWhole);
+    QVERIFY(isThere(deep) && isThere(m_home.path(u"in/tree/c/file"_s)) && namesIn(trash()).isEmpty());
+  }
+  seen.verdicts = {};
+  remover.remove(at(tree));
+  QCOMPARE(namesIn(trash()), QStringList{u"tree"_s});
+  QVERIFY(isThere(trash(u"tree/a/b/file"_s)) && isThere(trash(u"tree/c/file"_s)));
 }
 
 QTEST_GUILESS_MAIN(TestRemovalTrash)
