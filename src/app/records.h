@@ -84,6 +84,14 @@ struct LargeFile {
   QDateTime lastUsed; ///< later of access and modification
 };
 
+/// Tells one file from another, whatever they are called, for as long as both are there.
+struct FileId {
+  qint64 device = 0;
+  quint64 inode = 0;
+
+  bool operator==(const FileId&) const = default;
+};
+
 /// One move to the Trash that can be taken back.
 struct TrashUndoEntry {
   QString originalPath;
