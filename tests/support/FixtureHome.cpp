@@ -1,5 +1,6 @@
 #include "support/FixtureHome.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -17,6 +18,19 @@ namespace {
 void makeFolder(const QString& path) {
   if (!QDir().mkpath(path)) qFatal("cannot make %s", qPrintable(path));
 }
+
+// By its bytes, since names that are no text would stay otherwise, and from folder to folder, however deep: a folder is
+// told of, at last, from within.
+void removeTree(const QByteArray& root) {
+  ::nftw(
+      root.constData(),
+      [](const char* path, const struct stat*, int what, FTW* at) {
+        const char* name = path + at->base;
+        what == FTW_DP ? ::rmdir((QByteArray("../") + name).constData()) : std::remove(name);
+        return 0;
+      },
+      16, FTW_DEPTH | FTW_PHYS | FTW_CHDIR);
+}
 } // namespace
 
 FixtureHome::FixtureHome() : m_dir(QStringLiteral("/var/tmp/tarnwick-test-XXXXXX")), m_oldHome(qgetenv("HOME")) {
@@ -31,12 +45,10 @@ FixtureHome::FixtureHome() : m_dir(QStringLiteral("/var/tmp/tarnwick-test-XXXXXX
 }
 
 FixtureHome::~FixtureHome() {
+  // What the program's settings still hold back would make their file anew.
+  if (!QCoreApplication::organizationName().isEmpty()) QSettings().sync();
   qputenv("HOME", m_oldHome);
-  // By their bytes, since names that are no text would stay otherwise, and from folder to folder, however deep.
-  ::nftw(
-      QFile::encodeName(m_dir.path()).constData(),
-      [](const char* path, const struct stat*, int, FTW* at) { return std::remove(path + at->base), 0; }, 16,
-      FTW_DEPTH | FTW_PHYS | FTW_CHDIR);
+  removeTree(QFile::encodeName(m_dir.path()));
 }
 
 QString FixtureHome::outside(const QString& relative) const {
