@@ -14,8 +14,6 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace ui {
@@ -23,33 +21,16 @@ namespace ui {
 namespace {
 
 // Lengths in pixels.
-constexpr int kBodySpacing = 18;
-constexpr int kBodyBottom = 28;
 constexpr QMargins kStepsMargins(8, 8, 8, 8);
 constexpr int kStepSpacing = 2;
 constexpr int kPathWidth = 280;
-// Shares of the room.
-constexpr int kRadarStretch = 2;
-constexpr int kStepsStretch = 3;
 
-constexpr double kHalfDone = 0.5;
-constexpr double kEstimateFrom = 0.15;
-constexpr qint64 kMsInSecond = 1000;
+constexpr ScanShares kShares{.radar = 2, .results = 3};
 
 QString dash() { return u"—"_s; }
 QString stepName(qsizetype index) { return u"step%1"_s.arg(index); }
 
 } // namespace
-
-double scanFraction(int current, qsizetype count) {
-  if (count < 1) return 0;
-  return std::clamp((std::max(current, 0) + kHalfDone) / double(count), 0.0, 1.0);
-}
-
-QString scanRemaining(double fraction, qint64 elapsedSeconds) {
-  if (fraction <= kEstimateFrom) return dash();
-  return u'~' + fmt::clock(qint64((1 - fraction) * (double(elapsedSeconds) / fraction)));
-}
 
 CleanupScanView::CleanupScanView(AppState* state, QWidget* parent)
     : QWidget(parent),
@@ -76,13 +57,10 @@ CleanupScanView::CleanupScanView(AppState* state, QWidget* parent)
   column->addLayout(m_stepsLayout);
   column->addStretch();
 
-  QHBoxLayout* body = hbox(kBodySpacing, {pageSide(), 0, pageSide(), kBodyBottom});
-  body->addWidget(m_radarCard, kRadarStretch);
-  body->addWidget(steps, kStepsStretch);
   QVBoxLayout* root = vbox();
   setLayout(root);
   root->addWidget(header);
-  root->addLayout(body, 1);
+  root->addLayout(scanBody(m_radarCard, steps, kShares), 1);
 }
 
 void CleanupScanView::rebuildSteps() {
@@ -125,8 +103,7 @@ void CleanupScanView::refresh() {
   radar->setRunning(m_state->phase == AppState::Scanning);
   radar->setText(fmt::bytes(m_state->scanBytes), CleanupWords::tr("found"));
   m_radarCard->path()->setPath(m_state->scanPath, kPathWidth);
-  const QElapsedTimer& timer = m_state->scanTimer;
-  const qint64 seconds = timer.isValid() ? timer.elapsed() / kMsInSecond : 0;
+  const qint64 seconds = elapsedSeconds(m_state->scanTimer);
   m_itemsValue->setText(fmt::count(m_state->scanFiles));
   m_elapsedValue->setText(fmt::clock(seconds));
   m_remainingValue->setText(scanRemaining(scanFraction(current, count), seconds));

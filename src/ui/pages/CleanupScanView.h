@@ -12,13 +12,6 @@ namespace ui {
 
 class RadarCard;
 
-/// How far a scan is, from 0 to 1: it moves by whole categories, and the one in progress counts as half done.
-/// @param current  index of the category in progress; -1 before the first
-/// @param count    of categories; 0 gives 0
-[[nodiscard]] double scanFraction(int current, qsizetype count);
-/// The estimate of the time that is left, "~1:05", or "—" where it is too early for one.
-[[nodiscard]] QString scanRemaining(double fraction, qint64 elapsedSeconds);
-
 /// Shows nothing by itself: what it shows comes with refresh().
 class CleanupScanView : public QWidget {
   Q_OBJECT

@@ -1,5 +1,6 @@
 #include "ui/pages/furniture.h"
 
+#include "core/fmt.h"
 #include "ui/Theme.h"
 #include "ui/controls/Button.h"
 #include "ui/controls/IconTile.h"
@@ -8,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -25,6 +27,7 @@ constexpr int kSideMac = 28;
 constexpr int kSideWin = 32;
 constexpr QMargins kCentredMargins(32, 24, 32, 24);
 constexpr int kBelowBlock = 2; // stretch
+constexpr QMargins kStartMargins(32, 60, 32, 32);
 constexpr int kStartSpacing = 8;
 constexpr int kStartTile = 56;
 constexpr int kBelowTile = 8;
@@ -36,6 +39,16 @@ constexpr int kCardSpacing = 18;
 constexpr QMargins kCardMargins(26, 26, 26, 26);
 constexpr int kPathMin = 10;
 constexpr int kCheckSquare = 16;
+constexpr int kBodySpacing = 18;
+constexpr int kBodyBottom = 28;
+constexpr QMargins kListMargins(8, 8, 8, 8);
+constexpr QMargins kListHeadMargins(12, 14, 12, 8);
+
+constexpr double kHalfDone = 0.5;
+constexpr double kEstimateFrom = 0.15;
+constexpr qint64 kMsInSecond = 1000;
+
+QString dash() { return u"—"_s; }
 
 QString fontSize(int pixels) { return u"font-size: %1px;"_s.arg(pixels); }
 
@@ -85,6 +98,15 @@ StartBlock startBlock(const StartWords& words) {
   block.layout->addSpacing(kAboveButton);
   block.layout->addWidget(block.start, 0, Qt::AlignHCenter);
   return block;
+}
+
+StartView startView(const StartWords& words) {
+  const StartBlock block = startBlock(words);
+  block.layout->setContentsMargins(kStartMargins);
+  block.layout->addStretch();
+  auto* view = new QWidget;
+  view->setLayout(block.layout);
+  return {.view = view, .start = block.start};
 }
 
 StatPair statPair(const QString& caption, const StatSizes& sizes) {
@@ -142,9 +164,38 @@ RadarCard::RadarCard(const QString& name, QWidget* parent)
 
 QLabel* RadarCard::addCounter(const QString& caption) {
   const StatPair pair = statPair(caption);
-  pair.value->setText(u"—"_s);
+  pair.value->setText(dash());
   m_counters->addLayout(pair.layout, 1);
   return pair.value;
+}
+
+QHBoxLayout* scanBody(RadarCard* radar, QWidget* results, const ScanShares& shares) {
+  QHBoxLayout* body = hbox(kBodySpacing, {pageSide(), 0, pageSide(), kBodyBottom});
+  body->addWidget(radar, shares.radar);
+  body->addWidget(results, shares.results);
+  return body;
+}
+
+Card* listCard(const QString& heading, QVBoxLayout** column) {
+  QHBoxLayout* head = hbox(0, kListHeadMargins);
+  head->addWidget(eyebrow(heading));
+  *column = vbox(0, kListMargins);
+  (*column)->addLayout(head);
+  auto* card = new Card;
+  card->setLayout(*column);
+  return card;
+}
+
+double scanFraction(int current, qsizetype count) {
+  if (count < 1) return 0;
+  return std::clamp((std::max(current, 0) + kHalfDone) / double(count), 0.0, 1.0);
+}
+
+qint64 elapsedSeconds(const QElapsedTimer& clock) { return clock.isValid() ? clock.elapsed() / kMsInSecond : 0; }
+
+QString scanRemaining(double fraction, qint64 elapsedSeconds) {
+  if (fraction <= kEstimateFrom) return dash();
+  return u'~' + fmt::clock(qint64((1 - fraction) * (double(elapsedSeconds) / fraction)));
 }
 
 } // namespace ui

@@ -1,5 +1,5 @@
-/// What several pages are furnished with: the centred block, the start view, the radar with its counters, a value over
-/// its caption. User-interface thread only.
+/// What several pages are furnished with: the centred block, the start view, the view of a running search with its
+/// radar, counters and estimate, a value over its caption. User-interface thread only.
 #pragma once
 
 #include "ui/controls/Card.h"
@@ -8,6 +8,7 @@
 #include <QString>
 
 class QCheckBox;
+class QElapsedTimer;
 class QHBoxLayout;
 class QLayout;
 class QVBoxLayout;
@@ -39,6 +40,12 @@ struct StartBlock {
   Button* start = nullptr;
 };
 [[nodiscard]] StartBlock startBlock(const StartWords& words);
+/// That block as the whole view below a page's header: near the top, with the rest left free.
+struct StartView {
+  QWidget* view = nullptr; ///< no parent yet
+  Button* start = nullptr;
+};
+[[nodiscard]] StartView startView(const StartWords& words);
 
 /// A value over its caption, both centred.
 struct StatPair {
@@ -85,5 +92,24 @@ class RadarCard : public Card {
   PathLabel* m_path;
   QHBoxLayout* m_counters;
 };
+
+/// The room of a running search below the page's header: the radar at the left, what comes of it at the right.
+struct ScanShares {
+  int radar = 0; ///< stretch; 0: as wide as it wants to be
+  int results = 1;
+};
+[[nodiscard]] QHBoxLayout* scanBody(RadarCard* radar, QWidget* results, const ScanShares& shares = {});
+
+/// A card for what comes of it, with a heading. @param column  receives the layout to go on with below the heading
+[[nodiscard]] Card* listCard(const QString& heading, QVBoxLayout** column);
+
+/// How far a search is, from 0 to 1: it moves by whole steps, and the one in progress counts as half done.
+/// @param current  index of the step in progress; -1 before the first
+/// @param count    of steps; 0 gives 0
+[[nodiscard]] double scanFraction(int current, qsizetype count);
+/// Whole seconds since @p clock was started; 0 for one that wasn't.
+[[nodiscard]] qint64 elapsedSeconds(const QElapsedTimer& clock);
+/// The estimate of the time that is left, "~1:05", or "—" where it is too early for one.
+[[nodiscard]] QString scanRemaining(double fraction, qint64 elapsedSeconds);
 
 } // namespace ui
