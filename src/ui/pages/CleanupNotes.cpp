@@ -44,7 +44,7 @@ Note* accessNoteOnMac(const CategoryResult& result) {
 }
 
 Note* accessNoteOnLinux(const CategoryResult& result) {
-  if (result.accessDenied) return lockNote(CleanupWords::tr("You have no permission to read some of these folders."));
+  if (result.accessDenied) return deniedNote();
   return result.def.needsAdmin && !platform::isElevated() ? lockNote(leftAlone()) : nullptr;
 }
 
@@ -83,6 +83,11 @@ Note* administratorNote() {
                                 "and clean again to remove them."));
   addRestart(note);
   return note;
+}
+
+Note* deniedNote() {
+  return isMac() ? diskAccessNote(true)
+                 : lockNote(CleanupWords::tr("You have no permission to read some of these folders."));
 }
 
 Note* accessNote(const CategoryResult& result) { return isMac() ? accessNoteOnMac(result) : accessNoteOnLinux(result); }

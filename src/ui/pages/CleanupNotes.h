@@ -17,6 +17,8 @@ void addNote(QVBoxLayout* column, Note* note);
 
 /// After a clean: some files need administrator rights. On Linux without a button, as there are none to be had.
 [[nodiscard]] Note* administratorNote();
+/// Some folders could not be read; on macOS with the way to the settings that allow it.
+[[nodiscard]] Note* deniedNote();
 /// In the detail of a category: what of it could not be read, or will not be cleaned; null if there is nothing to say.
 [[nodiscard]] Note* accessNote(const CategoryResult& result);
 /// In the detail of a category: the apps that must be quit first; null if none runs.

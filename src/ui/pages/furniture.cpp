@@ -4,6 +4,7 @@
 #include "ui/Theme.h"
 #include "ui/controls/Button.h"
 #include "ui/controls/IconTile.h"
+#include "ui/controls/KeyboardFocus.h"
 #include "ui/controls/factory.h"
 #include "ui/visuals/Radar.h"
 
@@ -43,6 +44,8 @@ constexpr int kBodySpacing = 18;
 constexpr int kBodyBottom = 28;
 constexpr QMargins kListMargins(8, 8, 8, 8);
 constexpr QMargins kListHeadMargins(12, 14, 12, 8);
+constexpr double kRingInset = 5;
+constexpr double kRingRadius = 10;
 
 constexpr double kHalfDone = 0.5;
 constexpr double kEstimateFrom = 0.15;
@@ -176,14 +179,23 @@ QHBoxLayout* scanBody(RadarCard* radar, QWidget* results, const ScanShares& shar
   return body;
 }
 
-Card* listCard(const QString& heading, QVBoxLayout** column) {
+ListCard::ListCard(const QString& heading, QWidget* parent) : Card(parent), m_column(vbox(0, kListMargins)) {
   QHBoxLayout* head = hbox(0, kListHeadMargins);
   head->addWidget(eyebrow(heading));
-  *column = vbox(0, kListMargins);
-  (*column)->addLayout(head);
-  auto* card = new Card;
-  card->setLayout(*column);
-  return card;
+  m_column->addLayout(head);
+  setLayout(m_column);
+}
+
+void ListCard::ringFor(QWidget* inside) {
+  m_inside = new KeyboardFocus(inside, [this] { update(); });
+}
+
+void ListCard::paintEvent(QPaintEvent* event) {
+  Card::paintEvent(event);
+  if (!m_inside) return;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  m_inside->paintRing(&painter, QRectF(rect()).adjusted(kRingInset, kRingInset, -kRingInset, -kRingInset), kRingRadius);
 }
 
 double scanFraction(int current, qsizetype count) {

@@ -16,6 +16,7 @@ class QVBoxLayout;
 namespace ui {
 
 class Button;
+class KeyboardFocus;
 class Radar;
 
 /// What a page leaves free at its left and right, in pixels.
@@ -100,8 +101,24 @@ struct ScanShares {
 };
 [[nodiscard]] QHBoxLayout* scanBody(RadarCard* radar, QWidget* results, const ScanShares& shares = {});
 
-/// A card for what comes of it, with a heading. @param column  receives the layout to go on with below the heading
-[[nodiscard]] Card* listCard(const QString& heading, QVBoxLayout** column);
+/// A card for what comes of it: a heading, and what its column is given below.
+class ListCard : public Card {
+  Q_OBJECT
+
+ public:
+  explicit ListCard(const QString& heading, QWidget* parent = nullptr);
+
+  [[nodiscard]] QVBoxLayout* column() const { return m_column; }
+  /// Shows around the whole card that @p inside, which fills it, has the focus from the keyboard. Once.
+  void ringFor(QWidget* inside);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QVBoxLayout* m_column;
+  KeyboardFocus* m_inside = nullptr;
+};
 
 /// How far a search is, from 0 to 1: it moves by whole steps, and the one in progress counts as half done.
 /// @param current  index of the step in progress; -1 before the first
