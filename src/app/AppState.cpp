@@ -3,19 +3,24 @@
 #include "app/AppSettings.h"
 #include "engines/Cleaner.h"
 #include "engines/Scanner.h"
+#include "engines/SystemDataScanner.h"
 
 #include <algorithm>
 #include <numeric>
 
 AppState::AppState(QObject* parent) : AppState(parent, CleanerWorld()) {}
 
-AppState::AppState(QObject* parent, const CleanerWorld& world)
+AppState::AppState(QObject* parent, const CleanerWorld& world) : AppState(parent, world, SystemDataWorld()) {}
+
+AppState::AppState(QObject* parent, const CleanerWorld& world, const SystemDataWorld& systemDataWorld)
     : QObject(parent),
       volume(platform::systemVolume()),
       scanner(new Scanner(this)),
       lastScan(AppSettings::instance().lastScan()),
-      cleaner(new Cleaner(this, world)) {
+      cleaner(new Cleaner(this, world)),
+      systemDataScanner(new SystemDataScanner(this, systemDataWorld)) {
   connectScanner();
+  connectSystemData();
   connect(cleaner, &Cleaner::filesProgress, this, [this](const QString& category, qint64 done, qint64 total) {
     cleanCategory = category;
     cleanFiles = done;

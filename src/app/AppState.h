@@ -17,6 +17,7 @@ struct CleanerWorld;
 class LargeFileFinder;
 class Scanner;
 class SystemDataScanner;
+struct SystemDataWorld;
 
 /// What a run takes from its caller instead of from the stored settings. The defaults are what the window uses.
 struct RunOptions {
@@ -44,6 +45,7 @@ class AppState : public QObject {
   explicit AppState(QObject* parent = nullptr);
   /// The same over another outside world, for tests.
   AppState(QObject* parent, const CleanerWorld& world);
+  AppState(QObject* parent, const CleanerWorld& world, const SystemDataWorld& systemDataWorld);
   /// Raises the flags of what runs and waits for it.
   ~AppState() override;
 
@@ -184,6 +186,9 @@ class AppState : public QObject {
   void onScanFinished(const QList<CategoryResult>& found, bool cancelled);
   void onCleanFinished(const CleanReport& cleaned);
   void refuse(const QString& why);
+  void connectSystemData();
+  void performInBackground(const SystemDataItem& item);
+  void onSystemDataPerformed(const QString& text);
 
   void clearSelection();
   template <typename Wanted>

@@ -6,6 +6,7 @@
 #include "cli/words.h"
 #include "core/fmt.h"
 #include "core/names.h"
+#include "engines/SystemDataScanner.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -27,6 +28,12 @@ Progress::Progress(const AppState& state) : m_state(state), m_possible(terminal:
     m_total = total;
     m_path = path;
   });
+  connect(&state, &AppState::systemDataProgress, this,
+          [this](int row, int /*rows*/, const QString& path, qint64 bytes) {
+            m_row = row;
+            m_path = path;
+            m_done = bytes;
+          });
 }
 
 Progress::~Progress() { hide(); }
@@ -34,6 +41,8 @@ Progress::~Progress() { hide(); }
 void Progress::show() {
   if (!m_possible) return;
   m_elapsed.start();
+  if (m_state.systemDataScanner->isRunning())
+    for (const SystemDataItem& item : systemdata::definitions()) m_rows << item.title;
   m_timer.start(kRedraw);
   draw();
 }
@@ -62,11 +71,16 @@ QString Progress::cleaning() const {
          Words::tr("%1 of %2 files").arg(fmt::count(m_state.cleanFiles), fmt::count(m_state.cleanFilesTotal));
 }
 
+QString Progress::measuring() const {
+  return m_rows.value(m_row) + kGap + fmt::bytes(m_done) + kGap +
+         Words::tr("%1 of %2").arg(fmt::count(m_row + 1), fmt::count(m_rows.size()));
+}
+
 void Progress::draw() const {
-  const bool cleans = m_state.phase == AppState::Cleaning;
-  const QString head =
-      (cleans ? cleaning() : scanning()) + kGap + fmt::clock(m_elapsed.elapsed() / kMsPerSecond) + kGap;
-  const QString path = names::escaped(fmt::shortPath(cleans ? m_path : m_state.scanPath));
+  const bool scans = m_state.phase == AppState::Scanning;
+  const QString what = scans ? scanning() : m_state.phase == AppState::Cleaning ? cleaning() : measuring();
+  const QString head = what + kGap + fmt::clock(m_elapsed.elapsed() / kMsPerSecond) + kGap;
+  const QString path = names::escaped(fmt::shortPath(scans ? m_state.scanPath : m_path));
   const int most = terminal::width(terminal::kErrors) - 1; // a full line would wrap
   const QString tail = terminal::elided(m_note.isEmpty() ? path : m_note, most - terminal::columns(head));
   Output(terminal::kErrors).write(kWipe + terminal::elided(head + tail, most));

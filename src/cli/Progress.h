@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QStringList>
 #include <QTimer>
 
 class AppState;
@@ -27,13 +28,16 @@ class Progress : public QObject {
   void draw() const;
   [[nodiscard]] QString scanning() const;
   [[nodiscard]] QString cleaning() const;
+  [[nodiscard]] QString measuring() const;
 
   const AppState& m_state;
   const bool m_possible;
   QString m_note;
-  qint64 m_done = 0; // bytes of a clean, as m_total
+  qint64 m_done = 0; // bytes of a clean, as m_total, or of a row of System Data
   qint64 m_total = 0;
   QString m_path;
+  QStringList m_rows; // titles of System Data, read once it is measured
+  int m_row = 0;      // of them, the one being measured
   QElapsedTimer m_elapsed;
   QTimer m_timer;
 };

@@ -3,6 +3,7 @@
 #include "cli/output.h"
 #include "cli/terminal.h"
 #include "cli/words.h"
+#include "engines/SystemDataScanner.h"
 
 #include <QEventLoop>
 #include <QSocketNotifier>
@@ -43,13 +44,28 @@ void Session::clean(const RunOptions& options) {
   waitWhile(AppState::Cleaning, Words::tr("finishing this item, then stopping…"), &AppState::stopClean);
 }
 
+QList<SystemDataItem> Session::measureSystemData() {
+  SystemDataScanner* scanner = m_state.systemDataScanner;
+  QList<SystemDataItem> rows;
+  connect(scanner, &SystemDataScanner::finished, this, [&](const QList<SystemDataItem>& all) { rows = all; });
+  m_state.startSystemDataScan();
+  waitFor(scanner, &SystemDataScanner::finished, Words::tr("cancelling…"), [=] { scanner->cancel(); });
+  disconnect(scanner, nullptr, this, nullptr);
+  return rows;
+}
+
 void Session::waitWhile(AppState::Phase phase, const QString& noteOfStopping, void (AppState::*stop)()) {
-  if (m_state.phase != phase) return;
+  if (m_state.phase == phase)
+    waitFor(&m_state, &AppState::phaseChanged, noteOfStopping, [this, stop] { (m_state.*stop)(); });
+}
+
+template <typename Sender, typename Signal>
+void Session::waitFor(Sender* sender, Signal ended, const QString& noteOfStopping, const std::function<void()>& stop) {
   QEventLoop loop;
-  connect(&m_state, &AppState::phaseChanged, &loop, &QEventLoop::quit);
+  connect(sender, ended, &loop, &QEventLoop::quit);
   connect(&m_interrupts, &Interrupts::interrupted, &loop, [&] {
     m_progress.setNote(noteOfStopping);
-    (m_state.*stop)();
+    stop();
   });
   m_progress.show();
   loop.exec();

@@ -1,10 +1,12 @@
-/// A scan and a clean as steps that one waits for, with progress and with Ctrl-C.
+/// What the verbs do as steps that one waits for, with progress and with Ctrl-C.
 #pragma once
 
 #include "app/AppState.h"
 #include "cli/Progress.h"
+#include "cli/commands.h"
 #include "core/Interrupts.h"
-#include "engines/Cleaner.h"
+
+#include <functional>
 
 namespace cli {
 
@@ -14,13 +16,16 @@ class Session : public QObject {
  public:
   enum class Answer { Yes, No };
 
-  explicit Session(const CleanerWorld& world = {}) : m_state(nullptr, world) {}
+  explicit Session(const World& world = {}) : m_state(nullptr, world.cleaner, world.systemData) {}
 
   /// Returns when the scan is over; Ctrl-C cancels it.
   /// @return how long it took, in ms
   qint64 scan(const RunOptions& options);
   /// Cleans what is selected, and returns when the report is there. Ctrl-C lets it finish its item.
   void clean(const RunOptions& options);
+  /// Returns when System Data is measured; Ctrl-C cancels it.
+  /// @return all rows; of a cancelled run with the figures so far
+  [[nodiscard]] QList<SystemDataItem> measureSystemData();
   /// Shows @p question on the terminal at @p fd and waits for a line of standard input. Only "y" and "yes" are a yes;
   /// Ctrl-C and the end of the input are a no.
   [[nodiscard]] Answer ask(const QString& question, int fd);
@@ -31,6 +36,9 @@ class Session : public QObject {
 
  private:
   void waitWhile(AppState::Phase phase, const QString& noteOfStopping, void (AppState::*stop)());
+  /// Runs until @p sender emits @p ended; @p stop is how the user's wish is passed on.
+  template <typename Sender, typename Signal>
+  void waitFor(Sender* sender, Signal ended, const QString& noteOfStopping, const std::function<void()>& stop);
 
   AppState m_state;
   Interrupts m_interrupts;

@@ -30,9 +30,11 @@ constexpr std::array kVerbs = {
             QT_TRANSLATE_NOOP("Cli", "Measures what could be cleaned, and changes nothing.")},
     VerbRow{Verb::Clean, "clean", "[--only ID[,ID]] [--exclude RULE] [--delete|--trash] [--dry-run] [--yes] [--json]",
             QT_TRANSLATE_NOOP("Cli", "Scans, shows what would go, asks, and cleans it.")},
+    VerbRow{Verb::System, "system", "[--json]",
+            QT_TRANSLATE_NOOP("Cli", "Measures what makes up the system's share of the disk, and changes nothing.")},
 };
 
-enum Takers { kScan = 1, kClean = 2, kBoth = kScan | kClean };
+enum Takers { kScan = 1, kClean = 2, kSystem = 4, kBoth = kScan | kClean, kAll = kBoth | kSystem };
 
 struct OptionRow {
   const char* name;
@@ -53,14 +55,35 @@ constexpr std::array kOptions = {
     OptionRow{"dry-run", nullptr, kClean,
               QT_TRANSLATE_NOOP("Cli", "touch nothing; list what would go and what would stay, and why")},
     OptionRow{"yes", nullptr, kClean, QT_TRANSLATE_NOOP("Cli", "don't ask")},
-    OptionRow{"json", nullptr, kBoth, QT_TRANSLATE_NOOP("Cli", "one JSON object on standard output")},
+    OptionRow{"json", nullptr, kAll, QT_TRANSLATE_NOOP("Cli", "one JSON object on standard output")},
 };
 
 constexpr int kHelpColumn = 20;
 constexpr int kHelpWidth = 78;
 const QString kProgram = u"tarnwick-cli"_s;
 
-int takerOf(Verb verb) { return verb == Verb::Scan ? kScan : kClean; }
+int takerOf(Verb verb) {
+  switch (verb) {
+  case Verb::Scan:
+    return kScan;
+  case Verb::Clean:
+    return kClean;
+  case Verb::System:
+    break;
+  }
+  return kSystem;
+}
+
+/// Whether it looks at the categories.
+bool hasCategories(Verb verb) { return (takerOf(verb) & kBoth) != 0; }
+
+/// The names of all verbs, for a sentence.
+QString verbNames() {
+  QStringList names;
+  for (const VerbRow& row : kVerbs) names << u'"' + QLatin1String(row.name) + u'"';
+  const QString last = names.takeLast();
+  return Words::tr("%1 and %2").arg(names.join(u", "_s), last);
+}
 
 const VerbRow* findVerb(const QString& name) {
   const auto found =
@@ -94,7 +117,9 @@ QString helpOf(const VerbRow& verb, const QStringList& categoryIds) {
     const QString value = row.value ? u' ' + QLatin1String(row.value) : QString();
     text += helpLine(u"  --"_s + QLatin1String(row.name) + value, Words::tr(row.text));
   }
-  return text + commonHelp() + u'\n' + Words::tr("Categories: %1").arg(categoryIds.join(u", "_s)) + u'\n';
+  text += commonHelp();
+  if (hasCategories(verb.verb)) text += u'\n' + Words::tr("Categories: %1").arg(categoryIds.join(u", "_s)) + u'\n';
+  return text;
 }
 
 void addOptions(QCommandLineParser* parser) {
@@ -128,7 +153,7 @@ QString misread(const QCommandLineParser& parser, bool understood) {
 QString misworded(const QStringList& words) {
   if (words.isEmpty()) return {};
   if (!findVerb(words.first()))
-    return Words::tr("there is no command %1, only \"scan\" and \"clean\"").arg(quoted(words.first()));
+    return Words::tr("there is no command %1, only %2").arg(quoted(words.first()), verbNames());
   if (words.size() > 1) return Words::tr("%1 is one word too many").arg(quoted(words.at(1)));
   return {};
 }

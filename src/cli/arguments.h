@@ -8,7 +8,7 @@
 
 namespace cli {
 
-enum class Verb { Scan, Clean };
+enum class Verb { Scan, Clean, System };
 
 /// A command that makes sense.
 struct Command {

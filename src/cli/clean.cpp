@@ -22,7 +22,7 @@ int placeToAsk(const Command& command) {
 
 class Clean {
  public:
-  Clean(const Command& command, Output* out, const CleanerWorld& world)
+  Clean(const Command& command, Output* out, const World& world)
       : m_command(command),
         m_out(out),
         m_toTrash(command.moveToTrash.value_or(AppSettings::instance().moveToTrash())),
@@ -112,7 +112,7 @@ ExitCode Clean::run() {
 
 } // namespace
 
-ExitCode clean(const Command& command, Output* out, const CleanerWorld& world) {
+ExitCode clean(const Command& command, Output* out, const World& world) {
   if (!command.yes && !command.dryRun && placeToAsk(command) == kNowhere) {
     complain(Words::tr("there is no terminal to ask on, so nothing is cleaned without --yes"));
     return kUsage;

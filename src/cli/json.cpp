@@ -14,6 +14,9 @@ namespace cli {
 namespace {
 
 constexpr std::array kSafetyWords = {"safe", "review", "permanent"};
+/// By SystemDataItem::Action.
+constexpr std::array kActionWords = {
+    "none", "reveal", "moveToTrash", "removeSnapshots", "deleteUnavailable", "cleanInCleanup", "openXcode"};
 
 QJsonObject object(const CleanItem& item) {
   return {{u"path"_s, item.path},        {u"name"_s, item.name},   {u"wholeRoot"_s, item.wholeRoot},
@@ -31,6 +34,18 @@ QJsonObject object(const CategoryResult& category) {
           {u"files"_s, category.files},
           {u"accessDenied"_s, category.accessDenied},
           {u"items"_s, items}};
+}
+
+QJsonObject object(const SystemDataItem& item) {
+  return {{u"id"_s, item.id},
+          {u"title"_s, item.title},
+          {u"actionable"_s, item.actionable},
+          {u"action"_s, QLatin1String(kActionWords.at(static_cast<size_t>(item.action)))},
+          {u"bytes"_s, item.bytes},
+          {u"files"_s, item.files},
+          {u"denied"_s, item.denied},
+          {u"count"_s, item.count},
+          {u"detail"_s, item.detail}};
 }
 
 QString line(const QJsonObject& object) {
@@ -68,6 +83,16 @@ QString json::text(const Clean& clean) {
                {u"logPath"_s, report.logPath},
                {u"needsAdmin"_s, report.needsAdmin},
                {u"runningApps"_s, QJsonArray::fromStringList(report.runningApps)}});
+}
+
+QString json::text(const SystemData& data) {
+  QJsonArray items;
+  qint64 bytes = 0;
+  for (const SystemDataItem& one : data.items) {
+    items << object(one);
+    bytes += one.bytes;
+  }
+  return line({{u"cancelled"_s, data.cancelled}, {u"bytes"_s, bytes}, {u"items"_s, items}});
 }
 
 } // namespace cli

@@ -1,4 +1,4 @@
-/// The two objects that scripts read. Their keys are a promise: none goes, none changes its meaning.
+/// The objects that scripts read. Their keys are a promise: none goes, none changes its meaning.
 #pragma once
 
 #include "app/records.h"
@@ -19,8 +19,14 @@ struct Clean {
   bool toTrash = true;
 };
 
+struct SystemData {
+  QList<SystemDataItem> items; ///< in the catalogue's order
+  bool cancelled = false;
+};
+
 /// One object on a line of its own.
 [[nodiscard]] QString text(const Scan& scan);
 [[nodiscard]] QString text(const Clean& clean);
+[[nodiscard]] QString text(const SystemData& data);
 
 } // namespace cli::json

@@ -2,7 +2,6 @@
 
 #include "app/identity.h"
 #include "app/records.h"
-#include "cli/commands.h"
 #include "cli/terminal.h"
 #include "engines/categories.h"
 #include "ui/i18n.h"
@@ -27,10 +26,22 @@ QStringList categoryIds() {
   return ids;
 }
 
-int answer(const Parsed& parsed, Output* out, const CleanerWorld& world) {
+ExitCode carryOut(const Command& command, Output* out, const World& world) {
+  switch (command.verb) {
+  case Verb::Scan:
+    break;
+  case Verb::Clean:
+    return clean(command, out, world);
+  case Verb::System:
+    return systemData(command, out, world);
+  }
+  return scan(command, out);
+}
+
+int answer(const Parsed& parsed, Output* out, const World& world) {
   switch (parsed.outcome) {
   case Parsed::Outcome::Run:
-    return parsed.command.verb == Verb::Scan ? scan(parsed.command, out) : clean(parsed.command, out, world);
+    return carryOut(parsed.command, out, world);
   case Parsed::Outcome::Show:
     out->write(parsed.text);
     return kDone;
@@ -46,7 +57,7 @@ int answer(const Parsed& parsed, Output* out, const CleanerWorld& world) {
 
 } // namespace
 
-int run(int argc, char** argv, const CleanerWorld& world) {
+int run(int argc, char** argv, const World& world) {
   prepareDescriptors();
   const auto application = makeApplication(argc, argv);
   identity::apply();

@@ -1,13 +1,13 @@
 /// The headless program from its arguments to its exit code.
 #pragma once
 
-#include "engines/Cleaner.h"
+#include "cli/commands.h"
 
 namespace cli {
 
 /// Runs it, once a process. Removes or moves files where the arguments say so.
-/// @param world  what a clean takes from the outside; tests bend it
+/// @param world  what it takes from the outside; tests bend it
 /// @return the exit code
-[[nodiscard]] int run(int argc, char** argv, const CleanerWorld& world = {});
+[[nodiscard]] int run(int argc, char** argv, const World& world = {});
 
 } // namespace cli

@@ -1,6 +1,6 @@
 #include "cli/texts.h"
 
-#include "cli/Table.h"
+#include "cli/sheet.h"
 #include "cli/terminal.h"
 #include "cli/words.h"
 #include "core/fmt.h"
@@ -17,9 +17,6 @@ using namespace Qt::StringLiterals;
 namespace cli {
 namespace {
 
-constexpr int kBarCells = 12;
-constexpr int kWidthForBars = 90;
-constexpr int kMsPerSecond = 1000;
 constexpr auto kLeft = Table::Side::Left;
 constexpr auto kRight = Table::Side::Right;
 
@@ -34,29 +31,7 @@ qint64 sum(const QList<CategoryResult>& all, qint64 CategoryResult::*figure) {
   return total;
 }
 
-QString filesText(qint64 files) {
-  return files == 1 ? Words::tr("1 file") : Words::tr("%1 files").arg(fmt::count(files));
-}
-
-QString timeText(qint64 elapsedMs) {
-  if (elapsedMs < kMsPerSecond) return Words::tr("%1 ms").arg(elapsedMs);
-  return Words::tr("%1 s").arg(QLocale().toString(static_cast<double>(elapsedMs) / kMsPerSecond, 'f', 1));
-}
-
 bool isDeleted(const CategoryResult& one, bool toTrash) { return !toTrash || one.def.safety == Permanent; }
-
-/// The texts that aren't empty, each on lines of its own, and a blank line before them.
-QString paragraph(const QStringList& texts, const Paper& paper) {
-  QString all;
-  for (const QString& one : texts)
-    if (!one.isEmpty()) all += terminal::wrapped(one, paper.width) + u'\n';
-  return all.isEmpty() ? all : u'\n' + all;
-}
-
-/// Nothing is cut where it isn't for a terminal.
-QString tableText(const Table& table, const Paper& paper) {
-  return u'\n' + table.text(paper.isTerminal ? paper.width : 0, paper.colours);
-}
 
 // ---- the scan
 
@@ -97,7 +72,7 @@ QString deniedNote(const QList<CategoryResult>& all) {
   QStringList denied;
   for (const CategoryResult& one : all)
     if (one.accessDenied) denied << one.def.title;
-  return denied.isEmpty() ? QString() : Words::tr("Not everything could be read: %1.").arg(denied.join(u", "_s));
+  return unreadNote(denied);
 }
 
 QString safeNote(const QList<CategoryResult>& all) {
@@ -183,7 +158,7 @@ QString trashText(const CleanReport& report, bool toTrash) {
 Paper Paper::of(int fd) { return {terminal::width(fd), terminal::isTerminal(fd), terminal::takesColours(fd)}; }
 
 QString scanText(const QList<CategoryResult>& categories, qint64 elapsedMs, const Paper& paper) {
-  const bool bars = paper.isTerminal && paper.width >= kWidthForBars;
+  const bool bars = hasRoomForBars(paper);
   const QString time = Words::tr("Scanned in %1. Nothing was changed.").arg(timeText(elapsedMs));
   return tableText(scanTable(categories, bars), paper) +
          paragraph({deniedNote(categories), safeNote(categories)}, paper) +

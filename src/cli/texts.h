@@ -19,6 +19,9 @@ struct Paper {
 /// What a scan found, as a table.
 [[nodiscard]] QString scanText(const QList<CategoryResult>& categories, qint64 elapsedMs, const Paper& paper);
 
+/// What System Data was measured to be, as two tables: what the user can reclaim, and what the system manages.
+[[nodiscard]] QString systemDataText(const QList<SystemDataItem>& items, qint64 elapsedMs, const Paper& paper);
+
 /// What a clean is about to do.
 struct Plan {
   QList<CategoryResult> chosen; ///< what goes

@@ -8,11 +8,12 @@ namespace {
 constexpr int kGraceMs = 1000;
 } // namespace
 
-QString run(const QString& program, const QStringList& arguments, int limitMs, int* exitCode) {
+QString run(const QString& program, const QStringList& arguments, int limitMs, int* exitCode, Read read) {
   const auto report = [exitCode](int code) {
     if (exitCode != nullptr) *exitCode = code;
   };
   QProcess tool;
+  if (read == Read::OutputAndErrors) tool.setProcessChannelMode(QProcess::MergedChannels);
   tool.start(program, arguments);
   if (!tool.waitForFinished(limitMs)) {
     tool.kill();

@@ -1,5 +1,7 @@
 #include "core/trashinfo.h"
 
+#include "core/proctext.h"
+
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -76,28 +78,16 @@ struct Mount {
   QByteArrayList superOptions;
 };
 
-// Blanks, line breaks and backslashes stand as three octal digits.
-QByteArray unescaped(const QByteArray& field) {
-  QByteArray raw;
-  for (qsizetype i = 0; i < field.size(); ++i) {
-    bool isOctal = false;
-    const int code = field.at(i) == '\\' ? field.mid(i + 1, 3).toInt(&isOctal, 8) : 0;
-    raw += isOctal ? static_cast<char>(code) : field.at(i);
-    if (isOctal) i += 3;
-  }
-  return raw;
-}
-
 std::optional<Mount> parseMount(const QByteArray& line) {
   const QByteArrayList fields = line.split(' ');
   const qsizetype dash = fields.indexOf("-", 6);
   if (dash < 0 || dash + 3 >= fields.size()) return std::nullopt;
   return Mount{.device = fields.at(2),
-               .root = unescaped(fields.at(3)),
-               .point = unescaped(fields.at(4)),
+               .root = proctext::unescaped(fields.at(3)),
+               .point = proctext::unescaped(fields.at(4)),
                .options = fields.at(5).split(','),
                .type = fields.at(dash + 1),
-               .source = unescaped(fields.at(dash + 2)),
+               .source = proctext::unescaped(fields.at(dash + 2)),
                .superOptions = fields.at(dash + 3).split(',')};
 }
 

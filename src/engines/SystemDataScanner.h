@@ -3,6 +3,7 @@
 
 #include "app/records.h"
 #include "engines/Job.h"
+#include "engines/systemdata.h"
 
 #include <QObject>
 
@@ -10,14 +11,17 @@ class SystemDataScanner : public QObject {
   Q_OBJECT
 
  public:
-  explicit SystemDataScanner(QObject* parent = nullptr);
+  explicit SystemDataScanner(QObject* parent = nullptr, SystemDataWorld world = {});
   ~SystemDataScanner() override;
 
   /// Starts a measuring; does nothing while one runs.
   void start();
   /// Raises the flag; the measuring ends at its next folder. Any thread.
   void cancel();
+  /// From start() until finished() has arrived on the thread of this object, before anybody else there hears of it. On
+  /// that thread.
   [[nodiscard]] bool isRunning() const;
+  [[nodiscard]] const SystemDataWorld& world() const { return m_world; }
 
  signals:
   // All are emitted on the worker thread.
@@ -29,7 +33,11 @@ class SystemDataScanner : public QObject {
   void finished(const QList<SystemDataItem>& items, bool cancelled);
 
  private:
+  class Measuring;
+
   void run();
 
+  const SystemDataWorld m_world;
+  bool m_running = false;
   Job m_job;
 };

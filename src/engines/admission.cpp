@@ -1,6 +1,7 @@
 // Which entries of the temporary folder are leftovers, and what must be known of the system to tell.
 #include "core/names.h"
 #include "core/platform.h"
+#include "core/proctext.h"
 #include "engines/catalogue.h"
 #include "engines/categories.h"
 
@@ -71,18 +72,6 @@ QSet<quint64> readLocks(const QString& procRoot) {
   return inodes;
 }
 
-/// Undoes the octal escapes of blanks, tabs, line feeds and backslashes.
-QByteArray unescaped(const QByteArray& field) {
-  QByteArray plain;
-  for (qsizetype i = 0; i < field.size(); ++i) {
-    bool isOctal = false;
-    const int code = field[i] == '\\' ? field.mid(i + 1, 3).toInt(&isOctal, 8) : 0;
-    plain += isOctal ? static_cast<char>(code) : field[i];
-    if (isOctal) i += 3;
-  }
-  return plain;
-}
-
 bool isPlain(quint32 type) { return type == S_IFREG || type == S_IFDIR || type == S_IFLNK; }
 
 bool isOldAndPlain(const fs::Entry& entry, const categories::Admission& admission) {
@@ -117,7 +106,7 @@ QSet<QString> categories::mountPoints(const QString& procRoot) {
   QSet<QString> points;
   for (const QByteArray& line : contents(fs::join(procRoot, u"self/mountinfo"_s)).split('\n')) {
     const QList<QByteArray> fields = line.split(' ');
-    if (fields.size() > 4) points.insert(names::decode(unescaped(fields[4])));
+    if (fields.size() > 4) points.insert(names::decode(proctext::unescaped(fields[4])));
   }
   return points;
 }

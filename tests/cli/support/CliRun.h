@@ -6,13 +6,15 @@
 #include <QProcess>
 #include <QStringList>
 
-/// Path of the program under test: all of the shipped one, but with a lock for cleans at the root of the fixture, and
-/// with rules that keep it in there.
+/// Path of the program under test: all of the shipped one, but with a lock for cleans and a disk for System Data at the
+/// root of the fixture, and with rules that keep it in there.
 [[nodiscard]] QString cliProgram();
 /// Path of the program as it ships, which takes the user's own lock.
 [[nodiscard]] QString shippedProgram();
 /// Where the program under test has its lock, from the home folder.
 inline constexpr const char* kCleanLock = "../../clean.lock";
+/// What stands for the root of the disk to its System Data, from the home folder.
+inline constexpr const char* kSystemRoot = "../../system";
 
 /// What one run left.
 struct CliRun {

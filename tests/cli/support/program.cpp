@@ -1,6 +1,7 @@
 // The program under test: all of it, but
 // - the lock of its cleans lies at the root of the fixture, so that tests don't wait for each other, nor for a clean of
 //   the user who runs them;
+// - System Data has its own places at the fixture's root too;
 // - further rules keep it from what that user has outside of the fixture.
 #include "cli/program.h"
 #include "support/CliRun.h"
@@ -25,8 +26,10 @@ std::vector<QByteArray> withRules(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
-  CleanerWorld world;
-  world.lockPath = QFile::decodeName(qgetenv("HOME") + '/' + kCleanLock);
+  cli::World world;
+  world.systemData.root = QFile::decodeName(qgetenv("HOME") + '/' + kSystemRoot);
+  world.systemData.sources.procRoot = world.systemData.root + "/proc";
+  world.cleaner.lockPath = QFile::decodeName(qgetenv("HOME") + '/' + kCleanLock);
   std::vector<QByteArray> words = withRules(argc, argv);
   std::vector<char*> pointers;
   for (QByteArray& word : words) pointers.push_back(word.data());
