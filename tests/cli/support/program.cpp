@@ -26,9 +26,12 @@ std::vector<QByteArray> withRules(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+  using namespace Qt::StringLiterals;
   cli::World world;
-  world.systemData.root = QFile::decodeName(qgetenv("HOME") + '/' + kSystemRoot);
-  world.systemData.sources.procRoot = world.systemData.root + "/proc";
+  SystemDataWorld& system = world.systemData;
+  system.root = QFile::decodeName(qgetenv("HOME") + '/' + kSystemRoot);
+  system.sources.procRoot = system.root + u"/proc"_s;
+  system.tmutil = system.root + system.tmutil;
   world.cleaner.lockPath = QFile::decodeName(qgetenv("HOME") + '/' + kCleanLock);
   std::vector<QByteArray> words = withRules(argc, argv);
   std::vector<char*> pointers;
