@@ -94,4 +94,26 @@ bool visitFiles(const QString& root, const std::atomic<bool>& cancel,
                 const std::function<bool(const QString&, const QString&)>& skipDir,
                 const std::function<void(const QString&, const Entry&)>& visit);
 
+/// A file that a walk has come to; valid during the call. What takes time to make is made when it is asked for.
+class VisitedFile {
+ public:
+  /// Bytes that it holds on disk.
+  [[nodiscard]] qint64 allocated() const { return m_allocated; }
+  /// The path of its folder.
+  [[nodiscard]] virtual const QString& folder() const = 0;
+  /// Its own path and metadata, as visitFiles() gives them.
+  [[nodiscard]] virtual const QString& path() = 0;
+  [[nodiscard]] virtual const Entry& entry() = 0;
+
+ protected:
+  ~VisitedFile() = default;
+
+  qint64 m_allocated = 0;
+};
+
+/// The walk of visitFiles() for those who want to know much about few files: it takes no longer than measure().
+bool visitFilesLazily(const QString& root, const std::atomic<bool>& cancel,
+                      const std::function<bool(const QString&, const QString&)>& skipDir,
+                      const std::function<void(VisitedFile&)>& visit);
+
 } // namespace fs

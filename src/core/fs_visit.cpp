@@ -13,6 +13,8 @@
 namespace fs {
 namespace {
 
+constexpr qint64 kBlockBytes = 512;
+
 /// Where a visit stands, as text: the folder's path, and beside it a buffer with the same path and a separator, to
 /// which each file's name is set. Both are extended once a folder, and not made anew for each file.
 class TextPath {
@@ -71,27 +73,34 @@ class TextPath {
 };
 
 using SkipDir = std::function<bool(const QString&, const QString&)>;
-using Visit = std::function<void(const QString&, const Entry&)>;
 
-class FileVisit {
+/// Hands each file to @p Take, which is called with this object.
+template <class Take>
+class FileVisit final : public VisitedFile {
  public:
-  FileVisit(const QString& root, dev_t device, const SkipDir& skipDir, const Visit& visit)
-      : m_path(root), m_device(device), m_skipDir(skipDir), m_visit(visit) {}
+  FileVisit(const QString& root, dev_t device, const SkipDir& skipDir, const Take& take)
+      : m_path(root), m_device(device), m_skipDir(skipDir), m_take(take) {}
 
-  void folder(TreeWalk* walk) {
+  void visitFolder(TreeWalk* walk) {
     m_path.follow(*walk);
-    const int fd = walk->fd();
-    struct stat status;
+    m_fd = walk->fd();
     walk->reader().drain([&](const dirent& entry) {
       const char* name = entry.d_name;
-      if (::fstatat(fd, name, &status, AT_SYMLINK_NOFOLLOW) != 0) return;
-      if (S_ISLNK(status.st_mode) || sys::isDataless(status)) return;
-      if (!S_ISDIR(status.st_mode)) {
-        file(fd, QByteArrayView(name), status);
-      } else if (!leavesDevice(status.st_dev, m_device) && !isSkipped(name)) {
+      if (::fstatat(m_fd, name, &m_status, AT_SYMLINK_NOFOLLOW) != 0) return;
+      if (S_ISLNK(m_status.st_mode) || sys::isDataless(m_status)) return;
+      if (!S_ISDIR(m_status.st_mode)) {
+        file(name);
+      } else if (!leavesDevice(m_status.st_dev, m_device) && !isSkipped(name)) {
         walk->push(entry);
       }
     });
+  }
+
+  [[nodiscard]] const QString& folder() const override { return m_path.folder(); }
+  [[nodiscard]] const QString& path() override { return m_path.fileOf(entry().name); }
+  [[nodiscard]] const Entry& entry() override {
+    if (!m_isFilled) fillEntry();
+    return m_entry;
   }
 
  private:
@@ -99,35 +108,59 @@ class FileVisit {
     return m_skipDir && m_skipDir(m_path.folder(), names::decode(QByteArrayView(name)));
   }
 
-  void file(int dirFd, QByteArrayView name, const struct stat& status) {
+  void file(const char* name) {
+    m_name = name;
+    m_isFilled = false;
+    m_allocated = S_ISREG(m_status.st_mode) ? qint64{m_status.st_blocks} * kBlockBytes : 0;
+    m_take(*this);
+  }
+
+  void fillEntry() {
+    const QByteArrayView name(m_name);
     const bool survives = names::decodeAt(&m_entry.name, 0, name);
-    fill(&m_entry, status);
-    m_entry.reachable = m_path.reachable() && (survives || reachesAnyway(dirFd, name, status));
-    m_visit(m_path.fileOf(m_entry.name), m_entry);
+    fill(&m_entry, m_status);
+    m_entry.reachable = m_path.reachable() && (survives || reachesAnyway(m_fd, name, m_status));
+    m_isFilled = true;
   }
 
   TextPath m_path;
   dev_t m_device;
   const SkipDir& m_skipDir;
-  const Visit& m_visit;
+  const Take& m_take;
   Entry m_entry;
+  // Of the file in hand:
+  int m_fd = -1;
+  const char* m_name = nullptr;
+  struct stat m_status {};
+  bool m_isFilled = false; ///< m_entry is this file's
 };
 
-} // namespace
-
-bool visitFiles(const QString& root, const std::atomic<bool>& cancel, const SkipDir& skipDir, const Visit& visit) {
+template <class Take>
+bool walkFiles(const QString& root, const std::atomic<bool>& cancel, const SkipDir& skipDir, const Take& take) {
   struct stat status;
   const dev_t device = statusOf(root, &status) ? status.st_dev : 0;
   if (cancel) return false;
   UniqueFd top = openFolder(root);
   if (!top) return true;
-  FileVisit files(root, device, skipDir, visit);
+  FileVisit files(root, device, skipDir, take);
   TreeWalk walk(std::move(top), cancel);
   for (;;) {
     const TreeWalk::Step step = walk.next();
     if (step != TreeWalk::Step::Folder) return step == TreeWalk::Step::End;
-    files.folder(&walk);
+    files.visitFolder(&walk);
   }
+}
+
+} // namespace
+
+bool visitFiles(const QString& root, const std::atomic<bool>& cancel, const SkipDir& skipDir,
+                const std::function<void(const QString&, const Entry&)>& visit) {
+  return walkFiles(root, cancel, skipDir, [&](auto& file) { visit(file.path(), file.entry()); });
+}
+
+bool visitFilesLazily(const QString& root, const std::atomic<bool>& cancel, const SkipDir& skipDir,
+                      const std::function<void(VisitedFile&)>& visit) {
+  return walkFiles(root, cancel, skipDir, visit);
 }
 
 } // namespace fs

@@ -63,6 +63,9 @@ class TestFsVisit : public QObject {
   void endsWhereAFolderWasMoved();
   void followsNoLinkThatTookAFoldersPlace();
   void throwsWithoutAVisitor();
+  void lazyVisitTellsTheSame();
+  void lazyVisitCanBeAskedInAnyOrder();
+  void lazyVisitCancelsAndSkipsAlike();
 
  private:
   FixtureHome m_home;
@@ -346,6 +349,67 @@ void TestFsVisit::throwsWithoutAVisitor() {
   const qsizetype before = trees::openDescriptors();
   QVERIFY_THROWS_EXCEPTION(std::bad_function_call, walk());
   QCOMPARE(trees::openDescriptors(), before);
+}
+
+void TestFsVisit::lazyVisitTellsTheSame() {
+  const QString dir = m_home.folder(u"lazy"_s);
+  m_home.file(u"lazy/a"_s, 5000);
+  m_home.file(u"lazy/in/caf\u00e9/caf\u00e9"_s, 70'000);
+  m_home.file(u"lazy/in/a much longer name than that"_s, 1);
+  m_home.link(u"lazy/link"_s, u"a"_s);
+  trees::touch(trees::raw(dir) + "/in/no-text-\xff");
+  QCOMPARE(::mkfifo(trees::raw(dir + u"/in/pipe"_s).constData(), 0600), 0);
+  const QList<Seen> expected = visit(dir);
+  qsizetype at = 0;
+  QVERIFY(fs::visitFilesLazily(dir, kNever, {}, [&](fs::VisitedFile& file) {
+    const Seen& one = expected.at(at++);
+    QCOMPARE(file.allocated(), one.entry.allocated);
+    QCOMPARE(file.path(), one.path);
+    QCOMPARE(file.folder(), one.path.section(u'/', 0, -2));
+    QCOMPARE(file.entry().name, one.entry.name);
+    QCOMPARE(file.entry().inode, one.entry.inode);
+    QCOMPARE(file.entry().size, one.entry.size);
+    QCOMPARE(file.entry().modifiedMs, one.entry.modifiedMs);
+    QCOMPARE(file.entry().type, one.entry.type);
+    QCOMPARE(file.entry().reachable, one.entry.reachable);
+  }));
+  QCOMPARE(at, expected.size());
+  QCOMPARE(at, 5);
+}
+
+void TestFsVisit::lazyVisitCanBeAskedInAnyOrder() {
+  for (int i = 0; i < 20; ++i) m_home.file(u"any order/%1/file %2"_s.arg(i % 3).arg(i), i * 5000);
+  int asked = 0;
+  (void)fs::visitFilesLazily(m_home.path(u"any order"_s), kNever, {}, [&](fs::VisitedFile& file) {
+    if (++asked % 2 == 0) return; // what nobody asks about leaves nothing behind
+    const QString path = asked % 3 == 0 ? file.path() : file.folder() + u'/' + file.entry().name;
+    fs::Entry entry;
+    QVERIFY2(fs::stat(path, &entry), qPrintable(path));
+    QCOMPARE(file.path(), path);
+    QCOMPARE(file.entry().inode, entry.inode);
+    QCOMPARE(file.allocated(), entry.allocated);
+  });
+  QCOMPARE(asked, 20);
+}
+
+void TestFsVisit::lazyVisitCancelsAndSkipsAlike() {
+  m_home.file(u"alike/skipped/file"_s);
+  m_home.file(u"alike/file"_s);
+  const QString dir = m_home.path(u"alike"_s);
+  QStringList calls;
+  const auto skip = [&](const QString& parent, const QString& name) {
+    calls << parent + u" | "_s + name;
+    return true;
+  };
+  std::atomic<bool> cancel = true;
+  const auto take = [&](fs::VisitedFile& file) { calls << file.path(); };
+  QVERIFY(!fs::visitFilesLazily(dir, cancel, skip, take));
+  QVERIFY(calls.isEmpty());
+  cancel = false;
+  QVERIFY(fs::visitFilesLazily(dir, cancel, skip, take));
+  calls.sort();
+  QCOMPARE(calls, (QStringList{dir + u" | skipped"_s, dir + u"/file"_s}));
+  QVERIFY_THROWS_EXCEPTION(std::bad_function_call, fs::visitFilesLazily(dir, cancel, {}, {}));
 }
 
 QTEST_GUILESS_MAIN(TestFsVisit)
