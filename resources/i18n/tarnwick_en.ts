@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="en">
 <context>
+    <name>AppState</name>
+    <message numerus="yes">
+        <source>Restored %Ln file(s)</source>
+        <translation>
+            <numerusform>Restored %Ln file</numerusform>
+            <numerusform>Restored %Ln files</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>CleanupPage</name>
     <message numerus="yes">
         <source>&lt;b&gt;%Ln file(s) skipped&lt;/b&gt; because they were in use or protected. Quit the apps using them and rescan to remove them.</source>

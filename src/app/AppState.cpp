@@ -2,6 +2,7 @@
 
 #include "app/AppSettings.h"
 #include "engines/Cleaner.h"
+#include "engines/LargeFileFinder.h"
 #include "engines/Scanner.h"
 #include "engines/SystemDataScanner.h"
 
@@ -18,7 +19,9 @@ AppState::AppState(QObject* parent, const CleanerWorld& world, const SystemDataW
       scanner(new Scanner(this)),
       lastScan(AppSettings::instance().lastScan()),
       cleaner(new Cleaner(this, world)),
-      systemDataScanner(new SystemDataScanner(this, systemDataWorld)) {
+      largeFinder(new LargeFileFinder(this)),
+      systemDataScanner(new SystemDataScanner(this, systemDataWorld)),
+      m_sources(world.sources) {
   connectScanner();
   connectSystemData();
   connect(cleaner, &Cleaner::filesProgress, this, [this](const QString& category, qint64 done, qint64 total) {
@@ -28,6 +31,7 @@ AppState::AppState(QObject* parent, const CleanerWorld& world, const SystemDataW
   });
   connect(cleaner, &Cleaner::progress, this, &AppState::cleanProgress);
   connect(cleaner, &Cleaner::finished, this, &AppState::onCleanFinished);
+  connectLargeFinder();
 }
 
 AppState::~AppState() = default;
@@ -108,7 +112,7 @@ void AppState::clean(const RunOptions& options) {
   const AppSettings& settings = AppSettings::instance();
   m_dryRun = options.dryRun;
   if (!settings.isReadable()) {
-    refuse(tr("The settings can't be read, so the rules on what to keep are unknown. Nothing was cleaned."));
+    refuse(unreadableSettings());
     return;
   }
   freeBeforeClean = volume.availableBytes;
@@ -119,6 +123,10 @@ void AppState::clean(const RunOptions& options) {
   cleaner->start(chosen, options.moveToTrash.value_or(settings.moveToTrash()),
                  settings.exclusions() + options.furtherExclusions,
                  options.dryRun ? Cleaner::Run::Dry : Cleaner::Run::ForReal);
+}
+
+QString AppState::unreadableSettings() {
+  return tr("The settings can't be read, so the rules on what to keep are unknown. Nothing was cleaned.");
 }
 
 void AppState::refuse(const QString& why) {

@@ -4,9 +4,11 @@
 
 #include "app/UntickedSums.h"
 #include "app/records.h"
+#include "core/appguard.h"
 #include "core/platform.h"
 
 #include <QElapsedTimer>
+#include <QHash>
 #include <QObject>
 #include <QSet>
 
@@ -139,6 +141,8 @@ class AppState : public QObject {
   /// Searches the home folder for files above the stored size; nothing happens while a search runs. A cancelled search
   /// leaves the last list.
   void startLargeScan();
+  /// The same for files above @p megabytes, decimal ones, instead of the stored size.
+  void startLargeScanOver(int megabytes);
   /// Moves files of the list to the Trash, and remembers that for undoLastTrash(); what was remembered before is
   /// forgotten. A file stays in the list, and counts as skipped in the message, where it is open, excluded, protected,
   /// another file than was listed, or can't be moved. Blocks for as long as the moves take.
@@ -190,6 +194,12 @@ class AppState : public QObject {
   void performInBackground(const SystemDataItem& item);
   void onSystemDataPerformed(const QString& text);
 
+  struct LargeMoves;
+  void connectLargeFinder();
+  void onLargeFound(const QList<LargeFile>& files, bool cancelled);
+  [[nodiscard]] LargeMoves moveLargeFiles(const QList<QString>& paths) const;
+  [[nodiscard]] static QString unreadableSettings();
+
   void clearSelection();
   template <typename Wanted>
   void selectOnly(Wanted wanted);
@@ -204,6 +214,10 @@ class AppState : public QObject {
 
   RunOptions m_scanOptions; // of the running or last scan
   bool m_dryRun = false;    // the running or last clean touches nothing
+  const appguard::Sources m_sources;
+  bool m_searchesLarge = false;      // until the end of a search has arrived
+  QHash<QString, FileId> m_largeIds; // of largeFiles, by path
+  QSet<QString> m_largeGone;         // moved away since the running search began
   QSet<QString> m_selected;
   QSet<QString> m_unticked;
   mutable UntickedSums m_sums; // follows results by itself

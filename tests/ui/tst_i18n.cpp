@@ -171,6 +171,11 @@ void tst_i18n::englishPlurals() {
   };
   QVERIFY(skipped(1).startsWith(u"<b>1 file skipped</b> because it was"_s));
   QVERIFY(skipped(1200).startsWith(u"<b>1,200 files skipped</b> because they were"_s));
+  const auto restored = [](int count) {
+    return QCoreApplication::translate("AppState", "Restored %Ln file(s)", nullptr, count);
+  };
+  QCOMPARE(restored(1), u"Restored 1 file"_s);
+  QCOMPARE(restored(0), u"Restored 0 files"_s);
   qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>());
 }
 
