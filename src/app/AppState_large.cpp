@@ -65,7 +65,6 @@ void AppState::startLargeScanOver(int megabytes) {
 }
 
 void AppState::onLargeFound(const QList<LargeFile>& files, bool cancelled) {
-  largeFinder->wait(); // whoever is told that the search has ended finds that it doesn't run
   m_searchesLarge = false;
   if (!cancelled) {
     largeFiles = files;

@@ -207,14 +207,15 @@ LargeFileFinder::LargeFileFinder(QObject* parent, Clock clock) : QObject(parent)
 LargeFileFinder::~LargeFileFinder() = default;
 
 void LargeFileFinder::start(qint64 minBytes, const QList<QString>& exclusions) {
+  if (isRunning()) return;
+  m_job.wait(); // for the last steps of a worker that has told its end
+  m_isRunning = true;
   m_job.start([this, minBytes, exclusions] { run(minBytes, exclusions); });
 }
 
 void LargeFileFinder::cancel() { m_job.cancel(); }
 
-bool LargeFileFinder::isRunning() const { return m_job.isRunning(); }
-
-void LargeFileFinder::wait() { m_job.wait(); }
+bool LargeFileFinder::isRunning() const { return m_isRunning; }
 
 LargeFileFinder::Summary LargeFileFinder::summary() const {
   const QMutexLocker lock(&m_summaryLock);
@@ -233,6 +234,7 @@ void LargeFileFinder::run(qint64 minBytes, const QList<QString>& exclusions) {
     const QMutexLocker lock(&m_summaryLock);
     m_summary = std::move(summary);
   }
+  m_isRunning = false;
   emit finished(files, !complete);
 }
 

@@ -35,9 +35,8 @@ class LargeFileFinder : public QObject {
   void start(qint64 minBytes, const QList<QString>& exclusions);
   /// Raises the flag; the search ends at its next folder. Any thread.
   void cancel();
+  /// Whether a search runs; it doesn't any more when finished() is emitted.
   [[nodiscard]] bool isRunning() const;
-  /// Returns when no search runs any more; after finished() that takes but a moment.
-  void wait();
   /// Of the search that finished last, a cancelled one too. Any thread.
   [[nodiscard]] Summary summary() const;
 
@@ -58,5 +57,6 @@ class LargeFileFinder : public QObject {
   const Clock m_clock;
   mutable QMutex m_summaryLock;
   Summary m_summary;
+  std::atomic<bool> m_isRunning = false;
   Job m_job;
 };

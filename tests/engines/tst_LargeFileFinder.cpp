@@ -53,14 +53,17 @@ class Run {
           files = list;
           cancelled = wasCancelled;
           ++ends;
+          m_done.release();
         },
         Qt::DirectConnection);
   }
   /// Searches to the end.
   void search(qint64 minBytes = kMin, const QStringList& rules = {}) {
     finder.start(minBytes, rules);
-    finder.wait();
+    wait();
   }
+  /// Returns when the search has told its end.
+  void wait() { QVERIFY(m_done.tryAcquire(1, kPatienceMs)); }
   [[nodiscard]] QStringList names() const {
     QStringList all;
     for (const LargeFile& file : files) all << file.name;
@@ -80,6 +83,7 @@ class Run {
 
  private:
   std::chrono::milliseconds m_time{1'000'000};
+  QSemaphore m_done;
 
  public:
   LargeFileFinder finder;
@@ -421,7 +425,7 @@ void tst_LargeFileFinder::startDuringASearchChangesNothing() {
   QVERIFY(run.finder.isRunning());
   run.finder.start(0, {});
   go.release();
-  run.finder.wait();
+  run.wait();
   QCOMPARE(run.names(), QStringList{u"b.mov"_s});
   QCOMPARE(run.ends.load(), 1);
   QVERIFY(!run.finder.isRunning());
