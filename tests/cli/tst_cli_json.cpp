@@ -11,6 +11,7 @@ class tst_cli_json : public QObject {
  private slots:
   void scan();
   void clean();
+  void systemData();
   void largeNumbersAreExact();
 };
 
@@ -57,6 +58,28 @@ void tst_cli_json::clean() {
            QByteArray(R"({"cleanedIds":["temp"],"dryRun":true,"freedBytes":1,"logPath":"/log","mode":"delete",)"
                       R"("needsAdmin":true,"removedFiles":2,"runningApps":["Chrome"],"skipped":3,)"
                       R"("skippedSamples":["/a","/b"]})"
+                      "\n"));
+}
+
+void tst_cli_json::systemData() {
+  SystemDataItem item;
+  item.id = u"snapshots"_s;
+  item.title = u"Clichés"_s;
+  item.actionable = true;
+  item.action = SystemDataItem::RemoveSnapshots;
+  item.bytes = 7;
+  item.files = 9;
+  item.denied = true;
+  item.count = 3;
+  item.detail = u"3"_s;
+  SystemDataItem other;
+  other.bytes = 9'007'199'254'740'993; // one more than a double holds
+  QCOMPARE(cli::json::text(cli::json::SystemData{{item, other}, true}).toUtf8(),
+           QByteArray(R"({"bytes":9007199254741000,"cancelled":true,"items":[)"
+                      R"({"action":"removeSnapshots","actionable":true,"bytes":7,"count":3,"denied":true,)"
+                      R"("detail":"3","files":9,"id":"snapshots","title":"Clichés"},)"
+                      R"({"action":"none","actionable":false,"bytes":9007199254740993,"count":-1,"denied":false,)"
+                      R"("detail":"","files":0,"id":"","title":""}]})"
                       "\n"));
 }
 

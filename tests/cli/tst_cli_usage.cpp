@@ -65,7 +65,7 @@ void tst_cli_usage::help_data() {
   QTest::addColumn<QStringList>("arguments");
   QTest::addColumn<QStringList>("mentions");
   QTest::addColumn<QStringList>("hides");
-  QTest::newRow("all") << QStringList{u"--help"_s} << QStringList{u"scan"_s, u"clean"_s, u"--version"_s}
+  QTest::newRow("all") << QStringList{u"--help"_s} << QStringList{u"scan"_s, u"clean"_s, u"system"_s, u"--version"_s}
                        << QStringList{u"--yes"_s};
   QTest::newRow("short") << QStringList{u"-h"_s} << QStringList{u"scan"_s} << QStringList{u"--yes"_s};
   QTest::newRow("scan") << QStringList{u"scan"_s, u"--help"_s}
@@ -76,6 +76,8 @@ void tst_cli_usage::help_data() {
                          << QStringList{u"--only"_s,   u"--exclude"_s, u"--json"_s,   u"--yes"_s,
                                         u"--delete"_s, u"--trash"_s,   u"--dry-run"_s}
                          << QStringList{};
+  QTest::newRow("system") << QStringList{u"system"_s, u"--help"_s} << QStringList{u"system"_s, u"--json"_s}
+                          << QStringList{u"--only"_s, u"--exclude"_s, u"--yes"_s, u"appcache"_s};
 }
 
 void tst_cli_usage::help() {
@@ -105,6 +107,7 @@ void tst_cli_usage::mistakes_data() {
     QTest::newRow(arguments) << QString::fromLatin1(arguments).split(u' ') << QString::fromLatin1(names);
   };
   row("wash", "'wash'");
+  row("wash", "only \"scan\", \"clean\" and \"system\"");
   row("scan clean", "'clean'");
   row("scan --bogus", "'--bogus'");
   row("--bogus", "'--bogus'");

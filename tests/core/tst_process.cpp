@@ -25,6 +25,14 @@ class TestProcess : public QObject {
     QCOMPARE(code, 0);
   }
 
+  void errorsMayBeReadToo() {
+    int code = -7;
+    QCOMPARE(process::run(u"/bin/sh"_s, {u"-c"_s, u"echo out; echo err >&2; echo again; exit 3"_s}, kPlentyMs, &code,
+                          process::Read::OutputAndErrors),
+             u"out\nerr\nagain\n"_s);
+    QCOMPARE(code, 3);
+  }
+
   void theExitCodeMayBeLeftOut() { QCOMPARE(shell(u"echo x"_s, kPlentyMs, nullptr), u"x\n"_s); }
 
   void outputIsUtf8() { QCOMPARE(shell(u"printf '\\303\\244\\377'"_s, kPlentyMs, nullptr), u"\u00e4\ufffd"_s); }
