@@ -4,6 +4,7 @@
 #include "app/identity.h"
 #include "core/platform.h"
 #include "engines/Cleaner.h"
+#include "engines/systemdata.h"
 #include "ui/Theme.h"
 #include "ui/accessible.h"
 #include "ui/controls/PageHeader.h"
@@ -11,9 +12,11 @@
 #include "ui/icons.h"
 #include "ui/pages/CleanupPage.h"
 #include "ui/pages/OverviewPage.h"
+#include "ui/pages/SystemDataPage.h"
 #include "ui/paint.h"
 #include "ui/shell/AboutDialog.h"
 #include "ui/shell/ConfirmCleanDialog.h"
+#include "ui/shell/ConfirmDialog.h"
 #include "ui/shell/Overlay.h"
 #include "ui/shell/Sidebar.h"
 #include "ui/shell/SidebarToggle.h"
@@ -99,6 +102,7 @@ void MainWindow::buildFrame() {
 
 void MainWindow::buildContent() {
   QList<int> numbers{Sidebar::Overview, Sidebar::Cleanup};
+  if (systemdata::supported()) numbers << Sidebar::SystemData;
   QHBoxLayout* row = hbox();
   m_central->setLayout(row);
   m_sidebar = new Sidebar(m_state, numbers);
@@ -114,6 +118,14 @@ void MainWindow::buildPages() {
   m_cleanupPage = new CleanupPage(m_state);
   addPage(Sidebar::Overview, m_overviewPage);
   addPage(Sidebar::Cleanup, m_cleanupPage);
+  if (systemdata::supported()) addPage(Sidebar::SystemData, buildSystemData());
+}
+
+QWidget* MainWindow::buildSystemData() {
+  auto* page = new SystemDataPage(m_state);
+  connect(page, &SystemDataPage::openCleanup, this, [this] { go(Sidebar::Cleanup); });
+  connect(page, &SystemDataPage::confirmAction, this, &MainWindow::confirmAction);
+  return page;
 }
 
 void MainWindow::addPage(int number, QWidget* page) {
@@ -160,10 +172,19 @@ void MainWindow::connectState() {
   connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
 }
 
+bool MainWindow::isAsking() const { return m_central->findChild<Overlay*>(QString(), Qt::FindDirectChildrenOnly); }
+
 void MainWindow::confirmClean() {
-  if (m_central->findChild<Overlay*>(QString(), Qt::FindDirectChildrenOnly)) return; // something is being asked
+  if (isAsking()) return;
   auto* dialog = new ConfirmCleanDialog(m_state, m_central);
   connect(dialog, &ConfirmCleanDialog::accepted, m_state, [state = m_state] { state->clean(); });
+  dialog->open();
+}
+
+void MainWindow::confirmAction(const QString& title, const QString& body, const QString& confirm, const QString& id) {
+  if (isAsking()) return;
+  auto* dialog = new ConfirmDialog(m_central, title, body, confirm, true);
+  connect(dialog, &ConfirmDialog::accepted, m_state, [state = m_state, id] { state->runSystemDataAction(id); });
   dialog->open();
 }
 

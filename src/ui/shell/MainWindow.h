@@ -61,12 +61,16 @@ class MainWindow : public QWidget {
   void buildFrame();
   void buildContent();
   void buildPages();
+  QWidget* buildSystemData();
   void addPage(int number, QWidget* page);
   void buildFloatingToggle();
   void applyToolbars(bool collapsed);
   void connectPages();
   void connectState();
+  /// Whether a dialog is open.
+  [[nodiscard]] bool isAsking() const;
   void confirmClean();
+  void confirmAction(const QString& title, const QString& body, const QString& confirm, const QString& id);
   void paintOutline(QPainter* painter) const;
 
   AppState* m_state;
