@@ -2,13 +2,22 @@
 
 #include "app/AppSettings.h"
 #include "core/platform.h"
+#include "engines/systemdata.h"
+#include "ui/controls/Button.h"
 #include "ui/pages/CleanupPage.h"
+#include "ui/pages/SystemDataPage.h"
+#include "ui/pages/SystemDataResults.h"
+#include "ui/pages/SystemDataRow.h"
 #include "ui/shell/CloseDialog.h"
 #include "ui/shell/Sidebar.h"
 #include "ui/shell/Toast.h"
 
 #include <QDir>
 #include <QEventLoop>
+#include <QScrollArea>
+#include <QScrollBar>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +31,49 @@ constexpr qint64 kDiskBytes = 494'384'795'648;
 constexpr qint64 kAvailableBytes = 163'208'757'248;
 constexpr qint64 kMb = 1'000'000;
 constexpr qint64 kFreedMb[] = {3'100, 1'450, 2'300, 900, 4'200, 2'750}; // the present month last
+
+/// What System Data is said to hold, on both hosts, as the real figures are those of the machine.
+struct Figure {
+  const char* id;
+  qint64 megabytes;
+  const char16_t* detail = u"";
+  int count = -1;
+};
+constexpr Figure kFigures[] = {
+    {"usercaches", 6'400},
+    {"hidden", 9'700, u".nvm, .cargo, .gradle"},
+    {"flatpakdata", 3'100},
+    {"userflatpak", 5'200},
+    {"containers", 14'300},
+    {"machines", 21'500},
+    {"games", 38'900},
+    {"data", 7'800},
+    {"config", 1'250},
+    {"journal", 2'900},
+    {"logs", 640},
+    {"packages", 1'800},
+    {"snaps", 4'100},
+    {"flatpak", 6'600},
+    {"kernels", 1'150},
+    {"swap", 8'600},
+    {"snapshots", 0, u"3 snapshots", 3},
+    {"backups", 24'800},
+    {"devicesupport", 11'200},
+    {"simulators", 7'700, u"6 devices"},
+    {"runtimes", 16'900},
+    {"archives", 2'300},
+    {"docker", 18'400},
+    {"mail", 310},
+    {"messages", 5'600},
+    {"syscaches", 1'900},
+    {"vm", 4'300},
+    {"assets", 9'900},
+    {"library", 12'700},
+    {"systemdb", 6'100},
+    {"appdata", 31'800},
+};
+/// Those of which something can't be read, where that is shown; of some nothing can.
+constexpr const char* kRefused[] = {"containers", "journal", "logs", "crash", "backups", "messages", "systemdb"};
 
 /// Something was freed in each of the last months.
 void withHistory(Scene* /*scene*/) {
@@ -97,6 +149,65 @@ void cleanQuestion(Scene* scene) {
   emit scene->window.findChild<ui::CleanupPage*>()->confirmRequested();
 }
 
+ui::SystemDataPage* systemDataPage(const Scene& scene) { return scene.window.findChild<ui::SystemDataPage*>(); }
+
+/// Figures are in place, so nothing is measured when the page is shown.
+void placeSystemData(AppState* state) {
+  state->systemData = systemdata::definitions();
+  for (SystemDataItem& item : state->systemData)
+    for (const Figure& figure : kFigures) {
+      if (item.id != QLatin1StringView(figure.id)) continue;
+      item.bytes = figure.megabytes * kMb;
+      item.detail = QString::fromUtf16(figure.detail);
+      item.count = figure.count;
+    }
+  state->systemDataReady = true;
+  emit state->systemDataChanged();
+}
+
+void systemDataUnmeasured(Scene* scene) {
+  scene->state.systemDataReady = false;
+  emit scene->state.systemDataChanged();
+}
+
+void systemDataHalfThrough(Scene* scene) {
+  AppState& state = scene->state;
+  const QList<SystemDataItem> items = state.systemData;
+  const int half = int(items.size() / 2);
+  systemDataUnmeasured(scene);
+  systemDataPage(*scene)->startScanView();
+  for (int i = 0; i < half; ++i) emit state.systemDataMeasured(i, items[i].bytes, false);
+  emit state.systemDataProgress(half, int(items.size()), somePath(state, half), items[half].bytes / 2);
+}
+
+void systemDataRefused(Scene* scene) {
+  for (SystemDataItem& item : scene->state.systemData)
+    item.denied = std::ranges::any_of(kRefused, [&](const char* id) { return item.id == QLatin1StringView(id); });
+  emit scene->state.systemDataChanged();
+}
+
+/// The lower end of the page.
+void systemDataManaged(Scene* scene) {
+  systemDataRefused(scene);
+  QScrollBar* bar =
+      systemDataPage(*scene)->findChild<ui::SystemDataResults*>()->findChild<QScrollArea*>()->verticalScrollBar();
+  QObject::connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int end) { bar->setValue(end); });
+}
+
+void systemDataBusy(Scene* scene) {
+  scene->state.systemDataBusy = true;
+  emit scene->state.systemDataChanged();
+}
+
+/// Of one host's rows none is dangerous, so the first is made so.
+void systemDataQuestion(Scene* scene) {
+  const QString id = scene->state.systemData.first().id;
+  scene->state.systemData.first().action = SystemDataItem::MoveToTrash;
+  emit scene->state.systemDataChanged();
+  for (const ui::SystemDataRow* row : systemDataPage(*scene)->findChildren<ui::SystemDataRow*>())
+    if (row->id() == id) return row->button()->click();
+}
+
 void about(Scene* scene) { scene->window.showAbout(); }
 
 void closeDialog(Scene* scene) {
@@ -118,6 +229,13 @@ constexpr ViewEntry kViews[] = {
     {"cleanup-cleaning", Cleanup, true, cleanHalfThrough},
     {"cleanup-done", Cleanup, true, cleanReport},
     {"clean-question", Cleanup, true, cleanQuestion},
+    {"system-data-start", SystemData, false, systemDataUnmeasured},
+    {"system-data-scan", SystemData, false, systemDataHalfThrough},
+    {"system-data-results", SystemData, false, nullptr},
+    {"system-data-refused", SystemData, false, systemDataRefused},
+    {"system-data-managed", SystemData, false, systemDataManaged},
+    {"system-data-busy", SystemData, false, systemDataBusy},
+    {"system-data-question", SystemData, false, systemDataQuestion},
     {"about", Overview, true, about},
     {"close-dialog", Overview, true, closeDialog},
     {"toast", Cleanup, true, toast},
@@ -155,6 +273,7 @@ std::unique_ptr<Scene> openView(const ViewEntry& entry) {
   auto scene = std::make_unique<Scene>();
   scene->window.setSidebarCollapsed(false); // which the settings remember
   if (entry.scanned) scene->scan();
+  if (entry.page == SystemData) placeSystemData(&scene->state);
   scene->window.go(entry.page);
   scene->window.show();
   if (entry.set) entry.set(scene.get());

@@ -154,6 +154,13 @@ void TestGallery::viewsShowWhatTheyAreCalled_data() {
   QTest::newRow("cleanup-cleaning") << u"Cleaning"_s;
   QTest::newRow("cleanup-done") << u"For example: "_s;
   QTest::newRow("clean-question") << u"Clean and delete"_s;
+  QTest::newRow("system-data-start") << u"See what's inside System Data"_s;
+  QTest::newRow("system-data-scan") << u"Measuring System Data…"_s;
+  QTest::newRow("system-data-results") << u"You can reclaim"_s;
+  QTest::newRow("system-data-refused") << u"at least "_s;
+  QTest::newRow("system-data-managed") << u"No permission to read"_s;
+  QTest::newRow("system-data-busy") << u"Working…"_s;
+  QTest::newRow("system-data-question") << u"Move to Trash?"_s;
   QTest::newRow("about") << u"Version"_s;
   QTest::newRow("close-dialog") << u"Keep Tarnwick running?"_s;
   QTest::newRow("toast") << u"Moved 12 items to the Trash"_s;

@@ -218,6 +218,17 @@ KEPT = [
         ],
     ),
     Kept(
+        "apps with what they keep: it is measured, and theirs to trim",
+        [
+            *spread("~/.local/share/flatpak/repo/objects/4f/{:06x}.file", 20, 110),
+            *spread("~/.local/share/containers/storage/overlay/{:06x}/diff/layer", 6, 420),
+            File("~/.local/share/gnome-boxes/images/old-release.qcow2", 3200, 120, logical_mb=20_000),
+            *spread("~/.local/share/Steam/steamapps/common/Harbour/pak{:06x}.vpk", 4, 900),
+            *spread("~/.var/app/org.gimp.GIMP/config/GIMP/2.10/brushes/{:06x}.gbr", 12, 70),
+            *spread("~/.nvm/versions/node/v20.11.0/lib/{:06x}.js", 60, 40),
+        ],
+    ),
+    Kept(
         "tells where a thing in the Trash came from",
         [
             File("~/.local/share/Trash/info/holiday.mp4.trashinfo", text=TRASH_INFO.format("Videos/holiday.mp4")),

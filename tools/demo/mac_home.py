@@ -160,6 +160,22 @@ KEPT = [
         ],
     ),
     Kept(
+        "apps with what they keep: it is measured, and theirs to trim",
+        [
+            File("~/Library/Developer/Xcode/iOS DeviceSupport/16.7 (20H19)/Symbols/dyld_shared_cache", 2100, 300),
+            File("~/Library/Developer/Xcode/iOS DeviceSupport/17.4 (21E213)/Symbols/dyld_shared_cache", 2600, 90),
+            *spread("~/Library/Developer/CoreSimulator/Devices/9C1A52E0/data/Containers/{:06x}", 10, 140),
+            *spread("~/Library/Developer/CoreSimulator/Devices/41F7B3D8/data/Containers/{:06x}", 8, 120),
+            File("~/Library/Developer/CoreSimulator/Devices/device_set.plist", 8),
+            File("~/Library/Developer/Xcode/Archives/2024-11-02/Editor.xcarchive/Products/Editor", 1400, 40),
+            *spread("~/Library/Application Support/MobileSync/Backup/00008110-000A1D/{:06x}", 30, 110, 200),
+            File("~/Library/Containers/com.docker.docker/Data/vms/0/data/Docker.raw", 3300, logical_mb=60_000),
+            *spread("~/Library/Containers/com.apple.mail/Data/Library/Mail Downloads/{:06x}.pdf", 9, 60),
+            *spread("~/Library/Messages/Attachments/4f/15/{:06x}.heic", 12, 130),
+            *spread("~/.nvm/versions/node/v20.11.0/lib/{:06x}.js", 60, 40),
+        ],
+    ),
+    Kept(
         "the user's own",
         [
             File("~/Documents/Tax 2024.pdf", 900),

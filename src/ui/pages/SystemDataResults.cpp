@@ -112,7 +112,10 @@ QLayout* legendItem(const SystemDataItem& item) {
   swatch->setStyleSheet(u"background: %1; border-radius: 3px;"_s.arg(item.color.name()));
   QHBoxLayout* line = hbox(kLegendItemSpacing);
   line->addWidget(swatch);
-  line->addWidget(new ElidedLabel(item.title, "caption"), 1);
+  auto* title = new ElidedLabel(item.title, "caption");
+  title->ensurePolished();                           // in its own font
+  title->setMaximumWidth(title->sizeHint().width()); // the size stands beside it, however much room there is
+  line->addWidget(title, 1);
   line->addWidget(label(fmt::bytes(item.bytes), "num"));
   return line;
 }

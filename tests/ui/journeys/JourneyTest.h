@@ -8,6 +8,7 @@
 #include "core/fmt.h"
 #include "engines/Cleaner.h"
 #include "engines/Scanner.h"
+#include "engines/SystemDataScanner.h"
 #include "support/SampleHome.h"
 #include "support/uitest.h"
 #include "support/window.h"
@@ -38,6 +39,10 @@ class JourneyTest : public QObject {
   enum class Small { Sample, Empty, Mac };
   void open(Small kind = Small::Sample) {
     m_home = std::make_unique<FixtureHome>();
+    openIn(kind);
+  }
+  /// The same in the fixture that is there already.
+  void openIn(Small kind) {
     qputenv("TARNWICK_HOST", kind == Small::Mac ? "mac" : "linux");
     if (kind == Small::Sample) fillSampleHome(*m_home);
     if (kind == Small::Mac)
@@ -169,6 +174,7 @@ class JourneyTest : public QObject {
     return QString::fromUtf8(file.readAll()).split(u'\n');
   }
 
+  SystemDataWorld m_systemData; ///< its disk is an empty folder of the home's fixture, unless a test fills it
   std::unique_ptr<FixtureHome> m_home;
   std::unique_ptr<DemoHome> m_demo;
   std::unique_ptr<AppState> m_state;
@@ -184,7 +190,8 @@ class JourneyTest : public QObject {
     CleanerWorld world;
     world.lockPath = m_home->outside(u"clean.lock"_s);
     world.sleep = [](std::chrono::milliseconds) {}; // what stays is tried again at once
-    m_state = std::make_unique<AppState>(nullptr, world);
+    m_systemData.root = m_home->outside(u"disk"_s);
+    m_state = std::make_unique<AppState>(nullptr, world, m_systemData);
     m_window = std::make_unique<ui::MainWindow>(m_state.get());
     m_window->show();
     m_window->activateWindow();

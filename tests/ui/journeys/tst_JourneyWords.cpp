@@ -14,7 +14,7 @@ using namespace windowtest;
 namespace {
 
 const QRegularExpression
-    kForeign(uR"(\b(Finder|Full Disk Access|Xcode|macOS|Mac|Applications|[Mm]enu bar|Windows)\b)"_s);
+    kForeign(uR"(\b(Finder|Full Disk Access|Xcode|macOS|Mac|Time Machine|Applications|[Mm]enu bar|Windows)\b)"_s);
 
 } // namespace
 
@@ -53,6 +53,7 @@ class TestJourneyWords : public JourneyTest {
   }
   void walk();
   void walkTheClean();
+  void walkSystemData();
   void walkTheDialogs();
   [[nodiscard]] QStringList foreign() const {
     QStringList found;
@@ -77,6 +78,7 @@ void TestJourneyWords::walk() {
   look();
   m_window->go(ui::Sidebar::Cleanup);
   walkTheClean();
+  walkSystemData();
   walkTheDialogs();
 }
 
@@ -101,6 +103,21 @@ void TestJourneyWords::walkTheClean() {
   m_state->report.needsAdmin = true;
   m_state->setPhase(AppState::Done);
   look();
+}
+
+/// With every row on show, of which one could be read in part and the others not at all.
+void TestJourneyWords::walkSystemData() {
+  m_window->go(ui::Sidebar::SystemData);
+  look();
+  QTRY_VERIFY_WITH_TIMEOUT(m_state->systemDataReady, kPatienceMs);
+  look();
+  for (SystemDataItem& item : m_state->systemData) item.denied = true;
+  m_state->systemData.first().bytes = 1000;
+  for (const bool busy : {true, false}) {
+    m_state->systemDataBusy = busy;
+    emit m_state->systemDataChanged();
+    look();
+  }
 }
 
 void TestJourneyWords::walkTheDialogs() {
@@ -132,8 +149,10 @@ void TestJourneyWords::noneOfAnotherSystem() {
   for (const char* met :
        {"Nothing scanned yet", "Scanning", "Clean and delete", "Show in Files", "Version 1.0.0", "Keep in tray",
         "You have no permission to read some of these folders.", "No permission to read", "Cleanup complete",
-        "Some files belong to the system and were left alone.", "Acme is open", "Trash"})
-    QVERIFY2(all.contains(QString::fromLatin1(met)), met);
+        "Some files belong to the system and were left alone.", "Acme is open", "Trash",
+        "See what's inside System Data", "Measuring System Data…", "Managed by the system", "at least 1 KB",
+        "Only what you may read is counted."})
+    QVERIFY2(all.contains(QString::fromUtf8(met)), met);
 }
 
 // On the other host the same walk meets the words that it looks for.
@@ -141,7 +160,7 @@ void TestJourneyWords::theWalkFindsThem() {
   open(Small::Mac);
   walk();
   const QString found = foreign().join(u'\n');
-  for (const char* word : {"Finder", "Full Disk Access", "Xcode"})
+  for (const char* word : {"Finder", "Full Disk Access", "Xcode", "Time Machine"})
     QVERIFY2(found.contains(QString::fromLatin1(word)), word);
 }
 

@@ -269,6 +269,12 @@ void TestSystemDataResults::legend() {
   }
   QVERIFY(legendRow()->itemAt(3)->spacerItem());
   show();
+  for (int i = 0; i < 3; ++i) { // what there is of room is right of them
+    const auto* one = boxOf(legendRow()->itemAt(i));
+    const QWidget* title = one->itemAt(1)->widget();
+    QCOMPARE(title->width(), title->sizeHint().width());
+    QCOMPARE(one->itemAt(2)->geometry().left(), title->geometry().right() + 1 + 7);
+  }
   const QImage swatch = pixels::rendered(*boxOf(legendRow()->itemAt(0))->itemAt(0)->widget());
   QCOMPARE(swatch.size(), QSize(9, 9));
   QCOMPARE(swatch.pixelColor(4, 4), blue.color);

@@ -3,6 +3,7 @@
 
 #include "app/AppState.h"
 #include "engines/Cleaner.h"
+#include "engines/systemdata.h"
 #include "support/SampleHome.h"
 #include "support/pixels.h"
 #include "support/uitest.h"
@@ -12,9 +13,11 @@
 #include "ui/controls/PageHeader.h"
 #include "ui/pages/CleanupPage.h"
 #include "ui/pages/OverviewPage.h"
+#include "ui/pages/SystemDataPage.h"
 #include "ui/shell/AboutDialog.h"
 #include "ui/shell/CaptionButton.h"
 #include "ui/shell/ConfirmCleanDialog.h"
+#include "ui/shell/ConfirmDialog.h"
 #include "ui/shell/NavButton.h"
 #include "ui/shell/Sidebar.h"
 #include "ui/shell/SidebarToggle.h"
@@ -96,6 +99,8 @@ class TestMainWindow : public QObject {
   void doneGoesHome();
   void cleanIsAskedFor();
   void noSecondVeilWhileAsking();
+  void systemDataAsksInRed();
+  void systemDataGoesToCleanup();
   void messages();
   void collapsedInTheMacMetrics();
   void floatingToggleStandsAtTheEdge();
@@ -150,7 +155,9 @@ void TestMainWindow::startAgain() {
   m_window.reset();
   CleanerWorld world;
   world.lockPath = m_home->outside(u"clean.lock"_s); // so that no test waits for another one
-  m_state = std::make_unique<AppState>(nullptr, world);
+  SystemDataWorld systemData;
+  systemData.root = m_home->outside(u"disk"_s); // as empty on every machine
+  m_state = std::make_unique<AppState>(nullptr, world, systemData);
   m_window = std::make_unique<MainWindow>(m_state.get());
   m_window->show();
   QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
@@ -171,7 +178,7 @@ void TestMainWindow::firstSight() {
   QCOMPARE(m_window->page(), int(Sidebar::Overview));
   QVERIFY(m_window->findChild<TitleBar*>());
   QCOMPARE(m_window->findChild<TitleBar*>()->width(), 1180);
-  QCOMPARE(m_window->findChildren<NavButton*>().size(), 2); // of the pages that there are
+  QCOMPARE(m_window->findChildren<NavButton*>().size(), 3); // of the pages that there are
 }
 
 void TestMainWindow::noMenuWithoutAMenu() {
@@ -183,8 +190,11 @@ void TestMainWindow::pagesByNumber() {
   m_window->go(Sidebar::Cleanup);
   QCOMPARE(m_window->page(), int(Sidebar::Cleanup));
   QVERIFY(m_window->findChild<CleanupPage*>()->isVisible());
-  m_window->go(Sidebar::SystemData); // not there
+  m_window->go(99); // not there
   QCOMPARE(m_window->page(), int(Sidebar::Cleanup));
+  m_window->go(Sidebar::SystemData);
+  QCOMPARE(m_window->page(), int(Sidebar::SystemData));
+  QVERIFY(m_window->findChild<SystemDataPage*>()->isVisible());
   emit m_window->findChild<Sidebar*>()->navigate(Sidebar::Overview);
   QCOMPARE(m_window->page(), int(Sidebar::Overview));
 }
@@ -225,6 +235,23 @@ void TestMainWindow::noSecondVeilWhileAsking() {
   emit m_window->findChild<CleanupPage*>()->confirmRequested();
   emit m_window->findChild<CleanupPage*>()->confirmRequested();
   QCOMPARE(m_window->findChildren<ConfirmCleanDialog*>().size(), 1);
+}
+
+void TestMainWindow::systemDataAsksInRed() {
+  auto* page = m_window->findChild<SystemDataPage*>();
+  emit page->confirmAction(u"Sure?"_s, u"It is gone then."_s, u"Do it"_s, u"snapshots"_s);
+  emit page->confirmAction(u"Again?"_s, u"It is gone then."_s, u"Do it"_s, u"snapshots"_s);
+  const auto dialogs = m_window->findChildren<ConfirmDialog*>();
+  QCOMPARE(dialogs.size(), 1);
+  QVERIFY(windowtest::shows(*dialogs[0], u"Sure?"_s));
+  QVERIFY(windowtest::shows(*dialogs[0], u"It is gone then."_s));
+  QCOMPARE(windowtest::button(*dialogs[0], u"Do it"_s)->property("kind").toString(), u"danger"_s);
+  QVERIFY(!m_state->systemDataBusy);
+}
+
+void TestMainWindow::systemDataGoesToCleanup() {
+  emit m_window->findChild<SystemDataPage*>()->openCleanup();
+  QCOMPARE(m_window->page(), int(Sidebar::Cleanup));
 }
 
 void TestMainWindow::messages() {
@@ -382,6 +409,10 @@ void TestMainWindow::everyControlHasAName() {
   scanWithButton();
   check();
   emit m_window->findChild<OverviewPage*>()->openCleanup(u"dev"_s);
+  check();
+  m_window->go(Sidebar::SystemData);
+  check();
+  QTRY_VERIFY(m_state->systemDataReady);
   check();
   emit m_window->findChild<CleanupPage*>()->confirmRequested();
   check();
