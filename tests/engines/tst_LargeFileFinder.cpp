@@ -101,8 +101,8 @@ QList<qint64> blocks(const QList<LargeFile>& files) {
 }
 
 void setTimes(const QString& path, qint64 accessedMs, qint64 modifiedMs) {
-  const auto spec = [](qint64 ms) { return timespec{ms / 1000, (ms % 1000) * 1'000'000}; };
-  const timespec times[2] = {spec(accessedMs), spec(modifiedMs)};
+  const auto toTimespec = [](qint64 ms) { return timespec{ms / 1000, (ms % 1000) * 1'000'000}; };
+  const timespec times[2] = {toTimespec(accessedMs), toTimespec(modifiedMs)};
   if (::utimensat(AT_FDCWD, trees::raw(path).constData(), times, 0) != 0) qFatal("cannot set times");
 }
 
