@@ -6,6 +6,7 @@
 #include "cli/words.h"
 #include "core/fmt.h"
 #include "core/names.h"
+#include "engines/LargeFileFinder.h"
 #include "engines/SystemDataScanner.h"
 
 using namespace Qt::StringLiterals;
@@ -28,6 +29,12 @@ Progress::Progress(const AppState& state) : m_state(state), m_possible(terminal:
     m_total = total;
     m_path = path;
   });
+  connect(&state, &AppState::largeProgress, this,
+          [this](qint64 /*filesSeen*/, const QString& dir, int found, qint64 bytes) {
+            m_path = dir;
+            m_found = found;
+            m_done = bytes;
+          });
   connect(&state, &AppState::systemDataProgress, this,
           [this](int row, int /*rows*/, const QString& path, qint64 bytes) {
             m_row = row;
@@ -41,7 +48,11 @@ Progress::~Progress() { hide(); }
 void Progress::show() {
   if (!m_possible) return;
   m_elapsed.start();
-  if (m_state.systemDataScanner->isRunning())
+  m_task = m_state.phase == AppState::Scanning      ? Task::Scan
+           : m_state.phase == AppState::Cleaning    ? Task::Clean
+           : m_state.systemDataScanner->isRunning() ? Task::Measure
+                                                    : Task::Search;
+  if (m_task == Task::Measure)
     for (const SystemDataItem& item : systemdata::definitions()) m_rows << item.title;
   m_timer.start(kRedraw);
   draw();
@@ -71,16 +82,33 @@ QString Progress::cleaning() const {
          Words::tr("%1 of %2 files").arg(fmt::count(m_state.cleanFiles), fmt::count(m_state.cleanFilesTotal));
 }
 
+QString Progress::searching() const {
+  return Words::tr("Searching") + kGap + fmt::bytes(m_done) + kGap +
+         Words::tr("%1 of %2 files").arg(fmt::count(m_found), fmt::count(m_state.largeProgressCount));
+}
+
 QString Progress::measuring() const {
   return m_rows.value(m_row) + kGap + fmt::bytes(m_done) + kGap +
          Words::tr("%1 of %2").arg(fmt::count(m_row + 1), fmt::count(m_rows.size()));
 }
 
+QString Progress::figures() const {
+  switch (m_task) {
+  case Task::Scan:
+    break;
+  case Task::Clean:
+    return cleaning();
+  case Task::Search:
+    return searching();
+  case Task::Measure:
+    return measuring();
+  }
+  return scanning();
+}
+
 void Progress::draw() const {
-  const bool scans = m_state.phase == AppState::Scanning;
-  const QString what = scans ? scanning() : m_state.phase == AppState::Cleaning ? cleaning() : measuring();
-  const QString head = what + kGap + fmt::clock(m_elapsed.elapsed() / kMsPerSecond) + kGap;
-  const QString path = names::escaped(fmt::shortPath(scans ? m_state.scanPath : m_path));
+  const QString head = figures() + kGap + fmt::clock(m_elapsed.elapsed() / kMsPerSecond) + kGap;
+  const QString path = names::escaped(fmt::shortPath(m_task == Task::Scan ? m_state.scanPath : m_path));
   const int most = terminal::width(terminal::kErrors) - 1; // a full line would wrap
   const QString tail = terminal::elided(m_note.isEmpty() ? path : m_note, most - terminal::columns(head));
   Output(terminal::kErrors).write(kWipe + terminal::elided(head + tail, most));

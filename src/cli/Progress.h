@@ -26,16 +26,21 @@ class Progress : public QObject {
 
  private:
   void draw() const;
+  [[nodiscard]] QString figures() const;
   [[nodiscard]] QString scanning() const;
   [[nodiscard]] QString cleaning() const;
+  [[nodiscard]] QString searching() const;
   [[nodiscard]] QString measuring() const;
 
   const AppState& m_state;
   const bool m_possible;
   QString m_note;
-  qint64 m_done = 0; // bytes of a clean, as m_total, or of a row of System Data
+  enum class Task { Scan, Clean, Search, Measure };
+  Task m_task = Task::Scan;
+  qint64 m_done = 0; // bytes of a clean, as m_total, or of a row of System Data, or that large files hold
   qint64 m_total = 0;
   QString m_path;
+  int m_found = 0;    // large files
   QStringList m_rows; // titles of System Data, read once it is measured
   int m_row = 0;      // of them, the one being measured
   QElapsedTimer m_elapsed;

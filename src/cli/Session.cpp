@@ -44,6 +44,17 @@ void Session::clean(const RunOptions& options) {
   waitWhile(AppState::Cleaning, Words::tr("finishing this item, then stopping…"), &AppState::stopClean);
 }
 
+Session::LargeSearch Session::searchLarge(int megabytes) {
+  LargeFileFinder* finder = m_state.largeFinder;
+  LargeSearch search;
+  connect(finder, &LargeFileFinder::finished, this, [&](const QList<LargeFile>& files) { search.files = files; });
+  m_state.startLargeScanOver(megabytes);
+  waitFor(finder, &LargeFileFinder::finished, Words::tr("cancelling…"), [=] { finder->cancel(); });
+  disconnect(finder, nullptr, this, nullptr);
+  search.summary = finder->summary();
+  return search;
+}
+
 QList<SystemDataItem> Session::measureSystemData() {
   SystemDataScanner* scanner = m_state.systemDataScanner;
   QList<SystemDataItem> rows;

@@ -5,6 +5,7 @@
 #include "cli/Progress.h"
 #include "cli/commands.h"
 #include "core/Interrupts.h"
+#include "engines/LargeFileFinder.h"
 
 #include <functional>
 
@@ -23,6 +24,14 @@ class Session : public QObject {
   qint64 scan(const RunOptions& options);
   /// Cleans what is selected, and returns when the report is there. Ctrl-C lets it finish its item.
   void clean(const RunOptions& options);
+  /// What a search for large files came to.
+  struct LargeSearch {
+    QList<LargeFile> files;
+    LargeFileFinder::Summary summary;
+  };
+  /// Returns when the search for files above @p megabytes is over; Ctrl-C cancels it.
+  /// @return the largest files; of a cancelled search what was found until then
+  [[nodiscard]] LargeSearch searchLarge(int megabytes);
   /// Returns when System Data is measured; Ctrl-C cancels it.
   /// @return all rows; of a cancelled run with the figures so far
   [[nodiscard]] QList<SystemDataItem> measureSystemData();

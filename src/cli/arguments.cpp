@@ -30,11 +30,13 @@ constexpr std::array kVerbs = {
             QT_TRANSLATE_NOOP("Cli", "Measures what could be cleaned, and changes nothing.")},
     VerbRow{Verb::Clean, "clean", "[--only ID[,ID]] [--exclude RULE] [--delete|--trash] [--dry-run] [--yes] [--json]",
             QT_TRANSLATE_NOOP("Cli", "Scans, shows what would go, asks, and cleans it.")},
+    VerbRow{Verb::Large, "large", "[--min-mb N] [--json]",
+            QT_TRANSLATE_NOOP("Cli", "Searches the home folder for large files, and changes nothing.")},
     VerbRow{Verb::System, "system", "[--json]",
             QT_TRANSLATE_NOOP("Cli", "Measures what makes up the system's share of the disk, and changes nothing.")},
 };
 
-enum Takers { kScan = 1, kClean = 2, kSystem = 4, kBoth = kScan | kClean, kAll = kBoth | kSystem };
+enum Takers { kScan = 1, kClean = 2, kLarge = 4, kSystem = 8, kBoth = kScan | kClean, kAll = kBoth | kLarge | kSystem };
 
 struct OptionRow {
   const char* name;
@@ -55,6 +57,9 @@ constexpr std::array kOptions = {
     OptionRow{"dry-run", nullptr, kClean,
               QT_TRANSLATE_NOOP("Cli", "touch nothing; list what would go and what would stay, and why")},
     OptionRow{"yes", nullptr, kClean, QT_TRANSLATE_NOOP("Cli", "don't ask")},
+    OptionRow{"min-mb", "N", kLarge,
+              QT_TRANSLATE_NOOP("Cli", "look for files that take at least so many megabytes on the disk, whatever the "
+                                       "settings say")},
     OptionRow{"json", nullptr, kAll, QT_TRANSLATE_NOOP("Cli", "one JSON object on standard output")},
 };
 
@@ -68,6 +73,8 @@ int takerOf(Verb verb) {
     return kScan;
   case Verb::Clean:
     return kClean;
+  case Verb::Large:
+    return kLarge;
   case Verb::System:
     break;
   }
@@ -229,6 +236,17 @@ QString readExclude(const QStringList& values, QStringList* exclude) {
   return {};
 }
 
+/// Reads the size of a large file; the last one counts.
+QString readMinimum(const QStringList& values, std::optional<int>* megabytes) {
+  if (values.isEmpty()) return {};
+  bool isNumber = false;
+  const int number = values.last().toInt(&isNumber);
+  if (!isNumber || number < 0)
+    return Words::tr("--min-mb wants a number of megabytes, not %1").arg(quoted(values.last()));
+  *megabytes = number;
+  return {};
+}
+
 Parsed readCommand(const QCommandLineParser& parser, const VerbRow& verb, const QStringList& categoryIds) {
   Command command;
   command.verb = verb.verb;
@@ -240,6 +258,7 @@ Parsed readCommand(const QCommandLineParser& parser, const VerbRow& verb, const 
   QString error = mismatched(parser, verb);
   if (error.isEmpty()) error = readOnly(parser.values(u"only"_s), categoryIds, &command.only);
   if (error.isEmpty()) error = readExclude(parser.values(u"exclude"_s), &command.exclude);
+  if (error.isEmpty()) error = readMinimum(parser.values(u"min-mb"_s), &command.minMegabytes);
   if (!error.isEmpty()) return {Parsed::Outcome::Error, error, {}};
   return {Parsed::Outcome::Run, {}, command};
 }

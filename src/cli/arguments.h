@@ -8,7 +8,7 @@
 
 namespace cli {
 
-enum class Verb { Scan, Clean, System };
+enum class Verb { Scan, Clean, Large, System };
 
 /// A command that makes sense.
 struct Command {
@@ -16,6 +16,7 @@ struct Command {
   QStringList only;                ///< category ids, each once; empty means all, or for a clean the recommended ones
   QStringList exclude;             ///< rules for this run
   std::optional<bool> moveToTrash; ///< empty: as the settings say
+  std::optional<int> minMegabytes; ///< of a large file, decimal; empty: as the settings say
   bool json = false;
   bool dryRun = false;
   bool yes = false;

@@ -21,6 +21,9 @@ struct World {
 /// Scans, shows the plan, asks, and cleans: moves to the Trash or deletes, unless it is a dry run.
 [[nodiscard]] ExitCode clean(const Command& command, Output* out, const World& world);
 
+/// Searches the home folder for large files, and lists them. Changes nothing.
+[[nodiscard]] ExitCode large(const Command& command, Output* out);
+
 /// Measures System Data, and shows what there is and what can be done about it. Changes nothing.
 [[nodiscard]] ExitCode systemData(const Command& command, Output* out, const World& world);
 

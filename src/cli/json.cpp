@@ -36,6 +36,11 @@ QJsonObject object(const CategoryResult& category) {
           {u"items"_s, items}};
 }
 
+QJsonObject object(const LargeFile& file) {
+  return {{u"path"_s, file.path}, {u"name"_s, file.name}, {u"dir"_s, file.dir},
+          {u"kind"_s, file.kind}, {u"size"_s, file.size}, {u"lastUsed"_s, file.lastUsed.toMSecsSinceEpoch()}};
+}
+
 QJsonObject object(const SystemDataItem& item) {
   return {{u"id"_s, item.id},
           {u"title"_s, item.title},
@@ -83,6 +88,16 @@ QString json::text(const Clean& clean) {
                {u"logPath"_s, report.logPath},
                {u"needsAdmin"_s, report.needsAdmin},
                {u"runningApps"_s, QJsonArray::fromStringList(report.runningApps)}});
+}
+
+QString json::text(const Large& large) {
+  QJsonArray files;
+  for (const LargeFile& one : large.files) files << object(one);
+  return line({{u"cancelled"_s, large.cancelled},
+               {u"filesSeen"_s, large.summary.filesSeen},
+               {u"found"_s, large.summary.found},
+               {u"bytesFound"_s, large.summary.bytesFound},
+               {u"files"_s, files}});
 }
 
 QString json::text(const SystemData& data) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/records.h"
+#include "engines/LargeFileFinder.h"
 
 #include <QString>
 
@@ -19,6 +20,12 @@ struct Clean {
   bool toTrash = true;
 };
 
+struct Large {
+  QList<LargeFile> files; ///< largest first
+  LargeFileFinder::Summary summary;
+  bool cancelled = false;
+};
+
 struct SystemData {
   QList<SystemDataItem> items; ///< in the catalogue's order
   bool cancelled = false;
@@ -27,6 +34,7 @@ struct SystemData {
 /// One object on a line of its own.
 [[nodiscard]] QString text(const Scan& scan);
 [[nodiscard]] QString text(const Clean& clean);
+[[nodiscard]] QString text(const Large& large);
 [[nodiscard]] QString text(const SystemData& data);
 
 } // namespace cli::json

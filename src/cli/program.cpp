@@ -32,6 +32,8 @@ ExitCode carryOut(const Command& command, Output* out, const World& world) {
     break;
   case Verb::Clean:
     return clean(command, out, world);
+  case Verb::Large:
+    return large(command, out);
   case Verb::System:
     return systemData(command, out, world);
   }

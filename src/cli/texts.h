@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/records.h"
+#include "engines/LargeFileFinder.h"
 
 #include <QString>
 
@@ -18,6 +19,10 @@ struct Paper {
 
 /// What a scan found, as a table.
 [[nodiscard]] QString scanText(const QList<CategoryResult>& categories, qint64 elapsedMs, const Paper& paper);
+
+/// Which large files a search has found, as a table. @p megabytes is what it looked for.
+[[nodiscard]] QString largeText(const QList<LargeFile>& files, const LargeFileFinder::Summary& summary, int megabytes,
+                                qint64 elapsedMs, const Paper& paper);
 
 /// What System Data was measured to be, as two tables: what the user can reclaim, and what the system manages.
 [[nodiscard]] QString systemDataText(const QList<SystemDataItem>& items, qint64 elapsedMs, const Paper& paper);
