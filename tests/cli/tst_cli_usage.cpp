@@ -107,7 +107,7 @@ void tst_cli_usage::mistakes_data() {
     QTest::newRow(arguments) << QString::fromLatin1(arguments).split(u' ') << QString::fromLatin1(names);
   };
   row("wash", "'wash'");
-  row("wash", "only \"scan\", \"clean\" and \"system\"");
+  row("wash", "only \"scan\", \"clean\", \"large\" and \"system\"");
   row("scan clean", "'clean'");
   row("scan --bogus", "'--bogus'");
   row("--bogus", "'--bogus'");
