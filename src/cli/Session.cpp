@@ -48,8 +48,9 @@ Session::LargeSearch Session::searchLarge(int megabytes) {
   LargeFileFinder* finder = m_state.largeFinder;
   LargeSearch search;
   connect(finder, &LargeFileFinder::finished, this, [&](const QList<LargeFile>& files) { search.files = files; });
-  m_state.startLargeScanOver(megabytes);
-  waitFor(finder, &LargeFileFinder::finished, Words::tr("cancelling…"), [=] { finder->cancel(); });
+  waitFor(
+      finder, &LargeFileFinder::finished, Words::tr("cancelling…"), [=] { finder->cancel(); },
+      [&] { m_state.startLargeScanOver(megabytes); });
   disconnect(finder, nullptr, this, nullptr);
   search.summary = finder->summary();
   return search;
@@ -59,8 +60,9 @@ QList<SystemDataItem> Session::measureSystemData() {
   SystemDataScanner* scanner = m_state.systemDataScanner;
   QList<SystemDataItem> rows;
   connect(scanner, &SystemDataScanner::finished, this, [&](const QList<SystemDataItem>& all) { rows = all; });
-  m_state.startSystemDataScan();
-  waitFor(scanner, &SystemDataScanner::finished, Words::tr("cancelling…"), [=] { scanner->cancel(); });
+  waitFor(
+      scanner, &SystemDataScanner::finished, Words::tr("cancelling…"), [=] { scanner->cancel(); },
+      [this] { m_state.startSystemDataScan(); });
   disconnect(scanner, nullptr, this, nullptr);
   return rows;
 }
@@ -71,13 +73,15 @@ void Session::waitWhile(AppState::Phase phase, const QString& noteOfStopping, vo
 }
 
 template <typename Sender, typename Signal>
-void Session::waitFor(Sender* sender, Signal ended, const QString& noteOfStopping, const std::function<void()>& stop) {
+void Session::waitFor(Sender* sender, Signal ended, const QString& noteOfStopping, const std::function<void()>& stop,
+                      const std::function<void()>& start) {
   QEventLoop loop;
   connect(sender, ended, &loop, &QEventLoop::quit);
   connect(&m_interrupts, &Interrupts::interrupted, &loop, [&] {
     m_progress.setNote(noteOfStopping);
     stop();
   });
+  start();
   m_progress.show();
   loop.exec();
   m_progress.hide();

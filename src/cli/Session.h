@@ -45,9 +45,12 @@ class Session : public QObject {
 
  private:
   void waitWhile(AppState::Phase phase, const QString& noteOfStopping, void (AppState::*stop)());
-  /// Runs until @p sender emits @p ended; @p stop is how the user's wish is passed on.
+  /// Starts something, and runs until @p sender emits @p ended; @p stop is how the user's wish is passed on. Work on
+  /// another thread must be started here: it may have ended before anybody else could listen.
   template <typename Sender, typename Signal>
-  void waitFor(Sender* sender, Signal ended, const QString& noteOfStopping, const std::function<void()>& stop);
+  void waitFor(
+      Sender* sender, Signal ended, const QString& noteOfStopping, const std::function<void()>& stop,
+      const std::function<void()>& start = [] {});
 
   AppState m_state;
   Interrupts m_interrupts;
