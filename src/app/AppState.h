@@ -75,6 +75,7 @@ class AppState : public QObject {
   LargeFileFinder* largeFinder = nullptr;     ///< a child
   QList<LargeFile> largeFiles;                ///< of the last complete search, less what was moved away; largest first
   bool largeScanned = false;                  ///< a search was completed at least once
+  bool largeSearching = false;                ///< from the start of a search until its end has arrived here
   qint64 largeProgressCount = 0;              ///< files seen so far in the running search
   QList<TrashUndoEntry> trashUndo;            ///< what the last trashLargeFiles() moved
   SystemDataScanner* systemDataScanner = nullptr; ///< a child

@@ -5,6 +5,8 @@
 #include "engines/systemdata.h"
 #include "ui/controls/Button.h"
 #include "ui/pages/CleanupPage.h"
+#include "ui/pages/LargeFilesModel.h"
+#include "ui/pages/LargeFilesPage.h"
 #include "ui/pages/SystemDataPage.h"
 #include "ui/pages/SystemDataResults.h"
 #include "ui/pages/SystemDataRow.h"
@@ -14,6 +16,7 @@
 
 #include <QDir>
 #include <QEventLoop>
+#include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -215,6 +218,93 @@ void closeDialog(Scene* scene) {
   (new ui::CloseDialog(clientArea))->open();
 }
 
+struct SampleFile {
+  const char* folder; ///< below the home folder
+  const char* name;
+  const char* kind;
+  qint64 megabytes;
+  int days; ///< since it was last used
+};
+constexpr SampleFile kLargeFiles[] = {
+    {"VMs", "debian-testing.qcow2", "Disk image", 24'300, 12},
+    {"Films/Summer", "lake-house-take-04.mov", "Video", 8'420, 210},
+    {"Backups", "photos-before-the-move.tar.zst", "Archive", 6'130, 540},
+    {"Films/Summer", "lake-house-take-02.mov", "Video", 5'870, 212},
+    {"Downloads", "openlight-desktop-23.1-live.iso", "Disk image", 4'720, 35},
+    {"Projects/survey/data", "responses-2019-2024.parquet", "Document", 3'940, 3},
+    {"Films", "wedding-full-length.mkv", "Video", 3'610, 800},
+    {"Projects/survey/data", "tracks.sqlite", "Document", 2'480, 0},
+    {"Music/Sessions", "evening-mix-stereo.flac", "Audio", 1'890, 95},
+    {"Downloads", "toolkit-sdk-linux.tar.gz", "Archive", 1'640, 64},
+    {"Pictures/Scans", "map-sheet-14.tif", "Image", 1'220, 400},
+    {"Downloads", "big-archive.zip.part", "Partial download", 980, 1},
+    {"Pictures/Scans", "map-sheet-15.tif", "Image", 870, 401},
+    {"Backups", "phone-2023.backup", "Backup", 760, 610},
+    {"Films", "trailer-rough-cut.mp4", "Video", 640, 20},
+    {"Games/saves", "world-of-blocks.dat", "File", 520, 150},
+    {"Downloads", "office-suite.msi", "Installer", 410, 250},
+    {"Music/Sessions", "evening-mix-drums.wav", "Audio", 380, 96},
+    {"Pictures/2024", "harbour-panorama.psd", "Image", 310, 5},
+    {"Documents", "thesis-all-figures.pdf", "Document", 240, 180},
+};
+
+/// The search that the visit has begun is through; what it found makes room for what the pictures show.
+QList<LargeFile> sampleFiles(Scene* scene) {
+  AppState& state = scene->state;
+  QEventLoop loop;
+  QObject::connect(&state, &AppState::largeFilesChanged, &loop, [&] {
+    if (!state.largeSearching) loop.quit();
+  });
+  if (state.largeSearching) loop.exec();
+  QList<LargeFile> files;
+  for (const SampleFile& one : kLargeFiles) {
+    LargeFile file;
+    file.name = QString::fromLatin1(one.name);
+    file.dir = QDir::homePath() + u'/' + QString::fromLatin1(one.folder);
+    file.path = file.dir + u'/' + file.name;
+    file.kind = QString::fromLatin1(one.kind);
+    file.size = one.megabytes * kMb;
+    file.lastUsed = QDateTime::currentDateTime().addDays(-one.days);
+    files << file;
+  }
+  return files;
+}
+
+void spaceStart(Scene* scene) {
+  (void)sampleFiles(scene);
+  scene->state.largeScanned = false;
+  emit scene->state.largeFilesChanged();
+}
+
+void spaceSearch(Scene* scene) {
+  constexpr int kTop = 8;
+  const QList<LargeFile> files = sampleFiles(scene);
+  AppState& state = scene->state;
+  state.largeSearching = true;
+  emit state.largeFilesChanged();
+  qint64 bytes = 0;
+  for (const LargeFile& file : files) bytes += file.size;
+  emit state.largeProgress(183'402, files.last().dir + u"/figures/appendix/c"_s, int(files.size()), bytes,
+                           files.mid(0, kTop));
+}
+
+void spaceFound(Scene* scene) {
+  scene->state.largeFiles = sampleFiles(scene);
+  scene->state.largeScanned = true;
+  emit scene->state.largeFilesChanged();
+}
+
+void spaceTicked(Scene* scene) {
+  spaceFound(scene);
+  auto* model = scene->window.findChild<ui::LargeFilesModel*>();
+  for (const int row : {1, 2, 6, 12}) model->toggle(model->files().at(row).path);
+}
+
+void spaceNothingKept(Scene* scene) {
+  spaceFound(scene);
+  scene->window.findChild<ui::LargeFilesPage*>()->findChild<QLineEdit*>()->setText(u"quarterly report"_s);
+}
+
 void toast(Scene* scene) { scene->window.showToast(u"Moved 12 items to the Trash"_s, true); }
 
 constexpr ViewEntry kViews[] = {
@@ -228,6 +318,11 @@ constexpr ViewEntry kViews[] = {
     {"cleanup-review-collapsed", Cleanup, true, collapsed},
     {"cleanup-cleaning", Cleanup, true, cleanHalfThrough},
     {"cleanup-done", Cleanup, true, cleanReport},
+    {"space-start", SpaceMap, false, spaceStart},
+    {"space-search", SpaceMap, false, spaceSearch},
+    {"space-results", SpaceMap, false, spaceFound},
+    {"space-results-ticked", SpaceMap, false, spaceTicked},
+    {"space-results-none", SpaceMap, false, spaceNothingKept},
     {"clean-question", Cleanup, true, cleanQuestion},
     {"system-data-start", SystemData, false, systemDataUnmeasured},
     {"system-data-scan", SystemData, false, systemDataHalfThrough},

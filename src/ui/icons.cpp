@@ -81,12 +81,14 @@ void paint(QPainter* painter, const QRectF& rect, const QString& name, const QCo
   painter->restore();
 }
 
-QIcon icon(const QString& name, const QColor& colour, int size) {
+QIcon icon(const QString& name, const QColor& colour, int size, int side) {
+  const double margin = qMax(0, side - size) / 2.0;
+  const auto paintIcon = [&](QPainter* painter, const QRectF& rect) {
+    paint(painter, rect.adjusted(margin, margin, -margin, -margin), name, colour);
+  };
   QIcon result;
   for (const double ratio : kRatios)
-    result.addPixmap(
-        pixmap(size, ratio, [&](QPainter* painter, const QRectF& rect) { paint(painter, rect, name, colour); }),
-        QIcon::Normal, QIcon::Off);
+    result.addPixmap(pixmap(qMax(size, side), ratio, paintIcon), QIcon::Normal, QIcon::Off);
   return result;
 }
 

@@ -11,6 +11,7 @@
 #include "ui/controls/factory.h"
 #include "ui/icons.h"
 #include "ui/pages/CleanupPage.h"
+#include "ui/pages/LargeFilesPage.h"
 #include "ui/pages/OverviewPage.h"
 #include "ui/pages/SystemDataPage.h"
 #include "ui/paint.h"
@@ -101,7 +102,7 @@ void MainWindow::buildFrame() {
 }
 
 void MainWindow::buildContent() {
-  QList<int> numbers{Sidebar::Overview, Sidebar::Cleanup};
+  QList<int> numbers{Sidebar::Overview, Sidebar::Cleanup, Sidebar::SpaceMap};
   if (systemdata::supported()) numbers << Sidebar::SystemData;
   QHBoxLayout* row = hbox();
   m_central->setLayout(row);
@@ -118,6 +119,7 @@ void MainWindow::buildPages() {
   m_cleanupPage = new CleanupPage(m_state);
   addPage(Sidebar::Overview, m_overviewPage);
   addPage(Sidebar::Cleanup, m_cleanupPage);
+  addPage(Sidebar::SpaceMap, new LargeFilesPage(m_state));
   if (systemdata::supported()) addPage(Sidebar::SystemData, buildSystemData());
 }
 
@@ -169,6 +171,7 @@ void MainWindow::connectState() {
     if (m_state->phase == AppState::Scanning) go(Sidebar::Cleanup);
   });
   connect(m_state, &AppState::toast, this, &MainWindow::showToast);
+  connect(m_toast, &Toast::undo, m_state, &AppState::undoLastTrash);
   connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
 }
 

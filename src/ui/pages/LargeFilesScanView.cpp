@@ -1,0 +1,151 @@
+#include "ui/pages/LargeFilesScanView.h"
+
+#include "core/fmt.h"
+#include "ui/TipStyler.h"
+#include "ui/controls/Card.h"
+#include "ui/controls/ElidedLabel.h"
+#include "ui/controls/IconTile.h"
+#include "ui/controls/factory.h"
+#include "ui/pages/CleanupWords.h"
+#include "ui/pages/LargeFileKind.h"
+#include "ui/pages/LargeFilesWords.h"
+#include "ui/pages/furniture.h"
+#include "ui/visuals/Radar.h"
+
+#include <QDir>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <chrono>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace ui {
+
+namespace {
+
+constexpr auto kTick = 1000ms;
+constexpr qint64 kMsInSecond = 1000;
+
+// Lengths in pixels.
+constexpr int kBodySpacing = 18;
+constexpr int kBodyBottom = 28;
+constexpr int kPathMin = 80;
+constexpr QMargins kCardMargins(8, 8, 8, 8);
+constexpr QMargins kHeadingMargins(12, 14, 12, 8);
+constexpr int kRowGap = 2;
+constexpr QMargins kWaitingMargins(12, 8, 12, 8);
+constexpr int kRowSpacing = 14;
+constexpr QMargins kRowMargins(12, 8, 14, 8);
+constexpr int kTile = 30;
+constexpr int kLineSpacing = 1;
+
+/// A shortened line of what comes from the disk.
+ElidedLabel* line(const QString& text, const char* role, const QString& style) {
+  auto* result = new ElidedLabel(text, role);
+  result->setTextFormat(Qt::PlainText);
+  result->setStyleSheet(style);
+  return result;
+}
+
+QHBoxLayout* fileRow(const LargeFile& file) {
+  const KindStyle& style = kindStyle(file.kind);
+  QVBoxLayout* lines = vbox(kLineSpacing);
+  lines->addWidget(line(file.name, nullptr, u"font-weight: 500;"_s));
+  lines->addWidget(line(fmt::shortPath(file.dir), "mono", u"font-size: 10px;"_s));
+  QLabel* size = label(fmt::bytes(file.size), "num");
+  size->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  QHBoxLayout* row = hbox(kRowSpacing, kRowMargins);
+  row->addWidget(new IconTile(style.icon, style.colour, kTile));
+  row->addLayout(lines, 1);
+  row->addWidget(size);
+  return row;
+}
+
+QList<QString> pathsOf(const QList<LargeFile>& files) {
+  QList<QString> paths;
+  for (const LargeFile& file : files) paths << file.path;
+  return paths;
+}
+
+} // namespace
+
+LargeFilesScanView::LargeFilesScanView(QWidget* parent)
+    : QWidget(parent),
+      m_radarCard(new RadarCard(LargeFilesWords::tr("Looking for large files…"))),
+      m_itemsValue(m_radarCard->addCounter(CleanupWords::tr("Items checked"))),
+      m_foundValue(m_radarCard->addCounter(LargeFilesWords::tr("Large files"))),
+      m_elapsedValue(m_radarCard->addCounter(CleanupWords::tr("Elapsed"))),
+      m_largest(vbox(kRowGap)),
+      m_waiting(label(LargeFilesWords::tr("Looking for large files…"), "sub")),
+      m_tickTimer(new QTimer(this)) {
+  m_radarCard->path()->setObjectName("scanPath"_L1);
+  m_itemsValue->setObjectName("itemsValue"_L1);
+  m_foundValue->setObjectName("foundValue"_L1);
+  m_elapsedValue->setObjectName("elapsedValue"_L1);
+  m_waiting->setObjectName("waiting"_L1);
+  m_tickTimer->setInterval(kTick);
+  connect(m_tickTimer, &QTimer::timeout, this, &LargeFilesScanView::showElapsed);
+  QHBoxLayout* body = hbox(kBodySpacing, {pageSide(), 0, pageSide(), kBodyBottom});
+  setLayout(body);
+  body->addWidget(m_radarCard);
+  body->addWidget(buildLargest(), 1);
+}
+
+QWidget* LargeFilesScanView::buildLargest() {
+  QHBoxLayout* heading = hbox(0, kHeadingMargins);
+  heading->addWidget(eyebrow(LargeFilesWords::tr("Largest so far")));
+  m_waiting->setContentsMargins(kWaitingMargins);
+  auto* card = new Card;
+  QVBoxLayout* column = vbox(0, kCardMargins);
+  card->setLayout(column);
+  column->addLayout(heading);
+  column->addLayout(m_largest);
+  column->addWidget(m_waiting);
+  column->addStretch();
+  return card;
+}
+
+void LargeFilesScanView::begin() {
+  if (m_tickTimer->isActive()) return;
+  m_scanClock.start();
+  m_tickTimer->start();
+  m_radarCard->radar()->setText(fmt::bytes(0), CleanupWords::tr("found"));
+  m_radarCard->radar()->setRunning(true);
+  m_itemsValue->setText(u"—"_s);
+  m_foundValue->setText(u"0"_s);
+  m_elapsedValue->setText(fmt::clock(0));
+  m_radarCard->path()->setPath({}, 0);
+  showLargest({});
+}
+
+void LargeFilesScanView::end() {
+  m_tickTimer->stop();
+  m_radarCard->radar()->setRunning(false);
+}
+
+void LargeFilesScanView::showElapsed() { m_elapsedValue->setText(fmt::clock(m_scanClock.elapsed() / kMsInSecond)); }
+
+void LargeFilesScanView::setProgress(qint64 filesSeen, const QString& dir, int found, qint64 bytesFound,
+                                     const QList<LargeFile>& top) {
+  m_radarCard->radar()->setText(fmt::bytes(bytesFound), CleanupWords::tr("found"));
+  m_itemsValue->setText(fmt::count(filesSeen));
+  m_foundValue->setText(fmt::count(found));
+  m_radarCard->path()->setPath(dir, std::max(kPathMin, m_radarCard->path()->width()));
+  showLargest(top);
+}
+
+void LargeFilesScanView::showLargest(const QList<LargeFile>& files) {
+  m_waiting->setVisible(files.isEmpty());
+  const QList<QString> paths = pathsOf(files);
+  if (paths == m_shownLargest) return;
+  m_shownLargest = paths;
+  clearLayout(m_largest);
+  for (const LargeFile& file : files) m_largest->addLayout(fileRow(file));
+}
+
+} // namespace ui
