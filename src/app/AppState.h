@@ -216,7 +216,6 @@ class AppState : public QObject {
   RunOptions m_scanOptions; // of the running or last scan
   bool m_dryRun = false;    // the running or last clean touches nothing
   const appguard::Sources m_sources;
-  bool m_searchesLarge = false;      // until the end of a search has arrived
   QHash<QString, FileId> m_largeIds; // of largeFiles, by path
   QSet<QString> m_largeGone;         // moved away since the running search began
   QSet<QString> m_selected;

@@ -56,8 +56,8 @@ void AppState::startLargeScan() { startLargeScanOver(AppSettings::instance().lar
 
 // A search lasts until its end has arrived here, also where the worker is through before.
 void AppState::startLargeScanOver(int megabytes) {
-  if (m_searchesLarge || largeFinder->isRunning()) return;
-  m_searchesLarge = true;
+  if (largeSearching || largeFinder->isRunning()) return;
+  largeSearching = true;
   m_largeGone.clear();
   largeProgressCount = 0;
   largeFinder->start(qint64{megabytes} * fmt::unit() * fmt::unit(), AppSettings::instance().exclusions());
@@ -65,7 +65,7 @@ void AppState::startLargeScanOver(int megabytes) {
 }
 
 void AppState::onLargeFound(const QList<LargeFile>& files, bool cancelled) {
-  m_searchesLarge = false;
+  largeSearching = false;
   if (!cancelled) {
     largeFiles = files;
     largeFiles.removeIf([this](const LargeFile& file) { return m_largeGone.contains(file.path); });
@@ -103,7 +103,7 @@ void AppState::trashLargeFiles(const QList<QString>& paths) {
   const LargeMoves moves = moveLargeFiles(paths);
   trashUndo = moves.undo;
   largeFiles.removeIf([&](const LargeFile& file) { return moves.paths.contains(file.path); });
-  if (m_searchesLarge) m_largeGone += moves.paths;
+  if (largeSearching) m_largeGone += moves.paths;
   refreshVolume();
   emit largeFilesChanged();
   emit toast(moves.text(), !moves.undo.isEmpty());

@@ -19,10 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace ui {
 
-namespace {
-constexpr QMargins kStartMargins(32, 60, 32, 32); // pixels
-}
-
 LargeFilesPage::LargeFilesPage(AppState* state, QWidget* parent)
     : QWidget(parent),
       m_state(state),
@@ -49,18 +45,14 @@ LargeFilesPage::LargeFilesPage(AppState* state, QWidget* parent)
 }
 
 QWidget* LargeFilesPage::buildStart() {
-  const StartBlock block =
-      startBlock({.icon = u"layers"_s,
-                  .title = LargeFilesWords::tr("Find what's taking up space"),
-                  .text = LargeFilesWords::tr("Big files in your home folder. You decide what goes."),
-                  .button = LargeFilesWords::tr("Find large files"),
-                  .buttonIcon = u"search"_s});
-  connect(block.start, &Button::clicked, m_state, &AppState::startLargeScan);
-  block.layout->setContentsMargins(kStartMargins);
-  block.layout->addStretch();
-  auto* view = new QWidget;
-  view->setLayout(block.layout);
-  return view;
+  const StartView start =
+      startView({.icon = u"layers"_s,
+                 .title = LargeFilesWords::tr("Find what's taking up space"),
+                 .text = LargeFilesWords::tr("Big files in your home folder. You decide what goes."),
+                 .button = LargeFilesWords::tr("Find large files"),
+                 .buttonIcon = u"search"_s});
+  connect(start.start, &Button::clicked, m_state, &AppState::startLargeScan);
+  return start.view;
 }
 
 void LargeFilesPage::showEvent(QShowEvent* event) {

@@ -1,8 +1,6 @@
 #include "ui/pages/LargeFilesScanView.h"
 
 #include "core/fmt.h"
-#include "ui/TipStyler.h"
-#include "ui/controls/Card.h"
 #include "ui/controls/ElidedLabel.h"
 #include "ui/controls/IconTile.h"
 #include "ui/controls/factory.h"
@@ -12,7 +10,6 @@
 #include "ui/pages/furniture.h"
 #include "ui/visuals/Radar.h"
 
-#include <QDir>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QTimer>
@@ -29,14 +26,9 @@ namespace ui {
 namespace {
 
 constexpr auto kTick = 1000ms;
-constexpr qint64 kMsInSecond = 1000;
 
 // Lengths in pixels.
-constexpr int kBodySpacing = 18;
-constexpr int kBodyBottom = 28;
 constexpr int kPathMin = 80;
-constexpr QMargins kCardMargins(8, 8, 8, 8);
-constexpr QMargins kHeadingMargins(12, 14, 12, 8);
 constexpr int kRowGap = 2;
 constexpr QMargins kWaitingMargins(12, 8, 12, 8);
 constexpr int kRowSpacing = 14;
@@ -90,24 +82,12 @@ LargeFilesScanView::LargeFilesScanView(QWidget* parent)
   m_waiting->setObjectName("waiting"_L1);
   m_tickTimer->setInterval(kTick);
   connect(m_tickTimer, &QTimer::timeout, this, &LargeFilesScanView::showElapsed);
-  QHBoxLayout* body = hbox(kBodySpacing, {pageSide(), 0, pageSide(), kBodyBottom});
-  setLayout(body);
-  body->addWidget(m_radarCard);
-  body->addWidget(buildLargest(), 1);
-}
-
-QWidget* LargeFilesScanView::buildLargest() {
-  QHBoxLayout* heading = hbox(0, kHeadingMargins);
-  heading->addWidget(eyebrow(LargeFilesWords::tr("Largest so far")));
   m_waiting->setContentsMargins(kWaitingMargins);
-  auto* card = new Card;
-  QVBoxLayout* column = vbox(0, kCardMargins);
-  card->setLayout(column);
-  column->addLayout(heading);
-  column->addLayout(m_largest);
-  column->addWidget(m_waiting);
-  column->addStretch();
-  return card;
+  auto* largest = new ListCard(LargeFilesWords::tr("Largest so far"));
+  largest->column()->addLayout(m_largest);
+  largest->column()->addWidget(m_waiting);
+  largest->column()->addStretch();
+  setLayout(scanBody(m_radarCard, largest));
 }
 
 void LargeFilesScanView::begin() {
@@ -128,7 +108,7 @@ void LargeFilesScanView::end() {
   m_radarCard->radar()->setRunning(false);
 }
 
-void LargeFilesScanView::showElapsed() { m_elapsedValue->setText(fmt::clock(m_scanClock.elapsed() / kMsInSecond)); }
+void LargeFilesScanView::showElapsed() { m_elapsedValue->setText(fmt::clock(elapsedSeconds(m_scanClock))); }
 
 void LargeFilesScanView::setProgress(qint64 filesSeen, const QString& dir, int found, qint64 bytesFound,
                                      const QList<LargeFile>& top) {

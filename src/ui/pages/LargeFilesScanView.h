@@ -32,7 +32,6 @@ class LargeFilesScanView : public QWidget {
   void showLargest(const QList<LargeFile>& files);
 
  private:
-  QWidget* buildLargest();
   void showElapsed();
 
   RadarCard* m_radarCard;

@@ -5,6 +5,7 @@
 #include "app/identity.h"
 #include "app/records.h"
 #include "core/Interrupts.h"
+#include "engines/LargeFileFinder.h"
 #include "ui/Theme.h"
 #include "ui/i18n.h"
 #include "ui/shell/Instance.h"
@@ -93,6 +94,7 @@ int runProgram(int argc, char** argv) {
   // What runs is to end while the window is taken down, not only after it.
   QObject::connect(&app, &QCoreApplication::aboutToQuit, &state, &AppState::cancelScan);
   QObject::connect(&app, &QCoreApplication::aboutToQuit, &state, &AppState::stopClean);
+  QObject::connect(&app, &QCoreApplication::aboutToQuit, state.largeFinder, &LargeFileFinder::cancel);
   QObject::connect(&instance, &Instance::asked, &window, [&window](Instance::Wish wish) { obey(&window, wish); });
   const Interrupts interrupts;
   QObject::connect(&interrupts, &Interrupts::interrupted, &app, &QCoreApplication::quit);
