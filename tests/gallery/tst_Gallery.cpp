@@ -156,7 +156,7 @@ void TestGallery::viewsShowWhatTheyAreCalled_data() {
   QTest::newRow("space-start") << u"Find what's taking up space"_s;
   QTest::newRow("space-search") << u"Largest so far"_s;
   QTest::newRow("space-results") << u" · 20 files"_s;
-  QTest::newRow("space-results-ticked") << u"19 GB selected of "_s;
+  QTest::newRow("space-results-ticked") << u"19.0 GB selected of "_s;
   QTest::newRow("space-results-none") << u" · 0 files"_s;
   QTest::newRow("clean-question") << u"Clean and delete"_s;
   QTest::newRow("system-data-start") << u"See what's inside System Data"_s;
