@@ -48,7 +48,8 @@ QString placesText(const SystemDataItem& item) {
 }
 
 QString detailText(const SystemDataItem& item) {
-  if (item.bytes < 1 && item.denied) return isMac() ? Words::tr("needs Full Disk Access") : Words::tr("no permission");
+  if (item.bytes < 1 && item.count < 1 && item.denied)
+    return isMac() ? Words::tr("Needs Full Disk Access") : Words::tr("No permission to read");
   if (item.detail.isEmpty()) return placesText(item);
   const QString detail = names::escaped(item.detail);
   return item.id == u"hidden" ? Words::tr("Largest: %1").arg(detail) : detail;

@@ -179,13 +179,19 @@ void tst_cli_system::whatCannotBeRead() {
   m_home->file(disk(u"var/log/syslog"_s), 30'000);
   const QString shut = m_home->folder(disk(u"var/log/shut"_s));
   const QString crashes = m_home->folder(disk(u"var/crash"_s));
-  for (const QString& folder : {shut, crashes}) QCOMPARE(::chmod(QFile::encodeName(folder).constData(), 0), 0);
+  m_home->folder(disk(u"timeshift/snapshots/2026-01-01_00-00-01"_s));
+  const QString snapshots = m_home->folder(disk(u".snapshots"_s));
+  const QStringList refused{shut, crashes, snapshots};
+  for (const QString& folder : refused) QCOMPARE(::chmod(QFile::encodeName(folder).constData(), 0), 0);
   const QString text = QString::fromUtf8(runCli({u"system"_s}).out);
   const QJsonObject data = measured();
-  for (const QString& folder : {shut, crashes}) QCOMPARE(::chmod(QFile::encodeName(folder).constData(), 0700), 0);
+  for (const QString& folder : refused) QCOMPARE(::chmod(QFile::encodeName(folder).constData(), 0700), 0);
   QVERIFY2(QRegularExpression(u"System logs +at least [\\d.]+ KB"_s).match(text).hasMatch(), qPrintable(text));
-  QVERIFY2(QRegularExpression(u"Crash dumps +—  +no permission"_s).match(text).hasMatch(), qPrintable(text));
-  QVERIFY2(text.contains(u"Not everything could be read: System logs, Crash dumps."_s), qPrintable(text));
+  QVERIFY2(QRegularExpression(u"Crash dumps +—  +No permission to read"_s).match(text).hasMatch(), qPrintable(text));
+  QVERIFY2(text.contains(u"Not everything could be read: System logs, Crash dumps, System snapshots."_s),
+           qPrintable(text));
+  QVERIFY2(QRegularExpression(u"System snapshots +—  +at least 1 snapshot\n"_s).match(text).hasMatch(),
+           qPrintable(text));
   QCOMPARE(row(data, u"crash"_s)[u"denied"_s], QJsonValue(true));
   QCOMPARE(row(data, u"crash"_s)[u"bytes"_s].toInteger(-1), 0);
 }

@@ -247,6 +247,7 @@ void tst_systemdata_linux::noFileCountsTwice_data() {
   newRow("data in a virtual machine's folder in the configuration", "", ".config", ".config/VirtualBox VMs");
   newRow("data in the Flatpak data", "", "", ".var/app/data");
   newRow("data below another's place below itself", "", ".local/share/Steam/config", "");
+  newRow("data is a game library", "", "", ".steam");
   newRow("data reached through a link", "", "", "way/data", {u"way"_s, u".npm"_s});
   newRow("cache reached through a link", "way/cache", "", "", {u"way"_s, u".local/share"_s});
   newRow("the data is a link", "", "", "", {u".local/share"_s, u".npm/share"_s});

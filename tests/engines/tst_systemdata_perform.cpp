@@ -41,6 +41,7 @@ class tst_systemdata_perform : public SystemDataTest {
   void init() { make("mac"); }
   void cleanup() { drop(); }
 
+  void theSystemsOwnTools();
   void nothingToDo_data();
   void nothingToDo();
 
@@ -91,6 +92,18 @@ class tst_systemdata_perform : public SystemDataTest {
   }
   [[nodiscard]] bool there(const QString& relative) const { return fs::exists(m_home->path(relative)); }
 };
+
+void tst_systemdata_perform::theSystemsOwnTools() {
+  const SystemDataWorld world;
+  QCOMPARE(world.root, u"/"_s);
+  QCOMPARE(world.tmutil, u"/usr/bin/tmutil"_s);
+  QCOMPARE(world.osascript, u"/usr/bin/osascript"_s);
+  QCOMPARE(world.xcrun, u"/usr/bin/xcrun"_s);
+  QCOMPARE(world.open, u"/usr/bin/open"_s);
+  QCOMPARE(world.listLimitMs, 20'000);
+  QCOMPARE(world.removalLimitMs, 600'000);
+  QCOMPARE(world.simulatorLimitMs, 300'000);
+}
 
 void tst_systemdata_perform::nothingToDo_data() {
   QTest::addColumn<int>("action");
