@@ -1,8 +1,11 @@
 # The one run-time dependency.
 set(TARNWICK_QT_MIN 6.4)
 find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS Core Gui Concurrent LinguistTools)
+if(TARNWICK_BUILD_UI OR TARNWICK_BUILD_FUZZ)
+  find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS Network)
+endif()
 if(TARNWICK_BUILD_UI)
-  find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS Network Widgets Svg)
+  find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS Widgets Svg)
 endif()
 if(UNIX AND NOT APPLE)
   find_package(Qt6 ${TARNWICK_QT_MIN} REQUIRED COMPONENTS DBus)

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <functional>
+
 namespace platform {
 
 enum class Host { Mac, Linux };
@@ -49,10 +51,12 @@ void applyImportantCapacity(Volume* volume, qint64 importantBytes);
 [[nodiscard]] bool isElevated();
 [[nodiscard]] bool relaunchElevated();
 
-/// Shows the file in the file manager. Returns at once; a failure isn't reported. On Linux, where no file manager
-/// answers on the session bus, the file's folder is opened in the desktop's way instead; needs an event loop, and does
-/// nothing without one.
-void revealInFileManager(const QString& path);
+/// Shows the file in the file manager. Returns at once. On Linux, where no file manager answers on the session bus, the
+/// file's folder is opened in the desktop's way instead; needs an event loop, and does nothing without one.
+/// @param done  called once with whether something was asked to show it: on macOS before this returns, on Linux from
+/// the
+///              application's event loop, once the file manager has answered; may be empty
+void revealInFileManager(const QString& path, const std::function<void(bool)>& done = {});
 /// Opens a folder in the file manager, in the same ways.
 void openFolder(const QString& path);
 /// Opens the system's pane for Full Disk Access; nothing in a build for Linux.

@@ -21,6 +21,8 @@ ALLOWED = {
     ("src/core/sys.cpp", "unlinkat"): "the second half of that, and taking back its first half",
     ("src/core/macos/sys.cpp", "renameNoReplace"): "the system's side of it",
     ("src/core/macos/sys.cpp", "renameatx_np"): "the system call behind renameNoReplace",
+    ("src/update/PartFile.cpp", "unlinkat"): "its own download, in a folder that the program made",
+    ("src/update/PartFile.cpp", "renameat"): "gives its own download its name, in that folder",
 }
 
 POSIX = "unlink|unlinkat|rmdir|rename|renameat|renameat2|renameatx_np|renamex_np|remove|renameNoReplace"

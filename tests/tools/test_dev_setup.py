@@ -130,7 +130,7 @@ class Setup(unittest.TestCase):
 
     def test_there_what_is_found_otherwise_is_not_missing(self):
         self.system("fedora", "41")
-        for name in ("python3", "lsof", "ps"):
+        for name in ("python3", "lsof", "ps", "openssl"):
             self.add_program(name, "true")
         self.assertIn("  dbus\n", self.run_setup("test").stderr)
         self.assertNotIn("lsof", self.run_setup("test").stderr)

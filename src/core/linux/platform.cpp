@@ -23,14 +23,19 @@ namespace {
 /// A file manager that isn't there is told at once; one that has to start first may take a while.
 constexpr int kAnswerLimitMs = 10000;
 
-/// What the file manager is asked, and the folder to open if it doesn't answer.
+/// What the file manager is asked, the folder to open if it doesn't answer, and who is told of the outcome.
 struct Wish {
   QString method;
   QString path;
   QString folder;
+  std::function<void(bool)> done = {};
 };
 
-void openInDesktop(const QString& folder) { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); }
+void tell(const Wish& wish, bool isShown) {
+  if (wish.done) wish.done(isShown);
+}
+
+void openInDesktop(const Wish& wish) { tell(wish, QDesktopServices::openUrl(QUrl::fromLocalFile(wish.folder))); }
 
 /// Whether a session bus is there to connect to. Without one the bus library may start one, and wait for that.
 bool hasSessionBus() {
@@ -52,7 +57,7 @@ void ask(const QDBusConnection& bus, const Wish& wish) {
   call.setArguments({QStringList{fileUri(wish.path)}, QString()});
   auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(call, kAnswerLimitMs), QCoreApplication::instance());
   QObject::connect(answer, &QDBusPendingCallWatcher::finished, answer, [wish](QDBusPendingCallWatcher* done) {
-    if (done->isError()) openInDesktop(wish.folder);
+    done->isError() ? openInDesktop(wish) : tell(wish, true);
     done->deleteLater();
   });
 }
@@ -75,9 +80,9 @@ void send(const Wish& wish) {
   if (app == nullptr) return;
   connectors().start([app, wish] {
     const auto proceed = [app](auto step) { QMetaObject::invokeMethod(app, step, Qt::QueuedConnection); };
-    if (!hasSessionBus()) return static_cast<void>(proceed([wish] { openInDesktop(wish.folder); }));
+    if (!hasSessionBus()) return static_cast<void>(proceed([wish] { openInDesktop(wish); }));
     const QDBusConnection bus = QDBusConnection::sessionBus();
-    proceed([bus, wish] { bus.isConnected() ? ask(bus, wish) : openInDesktop(wish.folder); });
+    proceed([bus, wish] { bus.isConnected() ? ask(bus, wish) : openInDesktop(wish); });
   });
 }
 } // namespace
@@ -86,9 +91,9 @@ Host builtFor() { return Host::Linux; }
 
 qint64 importantCapacity(const QString& /*rootPath*/) { return 0; }
 
-void revealInFileManager(const QString& path) {
+void revealInFileManager(const QString& path, const std::function<void(bool)>& done) {
   const QString clean = QDir::cleanPath(path);
-  send({u"ShowItems"_s, clean, QFileInfo(clean).path()});
+  send({u"ShowItems"_s, clean, QFileInfo(clean).path(), done});
 }
 
 void openFolder(const QString& path) {

@@ -39,7 +39,10 @@ qint64 importantCapacity(const QString& rootPath) {
   return owned && CFNumberGetValue(owned.get(), kCFNumberSInt64Type, &bytes) ? bytes : 0;
 }
 
-void revealInFileManager(const QString& path) { QProcess::startDetached(u"open"_s, {u"-R"_s, path}); }
+void revealInFileManager(const QString& path, const std::function<void(bool)>& done) {
+  const bool isStarted = QProcess::startDetached(u"open"_s, {u"-R"_s, path});
+  if (done) done(isStarted);
+}
 
 void openFolder(const QString& path) { QProcess::startDetached(u"open"_s, {path}); }
 

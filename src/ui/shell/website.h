@@ -1,4 +1,4 @@
-/// The product's web site. Its host is a value of the deployment: the CMake option TARNWICK_WEBSITE.
+/// The product's web site, where the deployment says that it is (core/deployment.h).
 #pragma once
 
 #include <QString>

@@ -139,11 +139,16 @@ class TestMacServices : public QObject {
       QFile file(args);
       return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     };
-    platform::revealInFileManager(u"/a b/c'd"_s);
+    std::optional<bool> isShown;
+    platform::revealInFileManager(u"/a b/c'd"_s, [&](bool answer) { isShown = answer; });
+    QCOMPARE(isShown, std::optional(true));
     QTRY_COMPARE(seen(), QByteArray("[-R][/a b/c'd]"));
     platform::openFolder(u"/a b"_s);
     QTRY_COMPARE(seen(), QByteArray("[-R][/a b/c'd][/a b]"));
+    qputenv("PATH", home.path(u"none"_s).toUtf8());
+    platform::revealInFileManager(u"/a"_s, [&](bool answer) { isShown = answer; });
     qputenv("PATH", path);
+    QCOMPARE(isShown, std::optional(false));
   }
 
   void thePrivacyPane() {
