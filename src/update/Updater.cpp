@@ -68,7 +68,9 @@ void Updater::check() {
   release = {};
   error.clear();
   setState(Checking);
-  m_reply = get(feedUrl, timeouts.feed);
+  QNetworkRequest request(feedUrl);
+  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+  m_reply = get(std::move(request), timeouts.feed);
   // A server that sends a byte now and then never runs into the first time-out.
   m_feedLimit->start(timeouts.wholeFeed);
   connect(m_reply, &QNetworkReply::readyRead, this, [this] {
@@ -79,10 +81,8 @@ void Updater::check() {
 
 /// Nothing compressed is asked for, and with this header of our own nothing is unpacked: the limits count what is
 /// really received.
-QNetworkReply* Updater::get(const QUrl& url, std::chrono::milliseconds timeout) {
-  QNetworkRequest request(url);
+QNetworkReply* Updater::get(QNetworkRequest request, std::chrono::milliseconds timeout) {
   request.setTransferTimeout(static_cast<int>(timeout.count()));
-  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
   request.setHeader(QNetworkRequest::UserAgentHeader, u"Tarnwick/%1"_s.arg(kVersion));
   request.setRawHeader("Accept-Encoding", "identity");
   m_failure.clear();

@@ -16,6 +16,7 @@
 class PartFile;
 class QNetworkAccessManager;
 class QNetworkReply;
+class QNetworkRequest;
 class QTimer;
 
 /// How long a server may take. The defaults are the program's; tests have less patience.
@@ -102,7 +103,7 @@ class Updater : public QObject {
   void quitForUpdate();
 
  private:
-  QNetworkReply* get(const QUrl& url, std::chrono::milliseconds timeout);
+  QNetworkReply* get(QNetworkRequest request, std::chrono::milliseconds timeout);
   void stop(const QString& failure);
   [[nodiscard]] QNetworkReply* take();
   [[nodiscard]] QString failureOf(const QNetworkReply& reply) const;
@@ -110,8 +111,9 @@ class Updater : public QObject {
   void onFeedFinished();
   [[nodiscard]] static QString fileName(const QUrl& url);
   void refuse(const QString& failure);
-  void startDownload();
-  void onRedirected(const QUrl& url);
+  void startDownload(const QUrl& url);
+  void onDownloadHead();
+  void follow(const QUrl& url);
   void onDownloadData();
   void onDownloadFinished();
   void downloadFinished(const QString& failure);
@@ -122,5 +124,6 @@ class Updater : public QObject {
   QTimer* m_feedLimit;              ///< a child; runs while the feed is asked
   QPointer<QNetworkReply> m_reply;  ///< in flight, of either kind
   QString m_failure;                ///< why we stopped the reply, known before it tells that it was stopped
+  int m_redirects = 0;              ///< of the running download
   std::unique_ptr<PartFile> m_part; ///< while something is downloaded
 };

@@ -7,6 +7,7 @@
 
 #include <QFileInfo>
 #include <QNetworkReply>
+#include <QNetworkRequest>
 
 #include <algorithm>
 
@@ -14,6 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kMostRedirects = 20;
 constexpr qsizetype kMostNameBytes = 200; // a file system's limit is 255, and ".part" follows
 
 /// The user's own end of a download; never shown.
@@ -52,13 +54,18 @@ void Updater::install() {
   QString why;
   m_part = PartFile::create(downloadDir, fileName(release.url), &why);
   if (!m_part) return refuse(notSaved(why));
+  m_redirects = 0;
   setState(Downloading);
-  startDownload();
+  startDownload(release.url);
 }
 
-void Updater::startDownload() {
-  m_reply = get(release.url, timeouts.download);
-  connect(m_reply, &QNetworkReply::redirected, this, &Updater::onRedirected);
+/// Redirects are followed here, one request after the other: a reply that follows by itself can't be kept from sending
+/// its next request once it tells of it.
+void Updater::startDownload(const QUrl& url) {
+  QNetworkRequest request(url);
+  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+  m_reply = get(std::move(request), timeouts.download);
+  connect(m_reply, &QNetworkReply::metaDataChanged, this, &Updater::onDownloadHead);
   connect(m_reply, &QNetworkReply::readyRead, this, &Updater::onDownloadData);
   connect(m_reply, &QNetworkReply::downloadProgress, this, [this](qint64 bytesReceived, qint64 bytesTotal) {
     received = bytesReceived;
@@ -72,8 +79,18 @@ void Updater::cancel() {
   if (state == Downloading && m_reply) stop(kCanceled);
 }
 
-void Updater::onRedirected(const QUrl& url) {
-  if (!feed::isAllowed(url, allowedDomain)) stop(notOnServer());
+void Updater::onDownloadHead() {
+  const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+  if (!target.isEmpty()) follow(m_reply->url().resolved(target));
+}
+
+/// Each hop is held to the same rule as the first request, and none leads away from https.
+void Updater::follow(const QUrl& url) {
+  const bool isLessSafe = url.scheme() != "https"_L1 && url.scheme() != m_reply->url().scheme();
+  if (isLessSafe || !feed::isAllowed(url, allowedDomain)) return stop(notOnServer());
+  if (++m_redirects > kMostRedirects) return stop(tr("Too many redirects."));
+  take()->abort(); // with whatever body it has
+  startDownload(url);
 }
 
 /// After a stop the rest of a reply is let be.

@@ -20,6 +20,7 @@ const QString kSlow = u"The server took too long to answer\\."_s;
 const QString kSize = u"The update has an unexpected size\\."_s;
 const QString kSum = u"The update does not match the published checksum\\."_s;
 const QString kElsewhere = u"The update is not on Tarnwick's server\\."_s;
+const QString kTooMany = u"Too many redirects\\."_s;
 const QString kUnreadable = u"The update information could not be read\\."_s;
 const QString kNetwork = u".*[a-z]{4}.*"_s; // the network's own words, which differ between its versions
 
@@ -99,7 +100,7 @@ class TestUpdaterHostile : public QObject {
     row("a status that is none", raw("HTTP/1.1 abc OK\r\n\r\n{}"), kNetwork);
     row("204", Answer::of("204 No Content"), u"HTTP 204"_s);
     row("206", Answer::of("206 Partial Content", {}, feed), u"HTTP 206"_s);
-    row("302 to nowhere", Answer::of("302 Found"), u"HTTP 302"_s);
+    row("302 to nowhere", Answer::of("302 Found"), kNetwork);
     row("304", Answer::of("304 Not Modified"), u"HTTP 304"_s);
     row("401", Answer::of("401 Unauthorized", "WWW-Authenticate: Basic realm=\"a\"\r\n"), kNetwork);
     row("404", Answer::of("404 Not Found", {}, feed), kNetwork);
@@ -126,7 +127,7 @@ class TestUpdaterHostile : public QObject {
     QVERIFY(ReleaseHost::hasEnded(*updater));
     assertWords(updater->error, words);
     QCOMPARE(updater->state, Updater::Failed);
-    assertNothingElse();
+    assertNothingElse(updater.get());
   }
 
   void certificatesThatAreNotTheHosts_data() {
@@ -172,21 +173,23 @@ class TestUpdaterHostile : public QObject {
     moved("moved to another host, without a scheme", u"//elsewhere.example"_s, kElsewhere);
     moved("moved, with a user", u"https://me:word@"_s + domain, kElsewhere);
     moved("moved, with the host as a user", u"https://"_s + domain + u"@elsewhere.example"_s, kElsewhere);
-    moved("moved to http", u"http://"_s + ReleaseHost::name(), kNetwork);
-    moved("moved to a file", u"file://"_s, u"("_s + kElsewhere + u"|"_s + kNetwork + u")"_s);
-    moved("moved to ftp", u"ftp://"_s + domain, u"("_s + kElsewhere + u"|"_s + kNetwork + u")"_s);
-    row("moved to data", Answer::redirect("data:,x"), u"("_s + kElsewhere + u"|"_s + kNetwork + u")"_s);
+    moved("moved to http", u"http://"_s + ReleaseHost::name(), kElsewhere);
+    row("moved to http where any host may be", Answer::redirect(toElsewhere(u"http://plain."_s + domain)), kElsewhere,
+        [](ReleaseHost&, Updater& updater) { updater.allowedDomain.clear(); });
+    moved("moved to a file", u"file://"_s, kElsewhere);
+    moved("moved to ftp", u"ftp://"_s + domain, kElsewhere);
+    row("moved to data", Answer::redirect("data:,x"), kElsewhere);
     row("moved, and then to another host", Answer::redirect("/second"), kElsewhere, [](ReleaseHost& host, Updater&) {
       host.server.answers.insert("/second",
                                  Answer::redirect("https://elsewhere.example/a.pkg", "308 Permanent Redirect"));
     });
     row("moved to another host, with a body",
         Answer::of("302 Found", "Location: https://elsewhere.example/a\r\n", good), kElsewhere);
-    row("moved for ever", Answer::redirect("/a.pkg"), kNetwork);
-    row("moved very often", Answer::redirect("/0"), kNetwork, chain(80));
+    row("moved for ever", Answer::redirect("/a.pkg"), kTooMany);
+    row("moved once too often", Answer::redirect("/0"), kTooMany, chain(20));
     row("302 to nowhere", Answer::of("302 Found", {}, good), u"HTTP 302"_s);
     row("moved, with an endless body",
-        raw("HTTP/1.1 302 Found\r\nLocation: /0\r\n\r\n", good).repeated(Answer::kForever), kSlow, impatient);
+        raw("HTTP/1.1 302 Found\r\nLocation: /0\r\n\r\n", good).repeated(Answer::kForever), u".*Not Found"_s);
     row("204", Answer::of("204 No Content"), u"HTTP 204"_s);
     row("206", Answer::of("206 Partial Content", {}, good), u"HTTP 206"_s);
     row("203 with all of it", Answer::of("203 Non-Authoritative Information", {}, good), u"HTTP 203"_s);
@@ -230,7 +233,7 @@ class TestUpdaterHostile : public QObject {
     assertWords(updater->error, u"The update could not be downloaded: "_s + words);
     QCOMPARE(updater->state, Updater::Available);
     QCOMPARE(updater->release.version, u"2.0.0"_s);
-    assertNothingElse();
+    assertNothingElse(updater.get());
   }
 
   void aDripCanBeCancelled() {
@@ -240,7 +243,7 @@ class TestUpdaterHostile : public QObject {
     updater->cancel();
     QCOMPARE(updater->state, Updater::Available);
     QCOMPARE(updater->error, QString());
-    assertNothingElse();
+    assertNothingElse(updater.get());
   }
 
  private:
@@ -251,9 +254,14 @@ class TestUpdaterHostile : public QObject {
     QVERIFY2(!error.contains(u"canceled"_s, Qt::CaseInsensitive), qPrintable(error));
   }
 
-  /// No file, nothing opened, nobody else asked: also not by what may still be on its way.
-  void assertNothingElse() {
-    QCoreApplication::processEvents();
+  /// No file, nothing opened, nobody else asked: also not by what was still on its way, since one more question that
+  /// comes after it has its answer.
+  void assertNothingElse(Updater* updater) {
+    m_host->server.answers.insert("/feed.json", Answer::ok("{}"));
+    updater->timeouts = {};
+    updater->check();
+    QVERIFY(ReleaseHost::hasEnded(*updater));
+    QCOMPARE(updater->state, Updater::UpToDate);
     QVERIFY(m_host->downloads().isEmpty());
     QVERIFY(m_host->launched.isEmpty());
     const QString ours = u"CONNECT "_s + ReleaseHost::name() + u":443"_s;

@@ -5,7 +5,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <sys/stat.h>
+#include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -25,11 +26,13 @@ struct Course : QObject {
       if (states.isEmpty() || states.last() != updater->state) states.append(updater->state);
       mostReceived = std::max(mostReceived, updater->received);
       total = std::max(total, updater->total);
+      leastTotal = std::min(leastTotal, updater->total);
     });
   }
   QList<int> states; ///< without repetitions
   qint64 mostReceived = 0;
   qint64 total = 0;
+  qint64 leastTotal = std::numeric_limits<qint64>::max();
   QSignalSpy quits;
 };
 
@@ -82,7 +85,7 @@ class TestUpdaterInstall : public QObject {
     updater->install();
     QVERIFY(ReleaseHost::hasEnded(*updater));
     QCOMPARE(updater->state, Updater::Installing);
-    QVERIFY(course.total <= 0);
+    QVERIFY(course.leastTotal <= 0); // until it is known at the end
     QCOMPARE(m_host->launched.size(), 1);
   }
 
@@ -96,6 +99,20 @@ class TestUpdaterInstall : public QObject {
     QCOMPARE(updater->error, QString());
     QCOMPARE(m_host->launched, QStringList{m_host->home.temp(u"downloads/a.pkg"_s)});
     QCOMPARE(m_host->server.requests.size(), 4);
+  }
+
+  void twentyOfThemAreFollowed() {
+    for (int i = 0; i < 19; ++i)
+      m_host->server.answers.insert('/' + QByteArray::number(i), Answer::redirect('/' + QByteArray::number(i + 1)));
+    m_host->server.answers.insert("/19", Answer::ok(ReleaseHost::package()));
+    const auto updater = m_host->updaterWithRelease(u"/a.pkg"_s, Answer::redirect("/0"));
+    for (int attempt = 0; attempt < 2; ++attempt) {
+      updater->setState(Updater::Available);
+      updater->install();
+      QVERIFY(ReleaseHost::hasEnded(*updater));
+      QCOMPARE(updater->error, QString());
+      QCOMPARE(updater->state, Updater::Installing);
+    }
   }
 
   void onlyFromAvailable_data() {
@@ -162,7 +179,7 @@ class TestUpdaterInstall : public QObject {
         m_host->updaterWithRelease(u"/a.pkg"_s, Answer::ok(ReleaseHost::package()).ending(Answer::End::Hang));
     m_host->server.answers["/a.pkg"].head.replace("1048576", "2097152");
     updater->install();
-    QTRY_VERIFY(updater->received > 0);
+    QTRY_VERIFY(QFile(m_host->home.temp(u"downloads/a.pkg.part"_s)).size() > 0);
     QList<QStringList> files;
     connect(updater.get(), &Updater::stateChanged, this, [&] { files.append(m_host->downloads()); });
     updater->cancel();

@@ -5,12 +5,14 @@
 #include <QCryptographicHash>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QHash>
 #include <QNetworkProxy>
 #include <QTest>
 
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -20,10 +22,13 @@ constexpr qint64 kBlock = 1'048'576;
 static_assert(kMost % kBlock == 0);
 
 QString sha256OfZeros(qint64 bytes) {
+  static QHash<qint64, QString> known;
+  if (known.contains(bytes)) return known.value(bytes);
+  const qint64 all = bytes;
   QCryptographicHash hash(QCryptographicHash::Sha256);
   const QByteArray block(kBlock, '\0');
   for (; bytes > 0; bytes -= kBlock) hash.addData(QByteArrayView(block).first(std::min<qint64>(bytes, kBlock)));
-  return QString::fromLatin1(hash.result().toHex());
+  return known[all] = QString::fromLatin1(hash.result().toHex());
 }
 
 } // namespace
@@ -49,7 +54,7 @@ class TestUpdaterLarge : public QObject {
     QFETCH(bool, good);
     const QString path = m_home.file(u"zeros"_s, 0);
     QVERIFY(QFile::resize(path, bytes)); // with holes: no disk is needed
-    const QString words = Updater::verify(path, sha256OfZeros(bytes), {});
+    const QString words = Updater::verify(path, good ? sha256OfZeros(bytes) : QString(), {});
     QCOMPARE(words, good ? QString() : u"The update has an unexpected size."_s);
   }
 
@@ -57,7 +62,7 @@ class TestUpdaterLarge : public QObject {
     const auto updater = prepared(kMost / kBlock, Answer::End::Close);
     updater->release.sha256 = sha256OfZeros(kMost);
     updater->install();
-    QTRY_VERIFY_WITH_TIMEOUT(updater->state != Updater::Downloading, 200000);
+    QVERIFY(ReleaseHost::hasEnded(*updater, 200s));
     QCOMPARE(updater->error, QString());
     QCOMPARE(updater->state, Updater::Installing);
     QCOMPARE(QFile(m_launched).size(), kMost);
@@ -68,7 +73,7 @@ class TestUpdaterLarge : public QObject {
     qint64 most = 0;
     connect(updater.get(), &Updater::stateChanged, this, [&] { most = std::max(most, updater->received); });
     updater->install();
-    QTRY_VERIFY_WITH_TIMEOUT(updater->state != Updater::Downloading, 200000);
+    QVERIFY(ReleaseHost::hasEnded(*updater, 200s));
     QCOMPARE(updater->error, u"The update could not be downloaded: The update has an unexpected size."_s);
     QCOMPARE(updater->state, Updater::Available);
     QVERIFY2(most < kMost + 64 * kBlock, qPrintable(QString::number(most)));

@@ -17,6 +17,7 @@ class Tunnel : public QObject {
     connect(near, &QTcpSocket::readyRead, this, [this] { m_isOpen ? pass() : read(); });
     connect(m_far, &QTcpSocket::connected, this, [this] {
       m_isOpen = true;
+      m_far->setSocketOption(QAbstractSocket::LowDelayOption, 1);
       m_near->write("HTTP/1.1 200 Connection established\r\n\r\n");
       pass();
     });
@@ -75,5 +76,6 @@ ConnectProxy::~ConnectProxy() { QNetworkProxy::setApplicationProxy(QNetworkProxy
 void ConnectProxy::incomingConnection(qintptr handle) {
   auto* const near = new QTcpSocket(this);
   if (!near->setSocketDescriptor(handle)) qFatal("a connection that isn't one");
+  near->setSocketOption(QAbstractSocket::LowDelayOption, 1);
   new Tunnel(this, near);
 }

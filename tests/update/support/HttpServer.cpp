@@ -23,7 +23,9 @@ class Connection : public QObject {
  private:
   void read() {
     m_question += m_socket->readAll();
-    if (m_isAnswering || !m_question.contains("\r\n\r\n")) return;
+    if (m_isAnswering) return;
+    if (!m_question.startsWith('G')) return refuse(); // as a plain server does that meets a handshake
+    if (!m_question.contains("\r\n\r\n")) return;
     m_isAnswering = true;
     Request request = parsed();
     m_answer = m_server->answers.value(request.target, Answer::of("404 Not Found"));
@@ -35,6 +37,11 @@ class Connection : public QObject {
       m_drip.start(m_answer.everyMs);
     else
       send();
+  }
+
+  void refuse() {
+    m_socket->write(Answer::of("400 Bad Request").head);
+    m_socket->disconnectFromHost();
   }
 
   [[nodiscard]] Request parsed() const {
@@ -68,7 +75,8 @@ class Connection : public QObject {
     case Answer::End::Close:
       return m_socket->disconnectFromHost();
     case Answer::End::Cut:
-      if (waiting() == 0) m_socket->abort();
+      // Later: the socket may be in the middle of its encryption.
+      if (waiting() == 0) QTimer::singleShot(0, m_socket, [socket = m_socket] { socket->abort(); });
       return;
     case Answer::End::Hang:
       return;
@@ -145,6 +153,7 @@ void HttpServer::incomingConnection(qintptr handle) {
   auto* const socket = new QSslSocket(this);
   m_last = socket;
   if (!socket->setSocketDescriptor(handle)) qFatal("a connection that isn't one");
+  socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
   connect(socket, &QSslSocket::disconnected, socket, &QObject::deleteLater);
   new Connection(this, socket);
   if (m_certificate.isNull()) return;

@@ -53,7 +53,7 @@ class HttpServer : public QTcpServer {
 
  public:
   /// Listens on a free port; without a certificate it speaks plainly.
-  explicit HttpServer(const TestCertificate& certificate = {});
+  explicit HttpServer(const TestCertificate& certificate = TestCertificate());
 
   /// By target, which is the path with its query. What isn't here is "404 Not Found".
   QHash<QByteArray, Answer> answers;

@@ -11,6 +11,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
 #include <memory>
 
 class ReleaseHost {
@@ -39,8 +40,8 @@ class ReleaseHost {
   std::unique_ptr<Updater> updaterWithRelease();
   /// Answers @p target with a whole package, and returns an updater with a release of that address.
   std::unique_ptr<Updater> updaterWithRelease(const QString& target, const Answer& answer);
-  /// Waits until it no longer checks or downloads. False after half a minute.
-  [[nodiscard]] static bool hasEnded(const Updater& updater);
+  /// Runs the event loop until it no longer checks or downloads. False after @p patience.
+  [[nodiscard]] static bool hasEnded(const Updater& updater, std::chrono::seconds patience = std::chrono::seconds(30));
   /// All that lies in the download folder.
   [[nodiscard]] QStringList downloads() const;
 

@@ -15,6 +15,6 @@ struct TestCertificate {
 
   [[nodiscard]] bool isNull() const { return certificate.isNull() || key.isNull(); }
 
-  QSslCertificate certificate;
-  QSslKey key;
+  QSslCertificate certificate = QSslCertificate();
+  QSslKey key = QSslKey();
 };
