@@ -16,6 +16,12 @@ void makeTranslucent(QMenu* menu) {
   menu->setWindowFlags(menu->windowFlags() | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
 }
 
+void trim(QMenu* menu) {
+  const auto* own = dynamic_cast<const MenuWithCard*>(menu);
+  const MenuWithCard::Card card = own ? own->card() : MenuWithCard::Card{menu->rect(), kRadius};
+  ui::trimWithoutCompositor(menu, card.rect, card.radius);
+}
+
 // Where the corners are cut, the pixels on the cut lie half on nothing, which is black there.
 void fillCorners(QMenu* menu) {
   if (!menu->mask().isEmpty()) QPainter(menu).fillRect(menu->rect(), Theme::get().surface);
@@ -31,7 +37,7 @@ bool MenuStyler::eventFilter(QObject* watched, QEvent* event) {
     break;
   case QEvent::Show:
   case QEvent::Resize:
-    if (auto* menu = qobject_cast<QMenu*>(watched)) ui::trimWithoutCompositor(menu, menu->rect(), kRadius);
+    if (auto* menu = qobject_cast<QMenu*>(watched)) trim(menu);
     break;
   case QEvent::Paint:
     if (auto* menu = qobject_cast<QMenu*>(watched)) fillCorners(menu);

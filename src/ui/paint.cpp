@@ -39,7 +39,9 @@ void shadow(QPainter* painter, const QRectF& body, const Shadow& shadow) {
   const QRectF base = body.translated(0, shadow.offsetY);
   for (int k = shadow.layers; k >= 1; --k) {
     const double fade = 1 - double(k) / shadow.layers;
-    const QColor colour = withAlpha(shadow.colour, int(shadow.peak * fade * fade));
+    const double alpha = shadow.peak * fade * fade;
+    const bool rounds = shadow.alpha == Shadow::Alpha::Rounded;
+    const QColor colour = withAlpha(shadow.colour, rounds ? qRound(alpha) : int(alpha));
     roundedRect(painter, base.adjusted(-k, -k, k, k), shadow.radius + k, colour);
   }
 }

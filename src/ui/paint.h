@@ -32,7 +32,8 @@ struct Shadow {
   double offsetY = 0; ///< how far the layers lie below the body
   double radius = 0;  ///< corner radius of a layer is this plus its growth
   QColor colour = Qt::black;
-  int peak = 0; ///< alpha at the body is peak x (1 - k / layers) squared, truncated
+  int peak = 0; ///< alpha at the body is peak x (1 - k / layers) squared, made whole as told below
+  enum class Alpha { Truncated, Rounded } alpha = Alpha::Truncated;
 };
 void shadow(QPainter* painter, const QRectF& body, const Shadow& shadow);
 

@@ -1,10 +1,11 @@
 #include "ui/linux/Portal.h"
 
+#include "ui/linux/bus.h"
+
 #include <QCoreApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QFile>
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
@@ -29,13 +30,6 @@ constexpr int kFirstReadMs = 150;
 // What the number under color-scheme means; any other is no preference.
 constexpr uint kPrefersDark = 1;
 constexpr uint kPrefersLight = 2;
-
-// Asking Qt for a bus that isn't there may start one, which takes time and helps nobody.
-bool hasSessionBus() {
-  if (!qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")) return true;
-  const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-  return !runtime.isEmpty() && QFile::exists(runtime + "/bus"_L1);
-}
 
 QDBusMessage readCall(const char* group, const char* key) {
   QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, kInterface, u"Read"_s);

@@ -3,8 +3,10 @@
 
 #include "ui/linux/x11.h"
 
+#include <QAbstractNativeEventFilter>
 #include <QGuiApplication>
 #include <QLibrary>
+#include <QObject>
 
 #include <algorithm>
 #include <cstdint>
@@ -40,6 +42,21 @@ struct OwnerReply {
 struct Screen {
   uint32_t root; // and more
 };
+struct ClientMessage {
+  uint8_t responseType;
+  uint8_t format;
+  uint16_t sequence;
+  uint32_t window;
+  uint32_t type;
+  uint32_t data[5];
+};
+struct DestroyNotify {
+  uint8_t responseType;
+  uint8_t pad;
+  uint16_t sequence;
+  uint32_t event;
+  uint32_t window;
+};
 struct ScreenIterator {
   Screen* data;
   int rest;
@@ -61,7 +78,10 @@ using GetPropertyReply = PropertyReply* (*)(Connection*, Cookie, void** error);
 using PropertyValue = void* (*)(const PropertyReply*);
 using PropertyLength = int (*)(const PropertyReply*);
 
-constexpr uint32_t kTypeAtom = 4;            // predefined by the protocol
+constexpr uint32_t kTypeAtom = 4; // predefined by the protocol
+constexpr uint8_t kDestroyNotify = 17;
+constexpr uint8_t kClientMessage = 33;
+constexpr uint8_t kResponseType = 0x7f;      // without the bit of what another program sent
 constexpr uint32_t kMostProtocols = 1 << 12; // in atoms; window managers list about a hundred
 
 /// What malloc gave on the other side of a C interface.
@@ -114,23 +134,68 @@ Connection* connection() {
   return x11 && xcb().complete ? x11->connection() : nullptr;
 }
 
-/// 0 where nobody has ever spoken of this name.
-uint32_t atomOf(const char* name) {
-  const Cookie asked = xcb().internAtom(connection(), 1, uint16_t(std::strlen(name)), name);
+enum class Unknown { IsNone, IsMade };
+
+/// 0 where nobody has ever spoken of this name, unless it is to be made.
+uint32_t atomOf(const char* name, Unknown unknown = Unknown::IsNone) {
+  const uint8_t onlyIfExists = unknown == Unknown::IsNone ? 1 : 0;
+  const Cookie asked = xcb().internAtom(connection(), onlyIfExists, uint16_t(std::strlen(name)), name);
   const CPointer<AtomReply> atom(xcb().internAtomReply(connection(), asked, nullptr), &std::free);
   return atom ? atom->atom : 0;
 }
+
+/// The owner's window; 0 if there is none.
+uint32_t ownerOf(uint32_t selection) {
+  if (selection == 0) return 0;
+  const Cookie asked = xcb().getOwner(connection(), selection);
+  const CPointer<OwnerReply> owner(xcb().getOwnerReply(connection(), asked, nullptr), &std::free);
+  return owner ? owner->owner : 0;
+}
+
+/// Who takes such a selection tells all who listen to the root window, as Qt does.
+class SelectionWatch : public QObject, public QAbstractNativeEventFilter {
+ public:
+  SelectionWatch(QObject* parent, const char* selection, std::function<void()> changed)
+      : QObject(parent),
+        m_manager(atomOf("MANAGER", Unknown::IsMade)),
+        m_selection(atomOf(selection, Unknown::IsMade)),
+        m_owner(ownerOf(m_selection)),
+        m_changed(std::move(changed)) {
+    qGuiApp->installNativeEventFilter(this);
+  }
+
+  bool nativeEventFilter(const QByteArray& kind, void* event, qintptr* /*result*/) override {
+    if (kind == "xcb_generic_event_t" && concernsUs(event))
+      QMetaObject::invokeMethod(
+          this, [this] { m_changed(); }, Qt::QueuedConnection); // after Qt has seen it too
+    return false;
+  }
+
+ private:
+  bool concernsUs(const void* event) {
+    const uint8_t type = *static_cast<const uint8_t*>(event) & kResponseType;
+    if (type == kDestroyNotify) return m_owner != 0 && static_cast<const DestroyNotify*>(event)->window == m_owner;
+    if (type != kClientMessage) return false;
+    const auto* message = static_cast<const ClientMessage*>(event);
+    if (message->type != m_manager || message->data[1] != m_selection) return false;
+    m_owner = message->data[2];
+    return true;
+  }
+
+  const uint32_t m_manager;
+  const uint32_t m_selection;
+  uint32_t m_owner;
+  std::function<void()> m_changed;
+};
 
 } // namespace
 
 bool isUsed() { return connection(); }
 
-bool hasOwner(const char* selection) {
-  const uint32_t atom = connection() ? atomOf(selection) : 0;
-  if (atom == 0) return false;
-  const Cookie asked = xcb().getOwner(connection(), atom);
-  const CPointer<OwnerReply> owner(xcb().getOwnerReply(connection(), asked, nullptr), &std::free);
-  return owner && owner->owner != 0;
+bool hasOwner(const char* selection) { return connection() && ownerOf(atomOf(selection)) != 0; }
+
+void watchSelection(QObject* context, const char* selection, std::function<void()> changed) {
+  if (connection()) new SelectionWatch(context, selection, std::move(changed));
 }
 
 bool managerSupports(const char* protocol) {
@@ -151,6 +216,7 @@ bool managerSupports(const char* protocol) {
 
 bool isUsed() { return false; }
 bool hasOwner(const char* /*selection*/) { return false; }
+void watchSelection(QObject* /*context*/, const char* /*selection*/, std::function<void()> /*changed*/) {}
 bool managerSupports(const char* /*protocol*/) { return false; }
 
 #endif
