@@ -2,7 +2,6 @@
 
 #include "app/AppState.h"
 #include "app/identity.h"
-#include "core/platform.h"
 #include "engines/Cleaner.h"
 #include "engines/systemdata.h"
 #include "ui/Theme.h"
@@ -26,12 +25,12 @@
 #include "ui/shell/website.h"
 #include "ui/shell/words.h"
 
-#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QMenuBar>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
@@ -39,6 +38,8 @@
 #include <QStackedWidget>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -72,7 +73,8 @@ class ClientArea : public QWidget, public AccessibleArea {
 
 } // namespace
 
-MainWindow::MainWindow(AppState* state, QWidget* parent) : QWidget(parent), m_state(state), m_frame(frame::kind()) {
+MainWindow::MainWindow(AppState* state, QWidget* parent, const TrayDesktop& desktop)
+    : QWidget(parent), m_state(state), m_frame(frame::kind()) {
   setWindowTitle(identity::kName);
   setWindowIcon(icons::appIcon());
   setMinimumSize(kMinimum);
@@ -82,20 +84,24 @@ MainWindow::MainWindow(AppState* state, QWidget* parent) : QWidget(parent), m_st
   buildPages();
   if (Theme::get().mac) buildFloatingToggle();
   m_toast = new Toast(m_central);
+  buildTray(desktop);
   QCoreApplication::instance()->installEventFilter(this);
   QGuiApplication::setQuitOnLastWindowClosed(false);
   connectPages();
   connectState();
   frame::setUp(this, m_sidebar->topRow(), m_sidebar->toggleButton());
+  setupMenuBar();
 }
+
+MainWindow::~MainWindow() = default;
 
 void MainWindow::buildFrame() {
   QVBoxLayout* column = vbox();
   setLayout(column);
   if (m_frame == frame::Kind::Drawn) {
-    auto* bar = new TitleBar(this);
-    bar->setMenuButtonShown(false); // there is no menu to open
-    column->addWidget(bar);
+    m_titleBar = new TitleBar(this);
+    connect(m_titleBar, &TitleBar::menuRequested, this, &MainWindow::showAppMenu);
+    column->addWidget(m_titleBar);
   }
   m_central = new ClientArea;
   column->addWidget(m_central, 1);
@@ -175,7 +181,11 @@ void MainWindow::connectState() {
   connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
 }
 
-bool MainWindow::isAsking() const { return m_central->findChild<Overlay*>(QString(), Qt::FindDirectChildrenOnly); }
+// A dialog that was closed lives on for a moment.
+bool MainWindow::isAsking() const {
+  const QList<Overlay*> dialogs = m_central->findChildren<Overlay*>(QString(), Qt::FindDirectChildrenOnly);
+  return std::ranges::any_of(dialogs, [](const Overlay* one) { return !one->isHidden(); });
+}
 
 void MainWindow::confirmClean() {
   if (isAsking()) return;
@@ -202,9 +212,6 @@ int MainWindow::page() const { return m_numbered.key(m_pages->currentWidget()); 
 
 void MainWindow::showToast(const QString& text, bool undoable) { m_toast->show(text, undoable); }
 
-// Without a tray the message waits in a hidden window, for as long as a message lasts.
-void MainWindow::notify(const QString& text) { m_toast->show(text, false); }
-
 void MainWindow::showAbout() { (new AboutDialog(m_central))->open(); }
 
 void MainWindow::openGuide() { website::open(u"/guide/get-started-with-tarnwick/"); }
@@ -216,14 +223,6 @@ void MainWindow::openLogFolder() {
   QDir().mkpath(path); // a user who never cleaned gets an empty folder rather than an error
   QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
-
-void MainWindow::showFromTray() {
-  isMinimized() ? showNormal() : show();
-  raise();
-  activateWindow();
-}
-
-void MainWindow::hideToTray() { hide(); }
 
 void MainWindow::setSidebarCollapsed(bool collapsed) { m_sidebar->setCollapsed(collapsed, false); }
 
@@ -238,14 +237,6 @@ void MainWindow::restoreWindowState() {
 }
 
 void MainWindow::saveWindowState() const { QSettings().setValue(kGeometryKey, saveGeometry()); }
-
-// No tray shows that the program lives on. Where a click in the dock brings the window back it does, elsewhere an
-// unseen process is no help.
-void MainWindow::closeEvent(QCloseEvent* event) {
-  saveWindowState();
-  QWidget::closeEvent(event);
-  if (!m_quitting && platform::builtFor() == platform::Host::Linux) QCoreApplication::quit();
-}
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == QCoreApplication::instance() && event->type() == QEvent::Quit) m_quitting = true;

@@ -38,8 +38,7 @@ TitleBar::TitleBar(QWidget* window, QWidget* parent) : QWidget(parent), m_window
   row->addStretch();
   m_menu = addButton(CaptionButton::Menu, Words::tr("Menu"));
   m_menu->setToolTip(Words::tr("Menu"));
-  connect(m_menu, &QAbstractButton::clicked, this,
-          [this] { emit menuRequested(m_menu->mapToGlobal(QPoint(0, m_menu->height()))); });
+  connect(m_menu, &QAbstractButton::clicked, this, &TitleBar::requestMenu);
   connect(addButton(CaptionButton::Minimize, Words::tr("Minimize")), &QAbstractButton::clicked, window,
           &QWidget::showMinimized);
   m_maximize = addButton(CaptionButton::Maximize, Words::tr("Maximize"));
@@ -50,7 +49,7 @@ TitleBar::TitleBar(QWidget* window, QWidget* parent) : QWidget(parent), m_window
   connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
 }
 
-void TitleBar::setMenuButtonShown(bool on) { m_menu->setVisible(on); }
+void TitleBar::requestMenu() { emit menuRequested(m_menu->mapToGlobal(QPoint(0, m_menu->height()))); }
 
 CaptionButton* TitleBar::addButton(int kind, const QString& name) {
   auto* button = new CaptionButton(CaptionButton::Kind(kind));

@@ -19,11 +19,11 @@ class TitleBar : public QWidget {
   /// @param window  the one that its buttons work on
   explicit TitleBar(QWidget* window, QWidget* parent = nullptr);
 
-  /// Whether there is a menu button; there is, unless told otherwise.
-  void setMenuButtonShown(bool on);
+  /// As if the menu button had been clicked.
+  void requestMenu();
 
  signals:
-  /// The menu button was clicked. @p globalPos  its lower left corner
+  /// The menu is wanted. @p globalPos  the lower left corner of its button
   void menuRequested(const QPoint& globalPos);
 
  protected:

@@ -60,9 +60,8 @@ StartOptions startOptions(const QStringList& arguments) {
   return {.background = arguments.contains(u"--background"_s), .updated = arguments.contains(u"--updated"_s)};
 }
 
-// There is no tray yet, so nothing but the window list could bring a hidden window back.
 void showAtStart(MainWindow* window, const StartOptions& options) {
-  options.background ? window->showMinimized() : window->show();
+  options.background ? window->stayHidden() : window->show();
 }
 
 void afterStart(MainWindow* window, AppState* state, const StartOptions& options) {

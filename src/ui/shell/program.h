@@ -17,7 +17,7 @@ struct StartOptions {
 /// @param arguments  all of them; each switch is compared as a whole
 [[nodiscard]] StartOptions startOptions(const QStringList& arguments);
 
-/// Shows the window, or, for a start in the background, minimises it where no tray could bring it back.
+/// Shows the window; for a start in the background only minimised, and only where no tray can bring it back.
 void showAtStart(MainWindow* window, const StartOptions& options);
 /// What the program does on its own, once, shortly after its start: warns of a full disk, tells of a finished update,
 /// and starts a scan that is due.

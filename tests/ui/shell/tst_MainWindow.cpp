@@ -15,6 +15,7 @@
 #include "ui/pages/OverviewPage.h"
 #include "ui/pages/SystemDataPage.h"
 #include "ui/shell/AboutDialog.h"
+#include "ui/shell/AppMenu.h"
 #include "ui/shell/CaptionButton.h"
 #include "ui/shell/ConfirmCleanDialog.h"
 #include "ui/shell/ConfirmDialog.h"
@@ -92,7 +93,7 @@ class TestMainWindow : public QObject {
   void cleanup();
 
   void firstSight();
-  void noMenuWithoutAMenu();
+  void menuButtonOpensTheMenu();
   void pagesByNumber();
   void scanBringsItsPage();
   void overviewOpensACategory();
@@ -181,9 +182,19 @@ void TestMainWindow::firstSight() {
   QCOMPARE(m_window->findChildren<NavButton*>().size(), 4); // of the pages that there are
 }
 
-void TestMainWindow::noMenuWithoutAMenu() {
-  for (const CaptionButton* one : m_window->findChildren<CaptionButton*>())
-    QCOMPARE(one->isVisible(), one->kind() != CaptionButton::Menu);
+void TestMainWindow::menuButtonOpensTheMenu() {
+  for (CaptionButton* one : m_window->findChildren<CaptionButton*>()) {
+    QVERIFY(one->isVisible());
+    if (one->kind() != CaptionButton::Menu) continue;
+    QTest::mouseClick(one, Qt::LeftButton);
+    const auto* menu = qobject_cast<AppMenu*>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    QPoint wanted = one->mapToGlobal(QPoint(0, one->height())) - QPoint(14, 10);
+    wanted.setX(qMin(wanted.x(), menu->screen()->geometry().right() + 1 - menu->width())); // it stays on the screen
+    QCOMPARE(menu->pos(), wanted);
+  }
+  QVERIFY(QApplication::activePopupWidget());
+  QApplication::activePopupWidget()->close();
 }
 
 void TestMainWindow::pagesByNumber() {
@@ -449,6 +460,7 @@ void TestMainWindow::startOptionsAreExact() {
 }
 
 void TestMainWindow::backgroundWithoutATrayIsMinimised() {
+  AppSettings::instance().setShowInTray(false); // so that none is waited for
   m_window->hide();
   showAtStart(m_window.get(), {.background = true});
   QVERIFY(m_window->isMinimized());

@@ -25,7 +25,7 @@ class TestTitleBar : public QObject {
   void logoPlace();
   void buttonsWork();
   void menuTellsItsPlace();
-  void menuButtonCanBeAway();
+  void menuCanBeAskedFor();
   void glyphFollowsTheWindow();
   void doubleClickZooms();
   void buttonColours();
@@ -101,14 +101,13 @@ void TestTitleBar::menuTellsItsPlace() {
   QCOMPARE(asked[0][0].toPoint(), m_bar->mapToGlobal(QPoint(700 - 4 * 46, 40)));
 }
 
-void TestTitleBar::menuButtonCanBeAway() {
-  QVERIFY(button(CaptionButton::Menu)->isVisible());
-  m_bar->setMenuButtonShown(false);
-  QVERIFY(!button(CaptionButton::Menu)->isVisible());
-  QCOMPARE(button(CaptionButton::Minimize)->x(), 700 - 3 * 46);
+void TestTitleBar::menuCanBeAskedFor() {
+  QSignalSpy asked(m_bar, &TitleBar::menuRequested);
+  m_bar->requestMenu();
+  QCOMPARE(asked.count(), 1);
+  QCOMPARE(asked[0][0].toPoint(), m_bar->mapToGlobal(QPoint(700 - 4 * 46, 40)));
 }
 
-// By whatever means the window is maximised.
 void TestTitleBar::glyphFollowsTheWindow() {
   CaptionButton* maximize = button(CaptionButton::Maximize);
   const QImage normal = pixels::rendered(*maximize);

@@ -133,6 +133,7 @@ class TestProgram : public QObject {
   void endsByASignal();
   void secondStart();
   void inTheBackground();
+  void waitsForATray();
   void scheduledScanIsStopped();
   void cleanIsStoppedWithItsLogWhole();
 
@@ -152,6 +153,7 @@ void TestProgram::init() {
   AppSettings& settings = AppSettings::instance();
   settings.setLowSpaceAlerts(false);
   settings.setSchedule(AppSettings::Off);
+  settings.setShowInTray(false); // so that none is waited for
   settings.setExclusions(FixtureHome::rulesForOutside());
   QSettings().remove(u"ui/windowGeometry"_s);
 }
@@ -196,6 +198,27 @@ void TestProgram::inTheBackground() {
   QVERIFY(first.tells("shown page 0"));
   first.stop(SIGTERM);
   QCOMPARE(first.result(), 0);
+}
+
+// Where there is none in the end, the window list brings it back; and a second start does at any time.
+void TestProgram::waitsForATray() {
+  AppSettings::instance().setShowInTray(true);
+  QSettings().sync();
+  QElapsedTimer waited;
+  waited.start();
+  Start first({u"--background"_s});
+  QVERIFY(first.tells("hidden page 0"));
+  QVERIFY(first.tells("minimised page 0"));
+  QVERIFY2(waited.elapsed() >= 10'000, qPrintable(QString::number(waited.elapsed())));
+  first.stop(SIGTERM);
+  QCOMPARE(first.result(), 0);
+  Start again({u"--background"_s});
+  QVERIFY(again.tells("hidden page 0"));
+  Start second;
+  QCOMPARE(second.result(), 0);
+  QVERIFY(again.tells("shown page 0"));
+  again.stop(SIGTERM);
+  QCOMPARE(again.result(), 0);
 }
 
 // It starts by itself in the background too, and its worker is waited for.

@@ -1,0 +1,669 @@
+// The window's commands: one table for the menu bar, the shortcuts and the list of them; every shortcut is pressed on a
+// real window, and every entry of the title bar's menu is used.
+#include "app/AppState.h"
+#include "app/identity.h"
+#include "engines/Cleaner.h"
+#include "engines/LargeFileFinder.h"
+#include "support/pixels.h"
+#include "support/uitest.h"
+#include "support/window.h"
+#include "ui/Theme.h"
+#include "ui/controls/Button.h"
+#include "ui/shell/AboutDialog.h"
+#include "ui/shell/AppMenu.h"
+#include "ui/shell/CommandSet.h"
+#include "ui/shell/KeyCaps.h"
+#include "ui/shell/MainWindow.h"
+#include "ui/shell/ShortcutsOverlay.h"
+#include "ui/shell/Sidebar.h"
+
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStackedWidget>
+
+using namespace Qt::StringLiterals;
+using namespace ui;
+using commands::Id;
+
+namespace {
+
+/// Counts what the editing commands call, and takes no keys itself.
+class Editable : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit Editable(QWidget* parent) : QWidget(parent) { setFocusPolicy(Qt::StrongFocus); }
+  QStringList called;
+
+ public slots:
+  void undo() { called << u"undo"_s; }
+  void redo() { called << u"redo"_s; }
+  void cut() { called << u"cut"_s; }
+  void copy() { called << u"copy"_s; }
+  void paste() { called << u"paste"_s; }
+  void selectAll() { called << u"selectAll"_s; }
+};
+
+/// Stands in for the user's browser and file manager.
+class Opened : public QObject {
+  Q_OBJECT
+
+ public:
+  Opened() {
+    for (const QString& scheme : {u"https"_s, u"file"_s}) QDesktopServices::setUrlHandler(scheme, this, "open");
+  }
+  ~Opened() override {
+    for (const QString& scheme : {u"https"_s, u"file"_s}) QDesktopServices::unsetUrlHandler(scheme);
+  }
+  QStringList paths;
+
+ public slots:
+  void open(const QUrl& url) { paths << url.path(); }
+};
+
+AppMenu* openMenu() { return qobject_cast<AppMenu*>(QApplication::activePopupWidget()); }
+
+QAction* entryOf(const QMenu* menu, const QString& text) {
+  for (QAction* action : menu->actions())
+    if (action->text() == text) return action;
+  return nullptr;
+}
+
+} // namespace
+
+class TestMenus : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase() { Theme::get().install(qApp); }
+  void init();
+  void cleanup();
+
+  void menuBarAsDesigned();
+  void menuBarActs();
+  void everyCommandActs();
+  void noKeyTwice();
+  void keysWhereThePlatformHasNone_data();
+  void keysWhereThePlatformHasNone();
+  void textsFollowTheWindow();
+  void pages_data();
+  void pages();
+  void smartScanShowsBothPages();
+  void findLargeFiles();
+  void settings();
+  void sidebar();
+  void fullScreen();
+  void minimize();
+  void zoomAndFront();
+  void closeWindow();
+  void quit();
+  void editCallsTheFocusedWidget_data();
+  void editCallsTheFocusedWidget();
+  void editIsHarmless();
+  void lineEditKeepsItsKeys();
+  void pagesRestUnderADialog();
+  void windowKeysWorkUnderADialog();
+  void appMenuRows();
+  void appMenuEntriesAct();
+  void appMenuUnderADialog();
+  void appMenuByKey();
+  void helpMenu();
+  void shortcutsAreListed();
+  void shortcutsByKey();
+  void keyNamesAreSplit_data();
+  void keyNamesAreSplit();
+  void capsStandInARow();
+  void shortcutsFitTheSmallestWindow();
+
+ private:
+  void press(const QKeySequence& keys) const {
+    QWidget* focused = QApplication::focusWidget();
+    QTest::keySequence(focused ? focused : m_window.get(), keys);
+  }
+  void press(const char* keys) const { press(QKeySequence(QString::fromLatin1(keys))); }
+  void press(Id id) const {
+    const QList<QKeySequence> keys = commands::keysOf(*commands::entry(id));
+    QVERIFY(!keys.isEmpty());
+    press(keys.first());
+  }
+  [[nodiscard]] bool hasPage(int page) const {
+    const int before = m_window->page();
+    m_window->go(page);
+    const bool has = m_window->page() == page;
+    m_window->go(before);
+    return has;
+  }
+  [[nodiscard]] QList<Overlay*> dialogs() const { return m_window->findChildren<Overlay*>(); }
+  AppMenu* showMenu() const {
+    m_window->showAppMenu(m_window->mapToGlobal(QPoint(200, 60)));
+    return openMenu();
+  }
+  void choose(const QStringList& way) const;
+
+  std::unique_ptr<FixtureHome> m_home;
+  std::unique_ptr<AppState> m_state;
+  std::unique_ptr<MainWindow> m_window;
+};
+
+void TestMenus::init() {
+  m_home = std::make_unique<FixtureHome>();
+  QSettings().clear();
+  pixels::setLook(false);
+  m_home->file(u".cache/acme/1"_s);
+  AppSettings::instance().setExclusions(FixtureHome::rulesForOutside());
+  CleanerWorld world;
+  world.lockPath = m_home->outside(u"clean.lock"_s);
+  m_state = std::make_unique<AppState>(nullptr, world);
+  m_window = std::make_unique<MainWindow>(m_state.get());
+  m_window->show();
+  QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void TestMenus::cleanup() {
+  if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+  m_window.reset();
+  m_state.reset();
+  m_home.reset();
+}
+
+// Menu, text, keys of ours, role; an empty text is a line.
+void TestMenus::menuBarAsDesigned() {
+  struct Row {
+    const char* menu;
+    const char* text;
+    QAction::MenuRole role = QAction::NoRole;
+    QKeySequence::StandardKey standard = QKeySequence::UnknownKey;
+    const char* keys = "";
+  };
+  const Row wanted[] = {
+      {"File", "About Tarnwick", QAction::AboutRole},
+      {"File", "Check for Updates…", QAction::ApplicationSpecificRole},
+      {"File", "Settings…", QAction::PreferencesRole, QKeySequence::Preferences, "Ctrl+,"},
+      {"File", "Quit Tarnwick", QAction::QuitRole, QKeySequence::Quit, "Ctrl+Q"},
+      {"File", "Smart Scan", QAction::NoRole, QKeySequence::UnknownKey, "Ctrl+R"},
+      {"File", "Find Large Files", QAction::NoRole, QKeySequence::UnknownKey, "Ctrl+Shift+L"},
+      {"File", ""},
+      {"File", "Close Window", QAction::NoRole, QKeySequence::Close},
+      {"Edit", "Undo", QAction::NoRole, QKeySequence::Undo},
+      {"Edit", "Redo", QAction::NoRole, QKeySequence::Redo},
+      {"Edit", ""},
+      {"Edit", "Cut", QAction::NoRole, QKeySequence::Cut},
+      {"Edit", "Copy", QAction::NoRole, QKeySequence::Copy},
+      {"Edit", "Paste", QAction::NoRole, QKeySequence::Paste},
+      {"Edit", "Select All", QAction::NoRole, QKeySequence::SelectAll},
+      {"View", "Smart Scan", QAction::NoRole, QKeySequence::UnknownKey, "Ctrl+1"},
+      {"View", "Cleanup", QAction::NoRole, QKeySequence::UnknownKey, "Ctrl+2"},
+      {"View", "Space Map", QAction::NoRole, QKeySequence::UnknownKey, "Ctrl+3"},
+      {"View", "System Data", QAction::NoRole, QKeySequence::UnknownKey, "Ctrl+4"},
+      {"View", ""},
+      {"View", "Hide Sidebar", QAction::NoRole, QKeySequence::UnknownKey, "Ctrl+Meta+S"},
+      {"View", "Enter Full Screen", QAction::NoRole, QKeySequence::FullScreen, "F11"},
+      {"Window", "Minimize", QAction::NoRole, QKeySequence::UnknownKey, "Ctrl+M"},
+      {"Window", "Zoom"},
+      {"Window", ""},
+      {"Window", "Bring All to Front"},
+      {"Help", "Guide"},
+      {"Help", "FAQ"},
+      {"Help", "Open Log Folder"},
+  };
+  QMenuBar bar;
+  CommandSet set(this);
+  set.fill(&bar);
+  QStringList titles;
+  QList<std::pair<QString, QAction*>> found;
+  for (const QAction* top : bar.actions()) {
+    titles << top->text();
+    for (QAction* action : top->menu()->actions()) found.append({top->text(), action});
+  }
+  QCOMPARE(titles, (QStringList{u"File"_s, u"Edit"_s, u"View"_s, u"Window"_s, u"Help"_s}));
+  QCOMPARE(size_t(found.size()), std::size(wanted));
+  for (size_t i = 0; i < std::size(wanted); ++i) {
+    const QAction* action = found[qsizetype(i)].second;
+    const Row& row = wanted[i];
+    QCOMPARE(found[qsizetype(i)].first, QString::fromLatin1(row.menu));
+    QCOMPARE(action->isSeparator(), *row.text == 0);
+    if (action->isSeparator()) continue;
+    QCOMPARE(action->text(), QString::fromUtf8(row.text));
+    QCOMPARE(action->menuRole(), row.role);
+    QList<QKeySequence> keys = QKeySequence::keyBindings(row.standard);
+    if (keys.isEmpty() && *row.keys) keys << QKeySequence(QString::fromLatin1(row.keys));
+    QCOMPARE(action->shortcuts(), keys);
+  }
+}
+
+void TestMenus::menuBarActs() {
+  QMenuBar bar;
+  CommandSet set(this);
+  set.fill(&bar);
+  QSignalSpy told(&set, &CommandSet::triggered);
+  QSignalSpy shown(&set, &CommandSet::aboutToShow);
+  QMenu* window = bar.actions()[3]->menu();
+  emit window->aboutToShow();
+  QCOMPARE(shown.count(), 1);
+  entryOf(window, u"Zoom"_s)->trigger();
+  QCOMPARE(told.count(), 1);
+  QCOMPARE(told[0][0].value<Id>(), Id::Zoom);
+}
+
+// None is only a line in the table.
+void TestMenus::everyCommandActs() {
+  for (const commands::Entry& entry : commands::entries()) {
+    if (entry.id == Id::Separator) continue;
+    bool carried = false;
+    for (const QAction* action : m_window->actions())
+      carried =
+          carried || (action->text() == commands::textOf(entry) && action->shortcuts() == commands::keysOf(entry));
+    QVERIFY2(carried, entry.text);
+  }
+}
+
+void TestMenus::noKeyTwice() {
+  QHash<QKeySequence, QString> owners;
+  for (const QAction* action : m_window->actions())
+    for (const QKeySequence& keys : action->shortcuts()) {
+      QVERIFY2(!owners.contains(keys), qPrintable(action->text() + u" and "_s + owners.value(keys)));
+      owners.insert(keys, action->text());
+    }
+}
+
+void TestMenus::keysWhereThePlatformHasNone_data() {
+  QTest::addColumn<Id>("id");
+  QTest::addColumn<QKeySequence::StandardKey>("standard");
+  QTest::addColumn<QString>("keys");
+  QTest::newRow("settings") << Id::OpenSettings << QKeySequence::Preferences << u"Ctrl+,"_s;
+  QTest::newRow("quit") << Id::Quit << QKeySequence::Quit << u"Ctrl+Q"_s;
+  QTest::newRow("full screen") << Id::ToggleFullScreen << QKeySequence::FullScreen << u"F11"_s;
+}
+
+void TestMenus::keysWhereThePlatformHasNone() {
+  QFETCH(Id, id);
+  QFETCH(QKeySequence::StandardKey, standard);
+  QFETCH(QString, keys);
+  commands::Entry entry = *commands::entry(id);
+  QCOMPARE(entry.standard, standard);
+  entry.standard = QKeySequence::UnknownKey; // what a platform without it gives
+  QCOMPARE(commands::keysOf(entry), QList{QKeySequence(keys)});
+  QVERIFY(!commands::keysOf(*commands::entry(id)).isEmpty());
+}
+
+void TestMenus::textsFollowTheWindow() {
+  CommandSet set(this);
+  const auto texts = [&] {
+    return QStringList{set.action(Id::ToggleSidebar)->text(), set.action(Id::ToggleFullScreen)->text()};
+  };
+  QCOMPARE(texts(), (QStringList{u"Hide Sidebar"_s, u"Enter Full Screen"_s}));
+  set.setSituation({.isSidebarCollapsed = true});
+  QCOMPARE(texts(), (QStringList{u"Show Sidebar"_s, u"Enter Full Screen"_s}));
+  set.setSituation({.isFullScreen = true});
+  QCOMPARE(texts(), (QStringList{u"Hide Sidebar"_s, u"Exit Full Screen"_s}));
+}
+
+void TestMenus::pages_data() {
+  QTest::addColumn<QString>("keys");
+  QTest::addColumn<int>("page");
+  QTest::newRow("overview") << u"Ctrl+1"_s << int(Sidebar::Overview);
+  QTest::newRow("cleanup") << u"Ctrl+2"_s << int(Sidebar::Cleanup);
+  QTest::newRow("space map") << u"Ctrl+3"_s << int(Sidebar::SpaceMap);
+  QTest::newRow("system data") << u"Ctrl+4"_s << int(Sidebar::SystemData);
+}
+
+void TestMenus::pages() {
+  QFETCH(QString, keys);
+  QFETCH(int, page);
+  m_window->go(page == Sidebar::Cleanup ? Sidebar::Overview : Sidebar::Cleanup);
+  const int wanted = hasPage(page) ? page : m_window->page();
+  press(QKeySequence(keys));
+  QCOMPARE(m_window->page(), wanted);
+}
+
+void TestMenus::smartScanShowsBothPages() {
+  for (const int from : {int(Sidebar::Settings), int(Sidebar::Cleanup)}) {
+    m_window->go(from);
+    auto* pages = m_window->findChild<QStackedWidget*>();
+    QList<int> visited;
+    const auto watching = connect(pages, &QStackedWidget::currentChanged, this, [&] { visited << m_window->page(); });
+    const bool isElsewhere = m_window->page() != Sidebar::Overview;
+    press("Ctrl+R");
+    disconnect(watching);
+    const QList<int> wanted{Sidebar::Overview, Sidebar::Cleanup};
+    QCOMPARE(visited, isElsewhere ? wanted : wanted.mid(1));
+    QCOMPARE(m_state->phase, AppState::Scanning);
+    QTRY_COMPARE(m_state->phase, AppState::Review);
+  }
+}
+
+void TestMenus::findLargeFiles() {
+  QSignalSpy changed(m_state.get(), &AppState::largeFilesChanged);
+  const int wanted = hasPage(Sidebar::SpaceMap) ? int(Sidebar::SpaceMap) : m_window->page();
+  press("Ctrl+Shift+L");
+  QCOMPARE(m_window->page(), wanted);
+  QVERIFY(changed.count() > 0);
+  QTRY_VERIFY(m_state->largeScanned);
+}
+
+void TestMenus::settings() {
+  const int wanted = hasPage(Sidebar::Settings) ? int(Sidebar::Settings) : m_window->page();
+  press(Id::OpenSettings);
+  QCOMPARE(m_window->page(), wanted);
+}
+
+void TestMenus::sidebar() {
+  auto* column = m_window->findChild<Sidebar*>();
+  const bool before = column->isCollapsed();
+  press("Ctrl+Meta+S");
+  QCOMPARE(column->isCollapsed(), !before);
+  press("Ctrl+Meta+S");
+  QCOMPARE(column->isCollapsed(), before);
+}
+
+void TestMenus::fullScreen() {
+  press(Id::ToggleFullScreen);
+  QTRY_VERIFY(m_window->isFullScreen());
+  press(Id::ToggleFullScreen);
+  QTRY_VERIFY(!m_window->isFullScreen());
+  QVERIFY(m_window->isVisible());
+}
+
+void TestMenus::minimize() {
+  press("Ctrl+M");
+  QVERIFY(m_window->isMinimized());
+  m_window->perform(Id::BringToFront);
+  QVERIFY(!m_window->isMinimized());
+}
+
+void TestMenus::zoomAndFront() {
+  m_window->perform(Id::Zoom);
+  QTRY_VERIFY(m_window->isMaximized());
+  m_window->perform(Id::BringToFront);
+  QVERIFY(m_window->isMaximized());
+  m_window->perform(Id::Zoom);
+  QTRY_VERIFY(!m_window->isMaximized());
+}
+
+void TestMenus::closeWindow() {
+  press(Id::CloseWindow);
+  QVERIFY(m_window->isHidden());
+}
+
+void TestMenus::quit() {
+  QSignalSpy leaving(qApp, &QCoreApplication::aboutToQuit);
+  QTimer::singleShot(0, m_window.get(), [this] { press(Id::Quit); });
+  QApplication::exec(); // would not return
+  QCOMPARE(leaving.count(), 1);
+  QVERIFY(m_window->isHidden());
+}
+
+void TestMenus::editCallsTheFocusedWidget_data() {
+  QTest::addColumn<Id>("id");
+  QTest::addColumn<QString>("method");
+  QTest::newRow("undo") << Id::Undo << u"undo"_s;
+  QTest::newRow("redo") << Id::Redo << u"redo"_s;
+  QTest::newRow("cut") << Id::Cut << u"cut"_s;
+  QTest::newRow("copy") << Id::Copy << u"copy"_s;
+  QTest::newRow("paste") << Id::Paste << u"paste"_s;
+  QTest::newRow("select all") << Id::SelectAll << u"selectAll"_s;
+}
+
+void TestMenus::editCallsTheFocusedWidget() {
+  QFETCH(Id, id);
+  QFETCH(QString, method);
+  auto* widget = new Editable(m_window.get());
+  widget->show();
+  widget->setFocus();
+  press(id);
+  QCOMPARE(widget->called, QStringList{method});
+  m_window->perform(id);
+  QCOMPARE(widget->called.size(), 2);
+}
+
+// A widget that knows no such thing keeps its keys, and nothing is complained of.
+void TestMenus::editIsHarmless() {
+  QTest::failOnWarning(QRegularExpression(u".*"_s));
+  auto* button = new Button(u"Press"_s);
+  button->setParent(m_window.get());
+  button->show();
+  button->setFocus();
+  for (const Id id : {Id::Undo, Id::Redo, Id::Cut, Id::Copy, Id::Paste, Id::SelectAll}) {
+    m_window->perform(id);
+    press(id);
+    for (const QAction* action : m_window->actions())
+      if (action->text() == commands::textOf(*commands::entry(id))) QVERIFY(!action->isEnabled());
+  }
+  button->clearFocus();
+  QVERIFY(!QApplication::focusWidget());
+  m_window->perform(Id::Cut);
+  press(Id::Cut);
+}
+
+// Its own keys reach it once: nothing is pasted twice, and no key has two claims.
+void TestMenus::lineEditKeepsItsKeys() {
+  QTest::failOnWarning(QRegularExpression(u"[Aa]mbiguous"_s));
+  QSignalSpy told(m_window->findChild<CommandSet*>(), &CommandSet::triggered);
+  auto* edit = new QLineEdit(m_window.get());
+  edit->show();
+  edit->setFocus();
+  QTest::keyClicks(edit, u"abc"_s);
+  press("Ctrl+A");
+  QCOMPARE(edit->selectedText(), u"abc"_s);
+  press("Ctrl+C");
+  QCOMPARE(QGuiApplication::clipboard()->text(), u"abc"_s);
+  press("Ctrl+X");
+  QCOMPARE(edit->text(), QString());
+  press("Ctrl+V");
+  QCOMPARE(edit->text(), u"abc"_s);
+  press("Ctrl+Z");
+  QCOMPARE(edit->text(), QString());
+  press(QKeySequence::keyBindings(QKeySequence::Redo).first());
+  QCOMPARE(edit->text(), u"abc"_s);
+  QCOMPARE(told.count(), 0);
+  m_window->perform(Id::SelectAll);
+  m_window->perform(Id::Cut);
+  QCOMPARE(edit->text(), QString());
+}
+
+void TestMenus::pagesRestUnderADialog() {
+  m_window->showAbout();
+  QSignalSpy found(m_state.get(), &AppState::largeFilesChanged);
+  const bool collapsed = m_window->findChild<Sidebar*>()->isCollapsed();
+  for (const char* keys : {"Ctrl+2", "Ctrl+3", "Ctrl+4", "Ctrl+R", "Ctrl+Shift+L", "Ctrl+,", "Ctrl+Meta+S", "Ctrl+?"})
+    press(keys);
+  m_window->perform(Id::About);
+  m_window->perform(Id::CheckForUpdates);
+  QCOMPARE(m_window->page(), int(Sidebar::Overview));
+  QCOMPARE(m_state->phase, AppState::Empty);
+  QCOMPARE(found.count(), 0);
+  QCOMPARE(m_window->findChild<Sidebar*>()->isCollapsed(), collapsed);
+  QCOMPARE(dialogs().size(), 1);
+  dialogs().first()->close();
+  press("Ctrl+2"); // the dialog is away, if not yet gone
+  QCOMPARE(m_window->page(), int(Sidebar::Cleanup));
+}
+
+void TestMenus::windowKeysWorkUnderADialog() {
+  m_window->showAbout();
+  press("Ctrl+M");
+  QVERIFY(m_window->isMinimized());
+  m_window->showNormal();
+  m_window->perform(Id::Zoom);
+  QTRY_VERIFY(m_window->isMaximized());
+  press(Id::CloseWindow);
+  QVERIFY(m_window->isHidden());
+}
+
+void TestMenus::appMenuRows() {
+  const AppMenu* menu = showMenu();
+  QVERIFY(menu);
+  QStringList texts;
+  for (const QAction* action : menu->actions())
+    texts << (action->isSeparator() ? u"-"_s
+                                    : action->text() + u'|' + action->property("appMenuTrailingText").toString());
+  QCOMPARE(texts, (QStringList{u"Settings|"_s, u"-"_s, u"Check for Updates|"_s, u"Help|"_s,
+                               u"About Tarnwick|"_s + identity::kVersion, u"-"_s, u"Quit Tarnwick|"_s}));
+  for (const QAction* action : menu->actions()) QCOMPARE(action->icon().isNull(), action->isSeparator());
+  QCOMPARE(menu->parentWidget(), m_window.get());
+  QCOMPARE(menu->pos(), m_window->mapToGlobal(QPoint(200, 60)) - QPoint(14, 10));
+  const auto* help = qobject_cast<AppMenu*>(entryOf(menu, u"Help"_s)->menu());
+  QVERIFY(help);
+  texts.clear();
+  for (const QAction* action : help->actions()) texts << action->text();
+  QCOMPARE(texts, (QStringList{u"Guide"_s, u"FAQ"_s, u"Open Log Folder"_s, u"Keyboard Shortcuts"_s}));
+  QPointer<AppMenu> gone = openMenu();
+  gone->close();
+  QTRY_VERIFY(!gone);
+}
+
+/// Opens the menu and takes one entry after another, as the keyboard does.
+void TestMenus::choose(const QStringList& way) const {
+  QMenu* menu = showMenu();
+  for (const QString& text : way) {
+    QVERIFY2(menu, qPrintable(text));
+    QAction* action = entryOf(menu, text);
+    QVERIFY2(action, qPrintable(text));
+    menu->setActiveAction(action);
+    QTest::keyClick(menu, action->menu() ? Qt::Key_Right : Qt::Key_Return);
+    menu = action->menu();
+  }
+}
+
+void TestMenus::appMenuEntriesAct() {
+  const int wanted = hasPage(Sidebar::Settings) ? int(Sidebar::Settings) : m_window->page();
+  choose({u"Settings"_s});
+  QCOMPARE(m_window->page(), wanted);
+  choose({u"About Tarnwick"_s});
+  QVERIFY(m_window->findChild<AboutDialog*>());
+  dialogs().first()->close();
+  Opened opened;
+  choose({u"Help"_s, u"Guide"_s});
+  choose({u"Help"_s, u"FAQ"_s});
+  choose({u"Help"_s, u"Open Log Folder"_s});
+  QCOMPARE(opened.paths,
+           (QStringList{u"/guide/get-started-with-tarnwick/"_s, u"/support-center/"_s, Cleaner::logDir()}));
+  QTRY_VERIFY(dialogs().isEmpty());
+  choose({u"Help"_s, u"Keyboard Shortcuts"_s});
+  QVERIFY(m_window->findChild<ShortcutsOverlay*>());
+  QSignalSpy leaving(qApp, &QCoreApplication::aboutToQuit);
+  QTimer::singleShot(0, m_window.get(), [this] { choose({u"Quit Tarnwick"_s}); });
+  QApplication::exec();
+  QCOMPARE(leaving.count(), 1);
+}
+
+void TestMenus::appMenuUnderADialog() {
+  m_window->showAbout();
+  const AppMenu* menu = showMenu();
+  for (const QString& text : {u"Settings"_s, u"Check for Updates"_s, u"About Tarnwick"_s})
+    QVERIFY2(!entryOf(menu, text)->isEnabled(), qPrintable(text));
+  QVERIFY(entryOf(menu, u"Quit Tarnwick"_s)->isEnabled());
+  const QMenu* help = entryOf(menu, u"Help"_s)->menu();
+  QVERIFY(entryOf(help, u"Guide"_s)->isEnabled());
+  QVERIFY(!entryOf(help, u"Keyboard Shortcuts"_s)->isEnabled());
+}
+
+void TestMenus::appMenuByKey() {
+  press("F10");
+  QVERIFY(openMenu());
+  QCOMPARE(openMenu()->activeAction(), openMenu()->actions().first());
+  QTest::keyClick(openMenu(), Qt::Key_Escape);
+  QVERIFY(!QApplication::activePopupWidget());
+  m_window->showAbout();
+  press("F10");
+  QVERIFY(openMenu());
+  QCOMPARE(openMenu()->activeAction()->text(), u"Quit Tarnwick"_s); // the first that can be chosen
+}
+
+void TestMenus::helpMenu() {
+  AppMenu* menu = showMenu();
+  menu->setActiveAction(entryOf(menu, u"Help"_s));
+  QTest::keyClick(menu, Qt::Key_Right);
+  auto* help = qobject_cast<AppMenu*>(QApplication::activePopupWidget());
+  QVERIFY(help && help != menu);
+  QCOMPARE(entryOf(help, u"Keyboard Shortcuts"_s)->property("appMenuTrailingText").toString(), u"Ctrl+?"_s);
+}
+
+// Every command with keys, and no other, is on the list, with its first keys.
+void TestMenus::shortcutsAreListed() {
+  m_window->setSidebarCollapsed(true);
+  m_window->showShortcuts();
+  const auto* list = m_window->findChild<ShortcutsOverlay*>();
+  QVERIFY(list && list->isVisible());
+  QCOMPARE(list->accessibleName(), u"Keyboard shortcuts"_s);
+  const QStringList texts = windowtest::shownTexts(*list);
+  QStringList shown;
+  for (const KeyCaps* caps : list->findChildren<KeyCaps*>()) shown << caps->shownText();
+  QStringList wanted;
+  for (const QAction* action : m_window->actions()) {
+    if (action->shortcut().isEmpty()) continue;
+    wanted << action->shortcut().toString(QKeySequence::NativeText);
+    QString text = action->text();
+    QVERIFY2(texts.contains(text.remove(u'…')), qPrintable(text));
+  }
+  shown.sort();
+  wanted.sort();
+  QCOMPARE(shown, wanted);
+  QVERIFY(shown.contains(u"Ctrl+Shift+L"_s));
+  for (const char* title : {"File", "Edit", "View", "Window", "Help", "Show Sidebar", "Keyboard shortcuts"})
+    QVERIFY2(texts.contains(QString::fromLatin1(title)), title);
+  QVERIFY(!texts.contains(u"Zoom"_s));
+}
+
+void TestMenus::shortcutsByKey() {
+  press("Ctrl+?");
+  QCOMPARE(m_window->findChildren<ShortcutsOverlay*>().size(), 1);
+  press("Ctrl+?");
+  QCOMPARE(m_window->findChildren<ShortcutsOverlay*>().size(), 1);
+  windowtest::press(*m_window, Qt::Key_Escape);
+  QTRY_VERIFY(!m_window->findChild<ShortcutsOverlay*>());
+  press("Ctrl+?");
+  windowtest::press(*m_window, Qt::Key_Return); // the button to close it
+  QTRY_VERIFY(!m_window->findChild<ShortcutsOverlay*>());
+}
+
+void TestMenus::keyNamesAreSplit_data() {
+  QTest::addColumn<QString>("keys");
+  QTest::addColumn<QStringList>("names");
+  QTest::newRow("one") << u"F10"_s << QStringList{u"F10"_s};
+  QTest::newRow("three") << u"Ctrl+Shift+L"_s << QStringList{u"Ctrl"_s, u"Shift"_s, u"L"_s};
+  QTest::newRow("plus") << u"Ctrl++"_s << QStringList{u"Ctrl"_s, u"+"_s};
+  QTest::newRow("comma") << u"Ctrl+,"_s << QStringList{u"Ctrl"_s, u","_s};
+  QTest::newRow("none") << QString() << QStringList();
+}
+
+void TestMenus::keyNamesAreSplit() {
+  QFETCH(QString, keys);
+  QTEST(keyNames(QKeySequence(keys)), "names");
+}
+
+void TestMenus::capsStandInARow() {
+  const QList<QRectF> boxes = keyCapsLayout({20, 3});
+  QCOMPARE(boxes, (QList<QRectF>{{0, 0, 34, 22}, {38, 0, 22, 22}}));
+  QVERIFY(keyCapsLayout({}).isEmpty());
+  KeyCaps caps(QKeySequence(u"Ctrl+R"_s));
+  caps.resize(caps.sizeHint());
+  QVERIFY(caps.width() > 22 + 4 + 22);
+  const QImage image = pixels::rendered(caps);
+  QVERIFY(pixels::count(image, image.rect(), Theme::get().surface2) > 0);
+  QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
+  const QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(&caps);
+  QCOMPARE(heard->text(QAccessible::Name), u"Ctrl+R"_s);
+}
+
+void TestMenus::shortcutsFitTheSmallestWindow() {
+  m_window->resize(m_window->minimumSize());
+  for (const bool mac : {true, false}) {
+    Theme::get().mac = mac;
+    m_window->showShortcuts();
+    const auto* list = m_window->findChild<ShortcutsOverlay*>();
+    QTRY_VERIFY(list->rect().contains(list->panel->geometry()));
+    dialogs().first()->close();
+    QTRY_VERIFY(dialogs().isEmpty());
+  }
+  Theme::get().mac = true;
+}
+
+int main(int argc, char** argv) { return uitest::run<TestMenus>(argc, argv); }
+
+#include "tst_Menus.moc"
