@@ -5,11 +5,14 @@
 #include "ui/popup.h"
 
 #include <QCursor>
-#include <QEvent>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QTextDocument>
+#include <QToolTip>
 #include <QVariant>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -100,3 +103,11 @@ bool TipStyler::eventFilter(QObject* watched, QEvent* event) {
 }
 
 QString plainTip(const QString& text) { return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text; }
+
+bool showTipInLines(QWidget* widget, QEvent* event) {
+  if (event->type() != QEvent::ToolTip || widget->toolTip().isEmpty()) return false;
+  const QString text = widget->toolTip();
+  const QString inLines = Qt::mightBeRichText(text) ? text : u"<qt>%1</qt>"_s.arg(text.toHtmlEscaped());
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), inLines, widget);
+  return true;
+}

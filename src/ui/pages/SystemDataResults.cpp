@@ -2,6 +2,7 @@
 
 #include "core/fmt.h"
 #include "ui/Theme.h"
+#include "ui/TipStyler.h"
 #include "ui/accessible.h"
 #include "ui/controls/Button.h"
 #include "ui/controls/Card.h"
@@ -69,6 +70,9 @@ class HeadlineCard : public Card, public AccessibleText {
     setAccessibleDescription(plain(Words::explanation()));
   }
   [[nodiscard]] QString shownText() const override { return m_shown; }
+
+ protected:
+  bool event(QEvent* event) override { return showTipInLines(this, event) || Card::event(event); }
 
  private:
   QString m_shown;
@@ -240,9 +244,9 @@ void SystemDataResults::takeFocus() {
   }
 }
 
-/// Only what nobody else has by now. A button that can't be pressed yet has to wait.
+/// Only what nobody else has by now. A button that can't be pressed yet, or isn't to be seen, has to wait.
 void SystemDataResults::giveFocus(bool busy) {
-  if (!m_place || busy) return;
+  if (!m_place || busy || !isVisible()) return;
   const Place place = *m_place;
   m_place.reset();
   const QWidget* focused = window()->focusWidget();

@@ -39,6 +39,18 @@ constexpr int kFontPx = 13;
 constexpr int kSizeWeight = 600;
 constexpr int kLabelWeight = 500;
 
+/// Tells on its tool tip what the item is.
+class Title : public QLabel {
+ public:
+  explicit Title(const SystemDataItem& item) : QLabel(item.title) {
+    setProperty("role", u"strong"_s); // as it is dressed later, once
+    setToolTip(item.blurb);
+  }
+
+ protected:
+  bool event(QEvent* event) override { return showTipInLines(this, event) || QLabel::event(event); }
+};
+
 /// Whether its button does anything: what is only counted may be none.
 bool isReady(const SystemDataItem& item) { return item.id != "snapshots"_L1 || item.count >= 1; }
 
@@ -79,9 +91,7 @@ SystemDataRow::SystemDataRow(const SystemDataItem& item, int column, bool busy, 
 
 QLayout* SystemDataRow::buildText(const SystemDataItem& item) {
   QVBoxLayout* text = vbox(kTextSpacing);
-  QLabel* title = label(item.title, "strong");
-  title->setToolTip(plainTip(item.blurb));
-  text->addWidget(title);
+  text->addWidget(new Title(item));
   const QString detail = SystemDataWords::detailOf(item);
   if (detail.isEmpty()) return text;
   auto* below = new ElidedLabel(detail, "micro"); // it may hold names of folders, as long as they like

@@ -95,16 +95,16 @@ class Held {
  public:
   explicit Held(SystemDataScanner* scanner) {
     m_connection = QObject::connect(
-        scanner, &SystemDataScanner::progress, scanner, [this] { m_gate.acquire(); }, Qt::DirectConnection);
+        scanner, &SystemDataScanner::progress, scanner, [gate = m_gate] { gate->acquire(); }, Qt::DirectConnection);
   }
   ~Held() { letGo(); }
   void letGo() {
     QObject::disconnect(m_connection);
-    m_gate.release(1'000'000);
+    m_gate->release(1'000'000);
   }
 
  private:
-  QSemaphore m_gate;
+  std::shared_ptr<QSemaphore> m_gate = std::make_shared<QSemaphore>(); ///< the worker may still be on its way out of it
   QMetaObject::Connection m_connection;
 };
 

@@ -7,7 +7,9 @@
 #include "ui/controls/Spinner.h"
 #include "ui/visuals/StackBar.h"
 
+#include <QHelpEvent>
 #include <QPointer>
+#include <QToolTip>
 
 using namespace systemdatatest;
 using ui::SystemDataRow;
@@ -41,6 +43,8 @@ class TestSystemDataResults : public SystemDataTest {
   void actingGoesBeforeMeasuring();
   void explanation_data();
   void explanation();
+  void longTipsWrap_data();
+  void longTipsWrap();
   void bar();
   void barOfNothing();
   void legend();
@@ -77,6 +81,7 @@ class TestSystemDataResults : public SystemDataTest {
   void readerHearsRows();
   void readerHearsTheHeadline();
   void tabOrder();
+  void tabBringsRowsIntoView();
   void buttonKeepsTheFocus();
   void focusWaitsForTheEndOfTheWork();
   void focusOfARowThatWent();
@@ -221,6 +226,32 @@ void TestSystemDataResults::explanation() {
   const QString heard = reader(headlineCard())->text(QAccessible::Description);
   QVERIFY(!heard.contains(u'<'));
   QCOMPARE(heard.simplified(), windowtest::plain(why).simplified());
+}
+
+void TestSystemDataResults::longTipsWrap_data() { hosts(); }
+
+// A plain text as long as these would be one line across the whole screen.
+void TestSystemDataResults::longTipsWrap() {
+  QFETCH(const QString, host);
+  makePage(qPrintable(host));
+  SystemDataItem one = item(u"a"_s, kGB);
+  one.blurb = u"What it is & <who> keeps it. "_s.repeated(9).trimmed();
+  put({one});
+  show();
+  QWidget* title = boxOf(boxOf(row(u"a"_s))->itemAt(1))->itemAt(0)->widget();
+  for (QWidget* of : {static_cast<QWidget*>(headlineCard()), title}) {
+    const QPoint at = of->rect().center();
+    QHelpEvent asks(QEvent::ToolTip, at, of->mapToGlobal(at));
+    QVERIFY(QApplication::sendEvent(of, &asks));
+    QCOMPARE(windowtest::plain(QToolTip::text()).simplified(),
+             (of == title ? one.blurb : windowtest::plain(of->toolTip())).simplified());
+    const auto all = QApplication::topLevelWidgets();
+    const auto tip = std::ranges::find_if(all, [](const QWidget* top) { return top->inherits("QTipLabel"); });
+    QVERIFY(tip != all.end());
+    QVERIFY2((*tip)->width() < 800, qPrintable(QString::number((*tip)->width())));
+    QVERIFY((*tip)->height() > 2 * (*tip)->fontMetrics().lineSpacing());
+    delete *tip;
+  }
 }
 
 void TestSystemDataResults::bar() {
@@ -663,6 +694,22 @@ void TestSystemDataResults::tabOrder() {
     windowtest::press(*m_page, Qt::Key_Tab);
     QCOMPARE(QApplication::focusWidget(), next);
   }
+}
+
+void TestSystemDataResults::tabBringsRowsIntoView() {
+  QList<SystemDataItem> many;
+  for (int i = 0; i < 12; ++i) many << item(u"i%1"_s.arg(i), (20 - i) * kGB);
+  put(many);
+  show();
+  button(u"Rescan"_s)->setFocus(Qt::TabFocusReason);
+  for (const SystemDataItem& one : many) {
+    windowtest::press(*m_page, Qt::Key_Tab);
+    const QWidget* at = QApplication::focusWidget();
+    QCOMPARE(at, static_cast<QWidget*>(buttonOf(one.id)));
+    QVERIFY(area()->viewport()->rect().contains(QRect(at->mapTo(area()->viewport(), QPoint()), at->size())));
+  }
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp); // and the page scrolls from there
+  QVERIFY(area()->verticalScrollBar()->value() < area()->verticalScrollBar()->maximum());
 }
 
 void TestSystemDataResults::buttonKeepsTheFocus() {
