@@ -117,10 +117,13 @@ QLayout* legendItem(const SystemDataItem& item) {
   QHBoxLayout* line = hbox(kLegendItemSpacing);
   line->addWidget(swatch);
   auto* title = new ElidedLabel(item.title, "caption");
-  title->ensurePolished();                           // in its own font
-  title->setMaximumWidth(title->sizeHint().width()); // the size stands beside it, however much room there is
+  title->ensurePolished(); // in its own font
+  QLabel* size = label(fmt::bytes(item.bytes), "num");
+  // Neither takes more room than it needs, however much there is: they stand side by side.
+  title->setMaximumWidth(title->sizeHint().width());
+  size->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
   line->addWidget(title, 1);
-  line->addWidget(label(fmt::bytes(item.bytes), "num"));
+  line->addWidget(size);
   return line;
 }
 

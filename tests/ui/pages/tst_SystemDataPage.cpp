@@ -452,6 +452,8 @@ void TestSystemDataPage::colours() {
   pixels::setLook(true);
   QVERIFY(value->styleSheet().contains(Theme::get().text.name()));
   QCOMPARE(valueOf(stepRows()[0]), u"1 MB"_s);
+  QVERIFY(stepRows()[1]->isActive()); // where it was
+  QCOMPARE(radar()->valueText(), u"1 MB measured"_s);
 }
 
 // Nothing in the list takes the focus, so the list itself does.

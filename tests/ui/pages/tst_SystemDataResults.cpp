@@ -87,6 +87,7 @@ class TestSystemDataResults : public SystemDataTest {
   void focusOfARowThatWent();
   void focusIsTakenFromNobody();
   void scrolledPlaceStays();
+  void changeOfLookLeavesNothingBehind();
   void fitsTheSmallestWindow_data();
   void fitsTheSmallestWindow();
   void contexts();
@@ -280,6 +281,7 @@ void TestSystemDataResults::barOfNothing() {
 void TestSystemDataResults::legend() {
   SystemDataItem blue = managed(u"large"_s, 6 * kGB);
   blue.color = QColor(30, 90, 220);
+  m_page->resize(1400, 640);
   put({item(u"small"_s, kGB), blue, item(u"tiny"_s, kMB), item(u"middle"_s, 3 * kGB)});
   QCOMPARE(legendRow()->spacing(), 18);
   QCOMPARE(legendRow()->count(), 4);
@@ -300,11 +302,13 @@ void TestSystemDataResults::legend() {
   }
   QVERIFY(legendRow()->itemAt(3)->spacerItem());
   show();
-  for (int i = 0; i < 3; ++i) { // what there is of room is right of them
+  for (int i = 0; i < 3; ++i) { // all that there is of room is right of them
     const auto* one = boxOf(legendRow()->itemAt(i));
-    const QWidget* title = one->itemAt(1)->widget();
-    QCOMPARE(title->width(), title->sizeHint().width());
-    QCOMPARE(one->itemAt(2)->geometry().left(), title->geometry().right() + 1 + 7);
+    const auto partAt = [&](int index) { return one->itemAt(index)->widget()->geometry(); };
+    QCOMPARE(partAt(1).width(), one->itemAt(1)->widget()->sizeHint().width());
+    QCOMPARE(partAt(2).left(), partAt(1).right() + 1 + 7);
+    if (i < 2)
+      QCOMPARE(boxOf(legendRow()->itemAt(i + 1))->itemAt(0)->widget()->geometry().left(), partAt(2).right() + 1 + 18);
   }
   const QImage swatch = pixels::rendered(*boxOf(legendRow()->itemAt(0))->itemAt(0)->widget());
   QCOMPARE(swatch.size(), QSize(9, 9));
@@ -769,6 +773,23 @@ void TestSystemDataResults::scrolledPlaceStays() {
     setBusy(on);
     QCOMPARE(bar->value(), 300);
   }
+}
+
+void TestSystemDataResults::changeOfLookLeavesNothingBehind() {
+  const QList<SystemDataItem> items = {denied(item(u"a"_s, 3 * kGB)), denied(managed(u"b"_s, 0)),
+                                       withDetail(item(u"hidden"_s, kGB), u".npm"_s)};
+  const auto picture = [&] {
+    show();
+    return m_page->grab().toImage();
+  };
+  put(items);
+  picture();
+  pixels::setLook(true);
+  settle();
+  const QImage changed = picture();
+  makePage();
+  put(items);
+  QVERIFY(pixels::difference(changed, picture()).isNull());
 }
 
 /// The narrowest window leaves the page 724 pixels: nothing may be cut off at its right.
