@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Values of a deployment that would open the program to strangers don't compile.
 
-The one source that sees them is compiled as the build compiles it, with other values.
+The header that holds them to their rules is compiled as the build compiles it, with other values.
 """
 
 import json
@@ -25,13 +25,15 @@ class Deployment(unittest.TestCase):
         cls.folder = entry["directory"]
         command = shlex.split(entry["command"])
         output = command.index("-o")
-        cls.command = command[:output] + command[output + 2 :] + ["-fsyntax-only"]
+        source = command.index("-c")
+        cls.command = command[:output] + command[output + 2 : source] + ["-fsyntax-only", "-x", "c++", "-"]
 
     def compile(self, **values: str) -> tuple[bool, str]:
         """With these values for TARNWICK_NAME, and the build's own for the others."""
         command = [word for word in self.command if not any(word.startswith(f"-DTARNWICK_{name}=") for name in values)]
-        command += [f"-DTARNWICK_{name}={value}" for name, value in values.items()]
-        done = subprocess.run(command, cwd=self.folder, capture_output=True, text=True, check=False)
+        command[-1:] = [*(f"-DTARNWICK_{name}={value}" for name, value in values.items()), "-"]
+        source = '#include "core/deployment_values.h"\n'
+        done = subprocess.run(command, cwd=self.folder, input=source, capture_output=True, text=True, check=False)
         return done.returncode == 0, done.stderr
 
     def assert_refused(self, reason: str, **values: str):

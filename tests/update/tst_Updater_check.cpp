@@ -34,6 +34,7 @@ class TestUpdaterCheck : public QObject {
     QVERIFY(updater.launcher);
     QCOMPARE(updater.received + updater.total, 0);
     QCOMPARE(updater.timeouts.feed, 15s);
+    QCOMPARE(updater.timeouts.wholeFeed, 60s);
     QCOMPARE(updater.timeouts.download, 60s);
   }
 

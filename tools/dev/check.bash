@@ -71,17 +71,20 @@ engines_under_tsan() {
       $in_order ctest --test-dir build/tsan/tests/engines --output-on-failure -j 2
 }
 
-# fuzz SECONDS: each fuzzer that long, from its corpus and the inputs that earlier runs found on.
+# fuzz SECONDS [NAME...]: each fuzzer, or those named, that long, from its corpus and the inputs that earlier runs found on.
 fuzz() {
-  local seconds=$1 program name inputs status=0
+  local seconds=$1 program name inputs count=0 status=0
+  shift
   setup build full || return
   build fuzz || return
   for program in build/fuzz/fuzz/tarnwick-fuzz-*; do
     [[ -x $program && -f $program ]] || continue
     name=${program##*/}
+    [[ $# -eq 0 || " $* " == *" ${name#tarnwick-fuzz-} "* ]] || continue
     inputs=("build/fuzz/inputs/$name")
     mkdir -p "${inputs[0]}"
     if [[ -d fuzz/corpus/${name#tarnwick-fuzz-} ]]; then inputs+=("fuzz/corpus/${name#tarnwick-fuzz-}"); fi
+    count=$((count + 1))
     say "$name for $seconds s"
     if ! "$program" -max_total_time="$seconds" -print_final_stats=1 -artifact_prefix="build/fuzz/$name-" \
       "${inputs[@]}" >"build/fuzz/$name.log" 2>&1; then
@@ -92,6 +95,7 @@ fuzz() {
       say "$name: $(awk '/number_of_executed_units/ { print $2 }' "build/fuzz/$name.log") inputs"
     fi
   done
+  [[ $count -gt 0 ]] || { say "no fuzzer is called so: $*"; return 1; }
   return $status
 }
 
