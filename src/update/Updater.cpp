@@ -18,6 +18,8 @@ namespace {
 
 constexpr QLatin1String kVersion(TARNWICK_VERSION);
 constexpr int kHttpOk = 200;
+constexpr int kMostRedirects = 20;
+constexpr qsizetype kMostWords = 300; // characters that a dialog can show
 
 /// By the system that the program was built for, not by the one whose words it shows.
 QString platformKey() { return platform::builtFor() == platform::Host::Mac ? u"mac"_s : u"linux"_s; }
@@ -68,11 +70,14 @@ void Updater::check() {
   release = {};
   error.clear();
   setState(Checking);
-  QNetworkRequest request(feedUrl);
-  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
-  m_reply = get(std::move(request), timeouts.feed);
-  // A server that sends a byte now and then never runs into the first time-out.
+  // A server that sends a byte now and then never runs into the other time-out.
   m_feedLimit->start(timeouts.wholeFeed);
+  m_redirects = 0;
+  askFeed(feedUrl);
+}
+
+void Updater::askFeed(const QUrl& url) {
+  m_reply = get(url, timeouts.feed);
   connect(m_reply, &QNetworkReply::readyRead, this, [this] {
     if (m_reply->bytesAvailable() > feed::kMostBytes) stop(unreadable());
   });
@@ -80,13 +85,34 @@ void Updater::check() {
 }
 
 /// Nothing compressed is asked for, and with this header of our own nothing is unpacked: the limits count what is
-/// really received.
-QNetworkReply* Updater::get(QNetworkRequest request, std::chrono::milliseconds timeout) {
+/// really received. Redirects are followed here, one request after the other: a reply that follows by itself reads any
+/// body that comes with one into memory, and can't be kept from sending its next request once it tells of it.
+QNetworkReply* Updater::get(const QUrl& url, std::chrono::milliseconds timeout) {
+  QNetworkRequest request(url);
+  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
   request.setTransferTimeout(static_cast<int>(timeout.count()));
   request.setHeader(QNetworkRequest::UserAgentHeader, u"Tarnwick/%1"_s.arg(kVersion));
   request.setRawHeader("Accept-Encoding", "identity");
   m_failure.clear();
-  return m_network->get(request);
+  QNetworkReply* const reply = m_network->get(request);
+  connect(reply, &QNetworkReply::metaDataChanged, this, &Updater::onHead);
+  return reply;
+}
+
+void Updater::onHead() {
+  const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+  if (!target.isEmpty()) follow(m_reply->url().resolved(target));
+}
+
+/// No hop leads away from https, and each hop of a download is held to the same rule as its first request.
+void Updater::follow(const QUrl& url) {
+  const bool isDownload = m_part != nullptr;
+  const bool isLessSafe = url.scheme() != "https"_L1 && url.scheme() != m_reply->url().scheme();
+  if (isDownload && (isLessSafe || !feed::isAllowed(url, allowedDomain))) return stop(notOnServer());
+  if (isLessSafe) return stop(tr("The server redirected to an address that is not safe."));
+  if (++m_redirects > kMostRedirects) return stop(tr("Too many redirects."));
+  take()->abort(); // with whatever body it has
+  isDownload ? startDownload(url) : askFeed(url);
 }
 
 /// Ends the reply, with finished() as always, if that isn't on its way already.
@@ -104,6 +130,8 @@ QNetworkReply* Updater::take() {
   return reply;
 }
 
+QString Updater::notOnServer() { return tr("The update is not on Tarnwick's server."); }
+
 /// Empty for an answer that is to be read. The network's word for a time-out is that for a reply which was cancelled,
 /// but what we end ourselves has its own reason.
 QString Updater::failureOf(const QNetworkReply& reply) const {
@@ -115,7 +143,7 @@ QString Updater::failureOf(const QNetworkReply& reply) const {
   case QNetworkReply::TimeoutError:
     return tooSlow();
   default:
-    return reply.errorString();
+    return reply.errorString().simplified().left(kMostWords); // the server's own words may be among them
   }
   const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
   return status == kHttpOk ? QString() : u"HTTP %1"_s.arg(status);

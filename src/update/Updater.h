@@ -16,7 +16,6 @@
 class PartFile;
 class QNetworkAccessManager;
 class QNetworkReply;
-class QNetworkRequest;
 class QTimer;
 
 /// How long a server may take. The defaults are the program's; tests have less patience.
@@ -103,17 +102,19 @@ class Updater : public QObject {
   void quitForUpdate();
 
  private:
-  QNetworkReply* get(QNetworkRequest request, std::chrono::milliseconds timeout);
+  QNetworkReply* get(const QUrl& url, std::chrono::milliseconds timeout);
+  void askFeed(const QUrl& url);
+  void onHead();
+  void follow(const QUrl& url);
   void stop(const QString& failure);
   [[nodiscard]] QNetworkReply* take();
+  [[nodiscard]] static QString notOnServer();
   [[nodiscard]] QString failureOf(const QNetworkReply& reply) const;
   void readFeed(const QByteArray& body);
   void onFeedFinished();
   [[nodiscard]] static QString fileName(const QUrl& url);
   void refuse(const QString& failure);
   void startDownload(const QUrl& url);
-  void onDownloadHead();
-  void follow(const QUrl& url);
   void onDownloadData();
   void onDownloadFinished();
   void downloadFinished(const QString& failure);
@@ -124,6 +125,6 @@ class Updater : public QObject {
   QTimer* m_feedLimit;              ///< a child; runs while the feed is asked
   QPointer<QNetworkReply> m_reply;  ///< in flight, of either kind
   QString m_failure;                ///< why we stopped the reply, known before it tells that it was stopped
-  int m_redirects = 0;              ///< of the running download
+  int m_redirects = 0;              ///< since the request that began it
   std::unique_ptr<PartFile> m_part; ///< while something is downloaded
 };

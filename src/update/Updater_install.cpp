@@ -7,7 +7,6 @@
 
 #include <QFileInfo>
 #include <QNetworkReply>
-#include <QNetworkRequest>
 
 #include <algorithm>
 
@@ -15,13 +14,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kMostRedirects = 20;
 constexpr qsizetype kMostNameBytes = 200; // a file system's limit is 255, and ".part" follows
 
 /// The user's own end of a download; never shown.
 constexpr QLatin1String kCanceled("canceled");
 
-QString notOnServer() { return Updater::tr("The update is not on Tarnwick's server."); }
 QString unexpectedSize() { return Updater::tr("The update has an unexpected size."); }
 QString notSaved(const QString& why) { return Updater::tr("Could not save the update: %1").arg(why); }
 
@@ -59,13 +56,8 @@ void Updater::install() {
   startDownload(release.url);
 }
 
-/// Redirects are followed here, one request after the other: a reply that follows by itself can't be kept from sending
-/// its next request once it tells of it.
 void Updater::startDownload(const QUrl& url) {
-  QNetworkRequest request(url);
-  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-  m_reply = get(std::move(request), timeouts.download);
-  connect(m_reply, &QNetworkReply::metaDataChanged, this, &Updater::onDownloadHead);
+  m_reply = get(url, timeouts.download);
   connect(m_reply, &QNetworkReply::readyRead, this, &Updater::onDownloadData);
   connect(m_reply, &QNetworkReply::downloadProgress, this, [this](qint64 bytesReceived, qint64 bytesTotal) {
     received = bytesReceived;
@@ -77,20 +69,6 @@ void Updater::startDownload(const QUrl& url) {
 
 void Updater::cancel() {
   if (state == Downloading && m_reply) stop(kCanceled);
-}
-
-void Updater::onDownloadHead() {
-  const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
-  if (!target.isEmpty()) follow(m_reply->url().resolved(target));
-}
-
-/// Each hop is held to the same rule as the first request, and none leads away from https.
-void Updater::follow(const QUrl& url) {
-  const bool isLessSafe = url.scheme() != "https"_L1 && url.scheme() != m_reply->url().scheme();
-  if (isLessSafe || !feed::isAllowed(url, allowedDomain)) return stop(notOnServer());
-  if (++m_redirects > kMostRedirects) return stop(tr("Too many redirects."));
-  take()->abort(); // with whatever body it has
-  startDownload(url);
 }
 
 /// After a stop the rest of a reply is let be.
