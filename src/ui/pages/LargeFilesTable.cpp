@@ -1,6 +1,7 @@
 #include "ui/pages/LargeFilesTable.h"
 
 #include "core/platform.h"
+#include "ui/Theme.h"
 #include "ui/controls/KeyboardFocus.h"
 #include "ui/pages/LargeFileDelegate.h"
 #include "ui/pages/LargeFilesHeader.h"
@@ -43,6 +44,7 @@ LargeFilesTable::LargeFilesTable(LargeFilesModel* model, QWidget* parent)
   verticalHeader()->setDefaultSectionSize(LargeFileDelegate::kRowHeight);
   buildHeader();
   viewport()->installEventFilter(m_focus); // which gets the presses of the mouse
+  connect(&Theme::get(), &Theme::changed, viewport(), qOverload<>(&QWidget::update));
   connect(this, &QTableView::clicked, this, [this](const QModelIndex& index) { m_model->toggle(pathAt(index)); });
   connect(this, &QTableView::doubleClicked, this,
           [this](const QModelIndex& index) { platform::revealInFileManager(pathAt(index)); });

@@ -3,6 +3,8 @@
 // Every text of the window, on all its views and in all its dialogs: on Linux none of them speaks of another system.
 #include "JourneyTest.h"
 
+#include "ui/pages/LargeFilesModel.h"
+#include "ui/pages/LargeFilesPage.h"
 #include "ui/shell/AboutDialog.h"
 #include "ui/shell/CloseDialog.h"
 #include "ui/shell/program.h"
@@ -53,6 +55,7 @@ class TestJourneyWords : public JourneyTest {
   }
   void walk();
   void walkTheClean();
+  void walkSpaceMap();
   void walkSystemData();
   void walkTheDialogs();
   [[nodiscard]] QStringList foreign() const {
@@ -78,6 +81,7 @@ void TestJourneyWords::walk() {
   look();
   m_window->go(ui::Sidebar::Cleanup);
   walkTheClean();
+  walkSpaceMap();
   walkSystemData();
   walkTheDialogs();
 }
@@ -103,6 +107,27 @@ void TestJourneyWords::walkTheClean() {
   m_state->report.needsAdmin = true;
   m_state->setPhase(AppState::Done);
   look();
+}
+
+/// With a file to be moved, and one that stays.
+void TestJourneyWords::walkSpaceMap() {
+  AppSettings::instance().setLargeFileMB(1);
+  const QString held = m_home->file(u"Films/held.mov"_s, 2'000'000);
+  m_home->file(u"Films/film.mov"_s, 1'500'000);
+  QFile open(held);
+  QVERIFY(open.open(QIODevice::ReadOnly));
+  m_window->go(ui::Sidebar::SpaceMap);
+  look();
+  QTRY_VERIFY_WITH_TIMEOUT(m_state->largeScanned, kPatienceMs);
+  look();
+  auto* model = m_window->findChild<ui::LargeFilesModel*>();
+  for (const LargeFile& file : QList<LargeFile>(model->files())) model->toggle(file.path);
+  look();
+  click(*m_window->findChild<ui::LargeFilesPage*>(), u"Move to Trash"_s);
+  look();
+  m_state->undoLastTrash();
+  look();
+  QTRY_VERIFY_WITH_TIMEOUT(!m_state->largeSearching, kPatienceMs);
 }
 
 /// With every row on show, of which one could be read in part and the others not at all.
@@ -146,12 +171,27 @@ void TestJourneyWords::noneOfAnotherSystem() {
   QVERIFY2(foreign().isEmpty(), qPrintable(foreign().join(u'\n')));
   // It went everywhere.
   const QString all = QStringList(m_met.begin(), m_met.end()).join(u'\n');
-  for (const char* met :
-       {"Nothing scanned yet", "Scanning", "Clean and delete", "Show in Files", "Version 1.0.0", "Keep in tray",
-        "You have no permission to read some of these folders.", "No permission to read", "Cleanup complete",
-        "Some files belong to the system and were left alone.", "Acme is open", "Trash",
-        "See what's inside System Data", "Measuring System Data…", "Managed by the system", "at least 1 KB",
-        "Only what you may read is counted."})
+  for (const char* met : {"Nothing scanned yet",
+                          "Scanning",
+                          "Clean and delete",
+                          "Show in Files",
+                          "Version 1.0.0",
+                          "Keep in tray",
+                          "You have no permission to read some of these folders.",
+                          "No permission to read",
+                          "Cleanup complete",
+                          "Some files belong to the system and were left alone.",
+                          "Acme is open",
+                          "Trash",
+                          "Find what's taking up space",
+                          "Looking for large files…",
+                          " moved to the Trash",
+                          "in use, skipped",
+                          "See what's inside System Data",
+                          "Measuring System Data…",
+                          "Managed by the system",
+                          "at least 1 KB",
+                          "Only what you may read is counted."})
     QVERIFY2(all.contains(QString::fromUtf8(met)), met);
 }
 

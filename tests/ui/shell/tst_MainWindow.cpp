@@ -421,6 +421,10 @@ void TestMainWindow::everyControlHasAName() {
   check();
   emit m_window->findChild<OverviewPage*>()->openCleanup(u"dev"_s);
   check();
+  m_window->go(Sidebar::SpaceMap);
+  check();
+  QTRY_VERIFY(m_state->largeScanned);
+  check();
   m_window->go(Sidebar::SystemData);
   check();
   QTRY_VERIFY(m_state->systemDataReady);
