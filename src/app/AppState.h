@@ -146,7 +146,8 @@ class AppState : public QObject {
   void startLargeScanOver(int megabytes);
   /// Moves files of the list to the Trash, and remembers that for undoLastTrash(); what was remembered before is
   /// forgotten. A file stays in the list, and counts as skipped in the message, where it is open, excluded, protected,
-  /// another file than was listed, or can't be moved. Blocks for as long as the moves take.
+  /// another file than was listed, or can't be moved. Where the settings can't be read nothing is moved or forgotten,
+  /// and toast() says so. Blocks for as long as the moves take.
   void trashLargeFiles(const QList<QString>& paths);
   /// Moves back what the last trashLargeFiles() moved, never over what stands there now, forgets it, and searches anew
   /// if anything came back.

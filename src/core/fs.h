@@ -111,7 +111,7 @@ class VisitedFile {
   qint64 m_allocated = 0;
 };
 
-/// The walk of visitFiles() for those who want to know much about few files: it takes no longer than measure().
+/// The walk of visitFiles() for those who want to know much about few files: takes about as long as measure().
 bool visitFilesLazily(const QString& root, const std::atomic<bool>& cancel,
                       const std::function<bool(const QString&, const QString&)>& skipDir,
                       const std::function<void(VisitedFile&)>& visit);
