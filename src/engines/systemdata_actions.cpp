@@ -72,8 +72,9 @@ Moves moveContents(const QList<QString>& folders, const QList<QString>& exclusio
   Disposal disposal(exclusions, world.sources);
   for (const QString& folder : folders)
     for (const fs::Entry& entry : fs::list(folder)) {
+      const FileId id{entry.device, entry.inode}; // should the folder be swapped for another meanwhile
       const bool moved =
-          entry.reachable && disposal.move(fs::join(folder, entry.name)).result == Disposal::Result::Moved;
+          entry.reachable && disposal.move(fs::join(folder, entry.name), id).result == Disposal::Result::Moved;
       ++(moved ? moves.moved : moves.failed);
     }
   return moves;

@@ -1,4 +1,5 @@
 // What the actions of System Data do and say, with real child processes in the place of the system's tools.
+#include "core/removal.h"
 #include "engines/SystemDataTest.h"
 #include "engines/Unprivileged.h"
 
@@ -64,6 +65,7 @@ class tst_systemdata_perform : public SystemDataTest {
   void whatIsOpenStays();
   void whatNoTextReachesStays();
   void whatTheSystemKeepsStays();
+  void whatTookAFoldersPlaceStays();
 
   void noSnapshotsNoPassword();
   void removesSnapshots_data();
@@ -274,6 +276,23 @@ void tst_systemdata_perform::whatTheSystemKeepsStays() {
 }
 
 // ---- snapshots
+
+void tst_systemdata_perform::whatTookAFoldersPlaceStays() {
+  for (const QString& name : {u"one"_s, u"two"_s}) {
+    m_home->file(u"a/"_s + name);
+    m_home->file(u"precious/"_s + name);
+  }
+  bool isSwapped = false;
+  removal::setPauseHook([&](const removal::Node&) {
+    if (std::exchange(isSwapped, true)) return;
+    QVERIFY(QFile::rename(m_home->path(u"a"_s), m_home->path(u"a was here"_s)));
+    m_home->link(u"a"_s, u"precious"_s);
+  });
+  const QString text = perform(itemWith(Item::MoveToTrash, {m_home->path(u"a"_s)}), false);
+  removal::setPauseHook({});
+  QCOMPARE(text, u"Moved 1 item to the Trash, 1 couldn't be moved"_s); // the first was within reach of its own folder
+  QVERIFY(isSwapped && there(u"precious/one"_s) && there(u"precious/two"_s));
+}
 
 void tst_systemdata_perform::noSnapshotsNoPassword() {
   putTool("osascript", {});
