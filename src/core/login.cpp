@@ -1,0 +1,138 @@
+#include "core/login.h"
+
+#include "core/ownfile.h"
+#include "core/places.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace login {
+namespace {
+
+// Told apart by this word alone, so that an entry that the desktop has rewritten is still known.
+constexpr char kMark[] = "X-Tarnwick-Login";
+constexpr char kBackground[] = "--background";
+constexpr char kExec[] = "Exec=";
+
+/// What must be escaped between double quotes.
+constexpr QByteArrayView kQuotedSpecials = "\"`$\\";
+
+/// Whether an entry of either system can name it.
+bool canBeNamed(const QString& program) {
+  return QDir::isAbsolutePath(program) && program.isValidUtf16() && !program.contains(QChar::ReplacementCharacter) &&
+         std::none_of(program.cbegin(), program.cend(), [](QChar c) { return c.category() == QChar::Other_Control; });
+}
+
+QByteArray execLine(const QString& program) {
+  const std::optional<QByteArray> value = execValue(program);
+  return value ? kExec + *value : QByteArray();
+}
+
+enum class Form { First, AsItIs };
+
+Outcome put(const QString& program, Form form) {
+  if (!places::homeIsOwn()) return Outcome::Failed;
+  const QString folder = QFileInfo(path()).path();
+  if (QFileInfo::exists(folder) && !QFileInfo(folder).isDir()) return Outcome::Failed;
+  const ownfile::Content there = ownfile::read(path());
+  const bool isNew = there.kind == ownfile::Kind::Nothing;
+  if (!isNew && (there.kind == ownfile::Kind::Other || !isOwn(there.bytes))) return Outcome::Taken;
+  const QByteArray wanted = isNew || form == Form::First ? text(program) : brought(there.bytes, program);
+  if (wanted.isEmpty()) return Outcome::Failed;
+  if (!isNew && wanted == there.bytes) return Outcome::Done;
+  return ownfile::write(path(), wanted) == 0 ? Outcome::Done : Outcome::Failed;
+}
+
+} // namespace
+
+QString program() {
+  const QString image = qEnvironmentVariable("APPIMAGE");
+  const QFileInfo file(image);
+  if (QDir::isAbsolutePath(image) && file.isFile() && file.isExecutable()) return image;
+  return QCoreApplication::applicationFilePath();
+}
+
+Outcome add(const QString& program) { return put(program, Form::First); }
+
+Outcome keep(const QString& program) { return put(program, Form::AsItIs); }
+
+Outcome remove() {
+  if (!places::homeIsOwn()) return Outcome::Failed;
+  const ownfile::Content there = ownfile::read(path());
+  if (there.kind != ownfile::Kind::File || !isOwn(there.bytes)) return Outcome::Done;
+  return ownfile::remove(path()) == 0 ? Outcome::Done : Outcome::Failed;
+}
+
+bool isOwn(const QByteArray& entry) { return entry.contains(kMark); }
+
+// Quoted first, then escaped as every text of such a file is: so a backslash of the path becomes four.
+std::optional<QByteArray> execValue(const QString& program) {
+  if (!canBeNamed(program) || program.contains(u'=')) return std::nullopt;
+  QByteArray quoted;
+  for (const char c : program.toUtf8()) {
+    if (kQuotedSpecials.contains(c)) quoted += '\\';
+    if (c == '%') quoted += '%';
+    quoted += c;
+  }
+  return '"' + quoted.replace("\\", "\\\\") + "\" " + kBackground;
+}
+
+QByteArray desktopEntry(const QString& program) {
+  const QByteArray exec = execLine(program);
+  if (exec.isEmpty()) return {};
+  return "[Desktop Entry]\n"
+         "Type=Application\n"
+         "Version=1.0\n"
+         "Name=Tarnwick\n" +
+         exec +
+         "\n"
+         "Icon=tarnwick\n"
+         "Terminal=false\n"
+         "StartupNotify=false\n"
+         "X-GNOME-Autostart-enabled=true\n" +
+         kMark + "=true\n";
+}
+
+QByteArray desktopEntry(const QByteArray& entry, const QString& program) {
+  const QByteArray exec = execLine(program);
+  if (exec.isEmpty()) return {};
+  QByteArrayList lines = entry.split('\n');
+  const auto found = std::find_if(lines.begin(), lines.end(), [](const auto& one) { return one.startsWith(kExec); });
+  if (found == lines.end()) return desktopEntry(program);
+  *found = exec;
+  return lines.join('\n');
+}
+
+QByteArray launchAgent(const QString& program) {
+  if (!canBeNamed(program)) return {};
+  return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+         "<!-- " +
+         QByteArray(kMark) +
+         " -->\n"
+         "<plist version=\"1.0\">\n"
+         "<dict>\n"
+         "  <key>Label</key>\n"
+         "  <string>tarnwick.login</string>\n"
+         "  <key>ProgramArguments</key>\n"
+         "  <array>\n"
+         "    <string>" +
+         program.toHtmlEscaped().toUtf8() +
+         "</string>\n"
+         "    <string>" +
+         kBackground +
+         "</string>\n"
+         "  </array>\n"
+         "  <key>RunAtLoad</key>\n"
+         "  <true/>\n"
+         "  <key>LimitLoadToSessionType</key>\n"
+         "  <string>Aqua</string>\n"
+         "</dict>\n"
+         "</plist>\n";
+}
+
+} // namespace login
