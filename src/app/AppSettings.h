@@ -1,12 +1,20 @@
 /// The settings of the program, typed, each with its default in one place. User-interface thread only.
 #pragma once
 
+#include "app/settingsfile.h"
+
 #include <QDateTime>
 #include <QList>
 #include <QObject>
 #include <QSettings>
 #include <QVariant>
 
+#include <optional>
+
+/// A store that is damaged, or has lost what it held, never weakens what protects the user's files. It is told apart
+/// from a sound one by its text and by a second file beside it, in which the program remembers the "Never touch these"
+/// rules. From then on nothing is written to either of them until the user has looked at the rules: what is set
+/// meanwhile holds in this process alone.
 class AppSettings : public QObject {
   Q_OBJECT
 
@@ -18,14 +26,34 @@ class AppSettings : public QObject {
   /// The one object, made on first use; the application's names must be set before.
   static AppSettings& instance();
 
-  /// Whether what the getters give is what the user chose, the "Never touch these" rules above all. False where the
-  /// store's file is there but can't be opened, isn't in the store's form, or holds rules that are no list. A store
-  /// that isn't there is readable. Reads the disk.
-  [[nodiscard]] bool isReadable() const;
+  /// What the store is worth.
+  enum class Store {
+    Sound,      ///< the getters give what the user chose; so is one that never held anything
+    Unreadable, ///< it can't be opened, isn't in the store's form, or holds rules that are no list
+    Lost,       ///< it is in order, and has lost its keys, or rules that the program remembers
+  };
+  /// Looks at the store now, and takes in what others have written to it. Reads the disk. Tells by changed() if it is
+  /// worth something else than before.
+  Store look();
+  /// Whether look() finds it sound.
+  [[nodiscard]] bool isReadable() { return look() == Store::Sound; }
+  /// What the last look() found.
+  [[nodiscard]] Store lastLook() const { return m_worth; }
+  /// The user has looked at what exclusions() gives, and it is right. Keeps what is left of a store that isn't sound
+  /// beside it, under a name that ends in ".damaged", and writes a new one: these rules, what could still be read, and
+  /// what was set meanwhile.
+  /// @return false if that can't be written; nothing is lost then
+  bool acceptExclusions();
+  /// The store's file, and the one in which the rules are remembered.
+  [[nodiscard]] QString path() const;
+  [[nodiscard]] QString memoryPath() const;
+
+  /// Whether a value was ever stored under this key.
+  [[nodiscard]] bool holds(const char* key) const;
   /// What the store holds, or @p def.
   [[nodiscard]] QVariant get(const char* key, const QVariant& def) const;
-  /// Stores and tells, unless the store already holds the value (compared as the value's type, since a store of text
-  /// gives back text). Writing a key's default while the key is absent does store it.
+  /// Stores at once and tells, unless the store already holds the value (compared as the value's type, since a store of
+  /// text gives back text). Writing a key's default while the key is absent does store it.
   void put(const char* key, const QVariant& value);
 
   // Each getter gives the default where the store holds what can't be its value: a word for a number, an unknown
@@ -34,7 +62,7 @@ class AppSettings : public QObject {
   /// Whether a clean moves to the Trash rather than deletes.
   [[nodiscard]] bool moveToTrash() const;
   void setMoveToTrash(bool on);
-  /// The "Never touch these" rules.
+  /// The "Never touch these" rules. Where the store isn't sound, with those that the program remembers.
   [[nodiscard]] QStringList exclusions() const;
   void setExclusions(const QStringList& rules);
   /// How often a scan starts by itself when the program starts.
@@ -71,11 +99,28 @@ class AppSettings : public QObject {
   [[nodiscard]] bool scheduledScanDue(const QDateTime& now = QDateTime::currentDateTime()) const;
 
  signals:
-  /// Some setting took a new value.
+  /// Some setting took a new value, or the store is worth something else.
   void changed();
 
  private:
-  AppSettings() = default;
-  QSettings m_store;
-  const bool m_openedWell = m_store.status() == QSettings::NoError; // so far it has only read
+  AppSettings();
+  [[nodiscard]] Store judge();
+  [[nodiscard]] bool isPropertyList() const;
+  [[nodiscard]] bool fileIsWhole(const QString& path) const;
+  [[nodiscard]] bool fallbacksAreWhole() const;
+  [[nodiscard]] bool rulesAreAList() const;
+  [[nodiscard]] bool hasLost() const;
+  [[nodiscard]] QStringList rememberedRules() const;
+  [[nodiscard]] std::optional<QVariant> stored(const char* key) const;
+  void store(const QString& name, const QVariant& value);
+  void storeHeld();
+  void remember();
+  bool write(const settingsfile::Memory& memory);
+  [[nodiscard]] QVariantMap ownValues() const;
+
+  mutable QSettings m_store;    ///< holds nothing that isn't written, or couldn't be
+  Store m_worth = Store::Sound; ///< of the last look
+  /// What the second file says, if there is one; nothing at all where it is damaged.
+  std::optional<settingsfile::Memory> m_memory;
+  QVariantMap m_held; ///< set while the store wasn't sound
 };

@@ -111,8 +111,8 @@ void AppState::clean(const RunOptions& options) {
   if (chosen.isEmpty() || isBusy()) return;
   const AppSettings& settings = AppSettings::instance();
   m_dryRun = options.dryRun;
-  if (!settings.isReadable()) {
-    refuse(unreadableSettings());
+  if (const QString why = settingsRefusal(); !why.isEmpty()) {
+    refuse(why);
     return;
   }
   freeBeforeClean = volume.availableBytes;
@@ -125,8 +125,16 @@ void AppState::clean(const RunOptions& options) {
                  options.dryRun ? Cleaner::Run::Dry : Cleaner::Run::ForReal);
 }
 
-QString AppState::unreadableSettings() {
-  return tr("The settings can't be read, so the rules on what to keep are unknown. Nothing was cleaned.");
+QString AppState::settingsRefusal() {
+  switch (AppSettings::instance().look()) {
+  case AppSettings::Store::Sound:
+    break;
+  case AppSettings::Store::Unreadable:
+    return tr("The settings can't be read, so the rules on what to keep are unknown. Nothing was cleaned.");
+  case AppSettings::Store::Lost:
+    return tr("The settings have lost rules on what to keep. Nothing was cleaned.");
+  }
+  return {};
 }
 
 void AppState::refuse(const QString& why) {

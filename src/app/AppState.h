@@ -94,8 +94,10 @@ class AppState : public QObject {
   /// Removes what is selected, without asking: the caller has asked the user. Nothing happens with an empty selection
   /// or while a scan or a clean runs. It ends in Done, with what was cleaned taken out of the results; but a dry run
   /// and a refused clean end in Review and leave results, selection and history alone. The words of a refusal come as
-  /// toast(). It refuses at once, before this returns, where the settings can't be read.
+  /// toast(). It refuses at once, before this returns, for settingsRefusal().
   void clean(const RunOptions& options = {});
+  /// Why nothing may be removed with the settings as they are now, in words; empty if it may. Reads the disk.
+  [[nodiscard]] static QString settingsRefusal();
   /// Lets a running clean finish its item and report; for programs without a window.
   void stopClean();
   /// Leaves Done for Review or Empty.
@@ -200,7 +202,6 @@ class AppState : public QObject {
   void connectLargeFinder();
   void onLargeFound(const QList<LargeFile>& files, bool cancelled);
   [[nodiscard]] LargeMoves moveLargeFiles(const QList<QString>& paths) const;
-  [[nodiscard]] static QString unreadableSettings();
 
   void clearSelection();
   template <typename Wanted>

@@ -96,8 +96,8 @@ AppState::LargeMoves AppState::moveLargeFiles(const QList<QString>& paths) const
 }
 
 void AppState::trashLargeFiles(const QList<QString>& paths) {
-  if (!paths.isEmpty() && !AppSettings::instance().isReadable()) {
-    emit toast(unreadableSettings(), false);
+  if (const QString why = paths.isEmpty() ? QString() : settingsRefusal(); !why.isEmpty()) {
+    emit toast(why, false);
     return;
   }
   const LargeMoves moves = moveLargeFiles(paths);

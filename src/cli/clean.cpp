@@ -4,8 +4,11 @@
 #include "cli/json.h"
 #include "cli/terminal.h"
 #include "cli/texts.h"
+#include "core/names.h"
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace cli {
 namespace {
@@ -37,6 +40,7 @@ class Clean {
   [[nodiscard]] ExitCode ended(const CleanReport& report);
   [[nodiscard]] RunOptions options() const;
   [[nodiscard]] bool mustAsk() const { return !m_command.yes && !m_command.dryRun; }
+  [[nodiscard]] bool willBeRefused() const { return !AppSettings::instance().isReadable(); }
 
   const Command& m_command;
   Output* m_out;
@@ -80,11 +84,19 @@ bool Clean::agreed(const Plan& plan) {
   return false;
 }
 
+/// What to do about settings for which a clean is refused, for those who have no window to look at them.
+QString wayOut() {
+  const AppSettings& settings = AppSettings::instance();
+  if (settings.lastLook() == AppSettings::Store::Sound) return {};
+  return u' ' + Words::tr("Look at the rules in the settings of Tarnwick; or mend %1, or remove it together with %2.")
+                    .arg(names::escaped(settings.path()), names::escaped(settings.memoryPath()));
+}
+
 ExitCode Clean::ended(const CleanReport& report) {
   if (m_command.json) m_out->write(json::text(json::Clean{report, m_command.dryRun, m_toTrash}));
   if (m_session.interrupted()) return kInterrupted;
   if (!report.refusal.isEmpty()) {
-    complain(report.refusal);
+    complain(report.refusal + wayOut());
     return kStayed;
   }
   return report.skipped > 0 || !report.runningApps.isEmpty() ? kStayed : kDone;
@@ -102,7 +114,8 @@ ExitCode Clean::run() {
     if (!m_command.json) m_out->write(planText(what, Paper::of(m_out->fd())));
     return ended({});
   }
-  if (!agreed(what) || m_session.interrupted()) return ended({});
+  // What is going to be refused isn't asked about.
+  if ((!willBeRefused() && !agreed(what)) || m_session.interrupted()) return ended({});
   m_session.clean(options());
   const CleanReport& report = m_session.state().report;
   if (!m_command.json && report.refusal.isEmpty())

@@ -2,6 +2,7 @@
 #include "app/AppSettings.h"
 #include "app/identity.h"
 #include "support/FixtureHome.h"
+#include "support/settings.h"
 
 #include <QDir>
 #include <QFile>
@@ -16,10 +17,7 @@ class tst_AppSettings : public QObject {
 
  private slots:
   void initTestCase() { identity::apply(); }
-  void init() {
-    QSettings().clear();
-    QSettings().sync();
-  }
+  void init() { settingsstore::forget(); }
   void cleanupTestCase() { init(); }
 
   void identityNamesTheStore();

@@ -207,6 +207,7 @@ void tst_AppState_clean::unreadableSettings() {
   AppSettings::instance().put("clean/exclusions", QPoint(1, 2));
   clean(options);
   AppSettings::instance().setExclusions(FixtureHome::rulesForOutside());
+  QVERIFY(AppSettings::instance().acceptExclusions());
   QCOMPARE(phases.all, (QList<int>{AppState::Cleaning, AppState::Review}));
   QCOMPARE(m_state->report.refusal, words);
   QCOMPARE(m_state->report.dryRunLog, QString());

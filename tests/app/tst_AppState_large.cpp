@@ -316,6 +316,7 @@ void tst_AppState_large::movesNothingWhereTheRulesAreUnknown() {
                                         "Nothing was cleaned."_s,
                                         false}));
   AppSettings::instance().setExclusions({});
+  QVERIFY(AppSettings::instance().acceptExclusions());
   QVERIFY(fs::exists(film));
   QCOMPARE(m_state->trashUndo.size(), 1); // nothing was done in its place
 }

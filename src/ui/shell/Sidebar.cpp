@@ -1,5 +1,6 @@
 #include "ui/shell/Sidebar.h"
 
+#include "app/AppSettings.h"
 #include "app/AppState.h"
 #include "core/fmt.h"
 #include "ui/Theme.h"
@@ -149,7 +150,7 @@ void Sidebar::toggle() { setCollapsed(!m_collapsed, true); }
 
 void Sidebar::setCollapsed(bool collapsed, bool animate) {
   m_collapsed = collapsed;
-  QSettings().setValue(kCollapsedKey, collapsed);
+  if (AppSettings::instance().isReadable()) QSettings().setValue(kCollapsedKey, collapsed); // else nothing is written
   emit collapsedChanged(collapsed);
   const QString tip = collapsed ? Words::tr("Expand sidebar") : Words::tr("Collapse sidebar");
   m_toggle->setToolTip(tip);
