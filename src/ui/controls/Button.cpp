@@ -94,6 +94,12 @@ void Button::setKind(const char* kind) {
   refreshGlow();
 }
 
+void Button::setOwnHeight(int height) {
+  m_ownHeight = height;
+  holdHeight();
+  updateGeometry();
+}
+
 void Button::setSizeName(const QString& name) {
   m_sizeName = name;
   style()->unpolish(this);
@@ -167,6 +173,7 @@ bool Button::event(QEvent* event) {
 }
 
 int Button::ownHeight() const {
+  if (m_ownHeight > 0) return m_ownHeight;
   if (property(kKind).toString() == kLink && !isLarge()) return 0;
   return kHeight + (isLarge() ? kLargeExtra : 0) + (Theme::get().mac ? 0 : kWinExtra);
 }

@@ -33,6 +33,8 @@ class Button : public QPushButton {
   void setIconName(const QString& iconName);
   /// Takes effect at once; null is an ordinary button.
   void setKind(const char* kind);
+  /// Holds it at this height in pixels instead of that of its kind, whatever a style sheet of its own adds.
+  void setOwnHeight(int height);
   /// Whether it paints itself: primary and danger.
   [[nodiscard]] bool isFilled() const;
   [[nodiscard]] bool isLarge() const;
@@ -62,6 +64,7 @@ class Button : public QPushButton {
 
   QString m_iconName;
   QString m_sizeName;
+  int m_ownHeight = 0; ///< 0: that of its kind
 };
 
 } // namespace ui
