@@ -7,6 +7,7 @@
 #include "ui/pages/CleanupPage.h"
 #include "ui/pages/LargeFilesModel.h"
 #include "ui/pages/LargeFilesPage.h"
+#include "ui/pages/SettingsPage.h"
 #include "ui/pages/SystemDataPage.h"
 #include "ui/pages/SystemDataResults.h"
 #include "ui/pages/SystemDataRow.h"
@@ -14,8 +15,10 @@
 #include "ui/shell/Sidebar.h"
 #include "ui/shell/Toast.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QEventLoop>
+#include <QFile>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -211,6 +214,36 @@ void systemDataQuestion(Scene* scene) {
     if (row->id() == id) return row->button()->click();
 }
 
+ui::SettingsPage* settingsPage(Scene* scene) { return scene->window.findChild<ui::SettingsPage*>(); }
+
+/// The lower half of the settings, with rules of all kinds, and another language than the running one.
+void settingsBelow(Scene* scene) {
+  AppSettings& settings = AppSettings::instance();
+  settings.setExclusions({u"**/.git"_s, QDir::homePath() + u"/Pictures"_s, u"*.iso"_s});
+  for (auto* one : settingsPage(scene)->findChildren<QComboBox*>())
+    if (const int index = one->findData(u"de"_s); index >= 0) one->setCurrentIndex(index);
+  settingsPage(scene)->showExclusions();
+  QObject::connect(&scene->window, &QObject::destroyed, &settings, [&settings] {
+    settings.setLanguage({});
+    settings.setExclusions({u"**/.git"_s});
+  });
+}
+
+/// The settings' store is damaged until the scene is over.
+void damagedSettings(Scene* scene) {
+  AppSettings& settings = AppSettings::instance();
+  settings.setExclusions({u"**/.git"_s, QDir::homePath() + u"/Pictures"_s, u"*.iso"_s});
+  QFile store(settings.path());
+  if (store.open(QIODevice::WriteOnly)) store.write("damaged");
+  store.close();
+  settings.look();
+  if (scene->window.page() == Settings) settingsPage(scene)->showExclusions();
+  QObject::connect(&scene->window, &QObject::destroyed, &settings, [&settings] {
+    settings.acceptExclusions();
+    settings.setExclusions({u"**/.git"_s});
+  });
+}
+
 void about(Scene* scene) { scene->window.showAbout(); }
 
 void closeDialog(Scene* scene) {
@@ -331,6 +364,10 @@ constexpr ViewEntry kViews[] = {
     {"system-data-managed", SystemData, false, systemDataManaged},
     {"system-data-busy", SystemData, false, systemDataBusy},
     {"system-data-question", SystemData, false, systemDataQuestion},
+    {"settings", Settings, false, nullptr},
+    {"settings-below", Settings, false, settingsBelow},
+    {"settings-damaged", Settings, false, damagedSettings},
+    {"cleanup-review-damaged", Cleanup, true, damagedSettings},
     {"about", Overview, true, about},
     {"close-dialog", Overview, true, closeDialog},
     {"toast", Cleanup, true, toast},

@@ -65,6 +65,7 @@ QWidget* CleanupPage::buildScan() { return m_scanView = new CleanupScanView(m_st
 QWidget* CleanupPage::buildReview() {
   m_reviewView = new CleanupReviewView(m_state);
   connect(m_reviewView, &CleanupReviewView::confirmRequested, this, &CleanupPage::confirmRequested);
+  connect(m_reviewView, &CleanupReviewView::rulesRequested, this, &CleanupPage::rulesRequested);
   return m_reviewView;
 }
 

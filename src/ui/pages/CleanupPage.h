@@ -28,6 +28,8 @@ class CleanupPage : public QWidget {
  signals:
   /// The user wants to clean what is ticked, and is to be asked.
   void confirmRequested();
+  /// The user wants to see the rules on what to keep.
+  void rulesRequested();
   /// The user has finished.
   void goHome();
 

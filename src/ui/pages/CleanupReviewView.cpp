@@ -11,12 +11,14 @@
 #include "ui/controls/factory.h"
 #include "ui/pages/CleanupCategories.h"
 #include "ui/pages/CleanupDetail.h"
+#include "ui/pages/CleanupNotes.h"
 #include "ui/pages/CleanupWords.h"
 #include "ui/pages/furniture.h"
 #include "ui/visuals/StackBar.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -47,6 +49,7 @@ QString figureFamily() { return Theme::get().mono(kFigureSize, kFigureWeight).fa
 CleanupReviewView::CleanupReviewView(AppState* state, QWidget* parent)
     : QWidget(parent),
       m_state(state),
+      m_root(vbox()),
       m_reviewHeader(buildHeader()),
       m_categories(new CleanupCategories(state)),
       m_detail(new CleanupDetail(state)),
@@ -61,11 +64,11 @@ CleanupReviewView::CleanupReviewView(AppState* state, QWidget* parent)
   QHBoxLayout* body = hbox(kBodySpacing, {pageSide(), 0, pageSide(), 0});
   body->addWidget(m_categories, kListStretch);
   body->addWidget(m_detail, kDetailStretch);
-  QVBoxLayout* root = vbox();
-  setLayout(root);
-  root->addWidget(m_reviewHeader);
-  root->addLayout(body, 1);
-  root->addWidget(buildFooter());
+  setLayout(m_root);
+  m_root->addWidget(m_reviewHeader);
+  m_root->addLayout(body, 1);
+  m_root->addWidget(buildFooter());
+  buildSettingsNote();
 }
 
 PageHeader* CleanupReviewView::buildHeader() {
@@ -90,6 +93,18 @@ FooterBar* CleanupReviewView::buildFooter() {
   return footer;
 }
 
+void CleanupReviewView::buildSettingsNote() {
+  m_settingsNote = spokenNote(Note::Caution, u"alert"_s, {});
+  m_settingsNote->setObjectName("settingsNote"_L1);
+  const QPushButton* show = m_settingsNote->addAction(CleanupWords::tr("Show the rules"));
+  connect(show, &QPushButton::clicked, this, &CleanupReviewView::rulesRequested);
+  m_settingsRow = new QWidget(this);
+  QVBoxLayout* column = vbox(0, {pageSide(), 0, pageSide(), kBodySpacing});
+  m_settingsRow->setLayout(column);
+  addNote(column, m_settingsNote);
+  m_settingsRow->hide();
+}
+
 void CleanupReviewView::focusCategory(const QString& id) {
   if (id.isEmpty() || id == m_focusedId) return;
   m_focusedId = id;
@@ -98,6 +113,7 @@ void CleanupReviewView::focusCategory(const QString& id) {
 }
 
 void CleanupReviewView::refresh() {
+  AppSettings::instance().look();
   m_detail->forgetLimits();
   refreshTitle();
   refreshFocus();
@@ -128,6 +144,7 @@ void CleanupReviewView::refreshFocus() {
 
 void CleanupReviewView::refreshSelection() {
   if (m_state->phase != AppState::Review) return;
+  refreshSettingsNote();
   refreshFooter();
   m_categories->refreshSelectAll();
   m_categories->rebuild(m_focusedId);
@@ -152,7 +169,23 @@ void CleanupReviewView::refreshFooter() {
                                 ? CleanupWords::tr("moved to the %1").arg(platform::trashName())
                                 : CleanupWords::tr("deleted permanently"));
   m_cleanButton->setText(CleanupWords::tr("Clean %1").arg(size));
-  m_cleanButton->setEnabled(selected >= 1);
+  m_cleanButton->setEnabled(selected >= 1 && AppSettings::instance().lastLook() == AppSettings::Store::Sound);
+}
+
+void CleanupReviewView::refreshSettingsNote() {
+  const AppSettings::Store worth = AppSettings::instance().lastLook();
+  const bool isSound = worth == AppSettings::Store::Sound;
+  if (isSound)
+    m_root->removeWidget(m_settingsRow);
+  else if (m_root->indexOf(m_settingsRow) < 0)
+    m_root->insertWidget(1, m_settingsRow);
+  m_settingsRow->setVisible(!isSound);
+  if (isSound) return;
+  setNoteText(m_settingsNote, worth == AppSettings::Store::Lost
+                                  ? CleanupWords::tr("<b>Rules on what to keep have gone from the settings.</b> "
+                                                     "Nothing is cleaned until you have looked at them.")
+                                  : CleanupWords::tr("<b>The settings can't be read.</b> Nothing is cleaned until you "
+                                                     "have looked at the rules on what to keep."));
 }
 
 // What is built anew would come last.

@@ -7,6 +7,7 @@
 
 class AppState;
 class QLabel;
+class QVBoxLayout;
 
 namespace ui {
 
@@ -14,6 +15,7 @@ class Button;
 class CleanupCategories;
 class CleanupDetail;
 class FooterBar;
+class Note;
 class PageHeader;
 class StackBar;
 
@@ -33,18 +35,25 @@ class CleanupReviewView : public QWidget {
  signals:
   /// The user wants to clean what is ticked.
   void confirmRequested();
+  /// The user wants to see the rules on what to keep.
+  void rulesRequested();
 
  private:
   [[nodiscard]] PageHeader* buildHeader();
   [[nodiscard]] FooterBar* buildFooter();
+  void buildSettingsNote();
   void refreshTitle();
   void refreshFocus();
   void refreshFooter();
+  void refreshSettingsNote();
   void placeInTabOrder();
 
   AppState* m_state;
   QString m_focusedId; ///< of the category in the detail; empty for none
+  QVBoxLayout* m_root;
   PageHeader* m_reviewHeader;
+  QWidget* m_settingsRow = nullptr; ///< in the layout only while there is something to say
+  Note* m_settingsNote = nullptr;   ///< why nothing is cleaned with the settings as they are
   CleanupCategories* m_categories;
   CleanupDetail* m_detail;
   QLabel* m_selectionLabel;

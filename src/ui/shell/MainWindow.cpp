@@ -1,5 +1,6 @@
 #include "ui/shell/MainWindow.h"
 
+#include "app/AppSettings.h"
 #include "app/AppState.h"
 #include "app/identity.h"
 #include "engines/Cleaner.h"
@@ -12,6 +13,7 @@
 #include "ui/pages/CleanupPage.h"
 #include "ui/pages/LargeFilesPage.h"
 #include "ui/pages/OverviewPage.h"
+#include "ui/pages/SettingsPage.h"
 #include "ui/pages/SystemDataPage.h"
 #include "ui/paint.h"
 #include "ui/shell/AboutDialog.h"
@@ -108,7 +110,7 @@ void MainWindow::buildFrame() {
 }
 
 void MainWindow::buildContent() {
-  QList<int> numbers{Sidebar::Overview, Sidebar::Cleanup, Sidebar::SpaceMap};
+  QList<int> numbers{Sidebar::Overview, Sidebar::Cleanup, Sidebar::SpaceMap, Sidebar::Settings};
   if (systemdata::supported()) numbers << Sidebar::SystemData;
   QHBoxLayout* row = hbox();
   m_central->setLayout(row);
@@ -126,6 +128,8 @@ void MainWindow::buildPages() {
   addPage(Sidebar::Overview, m_overviewPage);
   addPage(Sidebar::Cleanup, m_cleanupPage);
   addPage(Sidebar::SpaceMap, new LargeFilesPage(m_state));
+  m_settingsPage = new SettingsPage(m_state);
+  addPage(Sidebar::Settings, m_settingsPage);
   if (systemdata::supported()) addPage(Sidebar::SystemData, buildSystemData());
 }
 
@@ -170,6 +174,10 @@ void MainWindow::connectPages() {
   });
   connect(m_cleanupPage, &CleanupPage::goHome, this, [this] { go(Sidebar::Overview); });
   connect(m_cleanupPage, &CleanupPage::confirmRequested, this, &MainWindow::confirmClean);
+  connect(m_cleanupPage, &CleanupPage::rulesRequested, this, [this] {
+    go(Sidebar::Settings);
+    m_settingsPage->showExclusions();
+  });
 }
 
 void MainWindow::connectState() {
@@ -236,7 +244,10 @@ void MainWindow::restoreWindowState() {
   move(placed.topLeft());
 }
 
-void MainWindow::saveWindowState() const { QSettings().setValue(kGeometryKey, saveGeometry()); }
+// A damaged store is left as it is.
+void MainWindow::saveWindowState() const {
+  if (AppSettings::instance().isReadable()) QSettings().setValue(kGeometryKey, saveGeometry());
+}
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == QCoreApplication::instance() && event->type() == QEvent::Quit) m_quitting = true;

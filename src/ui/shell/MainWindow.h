@@ -24,6 +24,7 @@ class AppMenu;
 class CleanupPage;
 class CommandSet;
 class OverviewPage;
+class SettingsPage;
 class Sidebar;
 class SidebarToggle;
 class TitleBar;
@@ -109,6 +110,7 @@ class MainWindow : public QWidget {
   QStackedWidget* m_pages = nullptr;
   CleanupPage* m_cleanupPage = nullptr;
   OverviewPage* m_overviewPage = nullptr;
+  SettingsPage* m_settingsPage = nullptr;
   QWidget* m_central = nullptr; ///< the client area: parent of the overlays and of the toast
   QWidget* m_content = nullptr; ///< hosts the pages and the floating toggle
   SidebarToggle* m_floatingToggle = nullptr;

@@ -3,6 +3,7 @@
 #include "app/AppSettings.h"
 #include "app/AppState.h"
 #include "app/identity.h"
+#include "app/loginentry.h"
 #include "app/records.h"
 #include "core/Interrupts.h"
 #include "engines/LargeFileFinder.h"
@@ -82,6 +83,7 @@ int runProgram(int argc, char** argv) {
   Instance instance;
   if (instance.start(wishOf(options)) == Instance::Outcome::Heard) return 0;
 
+  loginentry::keep();
   records::registerMetaTypes();
   i18n::install(&app);
   Theme::get().install(&app);

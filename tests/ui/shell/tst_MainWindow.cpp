@@ -179,7 +179,7 @@ void TestMainWindow::firstSight() {
   QCOMPARE(m_window->page(), int(Sidebar::Overview));
   QVERIFY(m_window->findChild<TitleBar*>());
   QCOMPARE(m_window->findChild<TitleBar*>()->width(), 1180);
-  QCOMPARE(m_window->findChildren<NavButton*>().size(), 4); // of the pages that there are
+  QCOMPARE(m_window->findChildren<NavButton*>().size(), 5); // of the pages that there are
 }
 
 void TestMainWindow::menuButtonOpensTheMenu() {
