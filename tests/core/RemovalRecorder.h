@@ -59,9 +59,11 @@ inline bool isThere(const QString& path) {
   return ::lstat(QFile::encodeName(path).constData(), &status) == 0;
 }
 
-/// Removes all in @p folder, whatever its name; what a fixture's temporary folder can't remove itself.
+/// Removes all in @p folder, whatever its name and whatever a test has closed; what a fixture's temporary folder can't
+/// remove itself.
 inline void wipe(const QString& folder) {
-  const QByteArray command = "find '" + QFile::encodeName(folder) + "' -mindepth 1 -delete";
+  const QByteArray find = "find '" + QFile::encodeName(folder) + "' -mindepth 1 ";
+  const QByteArray command = find + "-type d ! -perm -u=rwx -exec chmod u+rwx {} \\; && " + find + "-delete";
   if (::system(command.constData()) != 0) qFatal("cannot empty %s", qPrintable(folder));
 }
 
