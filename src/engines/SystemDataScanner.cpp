@@ -25,6 +25,9 @@ struct Location {
   QString name;
 };
 
+/// What may be learned of a place.
+enum class Access { Granted, Refused, Missing };
+
 /// The names of the largest, largest first.
 QString largestOf(QList<Location> locations) {
   std::stable_sort(locations.begin(), locations.end(),
@@ -93,11 +96,9 @@ class SystemDataScanner::Measuring {
     QList<Location> locations;
     for (const QString& path : std::as_const(item.paths)) {
       if (cancelled()) break;
-      if (!QFileInfo::exists(path)) continue;
-      if (!fs::isReadable(path)) {
-        item.denied = true;
-        continue;
-      }
+      const Access access = accessTo(path);
+      item.denied = item.denied || access == Access::Refused;
+      if (access != Access::Granted) continue;
       const fs::Totals totals = fs::measure(path, cancelled(), throttled(index), item.excludes);
       item.bytes += totals.bytes;
       item.files += totals.files;
@@ -105,6 +106,14 @@ class SystemDataScanner::Measuring {
       locations << Location{totals.bytes, QFileInfo(path).fileName()};
     }
     return locations;
+  }
+
+  /// On Linux what lies in a folder that may not be entered is refused: nobody can tell whether it is there.
+  [[nodiscard]] Access accessTo(const QString& path) const {
+    const bool isThere = QFileInfo::exists(path);
+    if (!isThere && m_isMac) return Access::Missing;
+    if (!fs::isReadable(path)) return Access::Refused;
+    return isThere ? Access::Granted : Access::Missing;
   }
 
   fs::Progress throttled(int index) {

@@ -4,8 +4,6 @@
 #include "core/process.h"
 #include "engines/systemdata_table.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -39,7 +37,7 @@ KeptSnapshots keptSnapshots(const SystemDataWorld& world) {
   for (const char* folder : kSnapshotFolders) {
     const QString path = pathOf(Base::Root, QLatin1String(folder), world);
     kept.count += countFolders(path);
-    kept.denied = kept.denied || (QFileInfo::exists(path) && !fs::isReadable(path));
+    kept.denied = kept.denied || !fs::isReadable(path);
   }
   return kept;
 }

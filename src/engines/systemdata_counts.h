@@ -23,7 +23,7 @@ struct Words {
 /// The snapshots that tools keep in folders of a Linux system.
 struct KeptSnapshots {
   int count = 0;
-  bool denied = false; ///< one of the folders is there and couldn't be read
+  bool denied = false; ///< one of the folders may not be read, or not even be looked for
 };
 [[nodiscard]] KeptSnapshots keptSnapshots(const SystemDataWorld& world);
 

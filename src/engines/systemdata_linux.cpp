@@ -1,6 +1,7 @@
 // What makes up System Data on a Linux desktop. No folder counts in two rows.
 #include "core/fs.h"
 #include "core/names.h"
+#include "core/places.h"
 #include "core/proctext.h"
 #include "engines/systemdata_table.h"
 
@@ -147,14 +148,15 @@ QList<QString> swapFiles(const SystemDataWorld& world) {
   return paths;
 }
 
-/// Gives every folder to one row. Each place is known by its path without links in the folders above it, as one folder
-/// may be reached in two ways: of rows that name the same place only the first keeps it, and "hidden" never does; and
-/// the rows above a place leave it out, in their own spelling.
+/// Gives every folder to one row. Each place is known by its path without links, as one folder may be reached in two
+/// ways: of rows that name the same place only the first keeps it, and "hidden" never does; and the rows above a place
+/// leave it out, in their own spelling. A place that is a link itself, as a cache on another disk may be, becomes what
+/// it leads to.
 class Sharing {
  public:
   explicit Sharing(QList<SystemDataItem>* rows) : m_rows(*rows) {
     for (qsizetype row = 0; row < m_rows.size(); ++row)
-      for (const QString& path : std::as_const(m_rows[row].paths)) m_spots.push_back({row, path, realOf(path)});
+      for (const QString& path : std::as_const(m_rows[row].paths)) m_spots.push_back(spotAt(row, path));
     std::stable_partition(m_spots.begin(), m_spots.end(),
                           [&](const Spot& spot) { return m_rows[spot.row].id != QLatin1String(kHidden); });
   }
@@ -181,13 +183,21 @@ class Sharing {
     QString real;
   };
 
-  static QString realOf(const QString& path) {
-    const QFileInfo info(path);
-    const QString folder = fs::resolved(info.path());
-    return folder.isEmpty() ? path : fs::join(folder, info.fileName());
+  [[nodiscard]] Spot spotAt(qsizetype row, const QString& path) const {
+    const QFileInfo place(path);
+    if (const QString real = fs::resolved(path); !real.isEmpty() && !(place.isSymLink() && holdsHome(real)))
+      return {row, place.isSymLink() ? real : path, real};
+    const QString folder = fs::resolved(place.path());
+    return {row, path, folder.isEmpty() ? path : fs::join(folder, place.fileName())};
+  }
+
+  /// All that the user has isn't what a row is about, so a link to it counts as no more than a link.
+  [[nodiscard]] bool holdsHome(const QString& folder) const {
+    return folder == m_home || folder == u"/" || m_home.startsWith(folder + u'/');
   }
 
   QList<SystemDataItem>& m_rows;
+  const QString m_home = fs::resolved(places::home());
   std::vector<Spot> m_spots; ///< those of "hidden" last
 };
 

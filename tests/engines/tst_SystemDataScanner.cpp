@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -82,6 +83,10 @@ class tst_SystemDataScanner : public SystemDataTest {
   void refusedPlaces();
   void aRefusalBelowAPlace_data();
   void aRefusalBelowAPlace();
+  void aPlaceBelowAShutFolder_data();
+  void aPlaceBelowAShutFolder();
+  void aPlaceThatIsALink_data();
+  void aPlaceThatIsALink();
   void largestHiddenFolders();
   void noHiddenFolders();
   void localSnapshots_data();
@@ -228,6 +233,53 @@ void tst_SystemDataScanner::aRefusalBelowAPlace() {
   QVERIFY(row.bytes >= 9'000);
 }
 
+// There it can't be told whether it is there at all.
+void tst_SystemDataScanner::aPlaceBelowAShutFolder_data() {
+  QTest::addColumn<QByteArray>("host");
+  QTest::addColumn<bool>("denied");
+  // As root, who only acts as somebody else, may still see that it is there.
+  if (::getuid() != 0) QTest::newRow("mac") << QByteArray("mac") << false;
+  QTest::newRow("linux") << QByteArray("linux") << true;
+}
+
+void tst_SystemDataScanner::aPlaceBelowAShutFolder() {
+  QFETCH(QByteArray, host);
+  qputenv("TARNWICK_HOST", host);
+  m_home->file(disk(u"private/var/log/a"_s));
+  m_home->file(disk(u"var/log/a"_s));
+  const Unprivileged user(*m_home);
+  for (const char* folder : {"private/var", "var"})
+    QCOMPARE(::chmod(QFile::encodeName(disk(QLatin1String(folder))).constData(), 0), 0);
+  const SystemDataItem row = measured("logs");
+  QTEST(row.denied, "denied");
+  QCOMPARE(row.bytes, 0);
+  for (const char* folder : {"private/var", "var"})
+    QCOMPARE(::chmod(QFile::encodeName(disk(QLatin1String(folder))).constData(), 0700), 0);
+}
+
+void tst_SystemDataScanner::aPlaceThatIsALink_data() {
+  QTest::addColumn<QByteArray>("host");
+  QTest::addColumn<QString>("place");
+  QTest::addColumn<qint64>("files");
+  QTest::addColumn<bool>("isFollowed");
+  QTest::newRow("mac") << QByteArray("mac") << u"Library/Caches"_s << qint64(1) << false;
+  QTest::newRow("linux") << QByteArray("linux") << u".cache"_s << qint64(2) << true;
+}
+
+void tst_SystemDataScanner::aPlaceThatIsALink() {
+  QFETCH(QByteArray, host);
+  QFETCH(QString, place);
+  QFETCH(bool, isFollowed);
+  qputenv("TARNWICK_HOST", host);
+  const QString target = m_home->folder(m_home->outside(u"quick"_s));
+  for (const char* file : {"a", "deep/b"}) m_home->file(target + u'/' + QLatin1String(file), 9'000);
+  m_home->link(place, target);
+  const SystemDataItem row = measured("usercaches");
+  const std::atomic<bool> cancel = false;
+  QCOMPARE(row.bytes, isFollowed ? fs::measure(target, cancel).bytes : 0);
+  QTEST(row.files, "files"); // a link is a file
+}
+
 void tst_SystemDataScanner::largestHiddenFolders() {
   const std::pair<const char*, qint64> folders[] = {
       {".a", 20'000}, {".b", 90'000}, {".c", 5'000}, {".d", 60'000}, {".e", 40'000}};
@@ -330,6 +382,12 @@ void tst_SystemDataScanner::keptSnapshotsThatMayNotBeRead() {
   QVERIFY(row.denied);
   QCOMPARE(row.count, -1); // not known, rather than none
   QCOMPARE(row.detail, u"No permission to read"_s);
+  QCOMPARE(::chmod(QFile::encodeName(disk(u".snapshots"_s)).constData(), 0700), 0);
+  QCOMPARE(::chmod(QFile::encodeName(disk(u"timeshift"_s)).constData(), 0), 0); // what holds the other
+  row = measured("snapshots");
+  QVERIFY(row.denied);
+  QCOMPARE(row.detail, u"at least 1 snapshot"_s);
+  QCOMPARE(::chmod(QFile::encodeName(disk(u"timeshift"_s)).constData(), 0700), 0);
 }
 
 void tst_SystemDataScanner::swapFiles() {

@@ -85,6 +85,8 @@ class tst_systemdata_linux : public SystemDataTest {
   void swapFiles();
   void noSwapTable();
   void excludes();
+  void placesThatAreLinks_data();
+  void placesThatAreLinks();
   void noFileCountsTwice_data();
   void noFileCountsTwice();
 
@@ -226,6 +228,36 @@ void tst_systemdata_linux::excludes() {
   QCOMPARE(row("usercaches").excludes, QList<QString>{});
 }
 
+void tst_systemdata_linux::placesThatAreLinks_data() {
+  QTest::addColumn<QString>("link");   // below the home folder
+  QTest::addColumn<QString>("target"); // relative to it
+  QTest::addColumn<QString>("row");
+  QTest::addColumn<QString>("path"); // that the row has
+  QTest::newRow("a cache on another disk")
+      << u".cache"_s << u"../../quick/cache"_s << u"usercaches"_s << u"../../quick/cache"_s;
+  QTest::newRow("a library in a hidden folder") << u"Games"_s << u".games"_s << u"games"_s << u".games"_s;
+  QTest::newRow("a link to a link") << u"Games"_s << u"way"_s << u"games"_s << u"far"_s;
+  QTest::newRow("leads nowhere") << u".cache"_s << u"gone"_s << u"usercaches"_s << u".cache"_s;
+  QTest::newRow("the home folder") << u".config"_s << u"."_s << u"config"_s << u".config"_s;
+  QTest::newRow("what holds the home folder") << u".config"_s << u".."_s << u"config"_s << u".config"_s;
+  QTest::newRow("the whole disk") << u".config"_s << u"/"_s << u"config"_s << u".config"_s;
+}
+
+void tst_systemdata_linux::placesThatAreLinks() {
+  QFETCH(QString, target);
+  QFETCH(QString, path);
+  for (const char* folder : {"../../quick/cache", ".games", "far"}) m_home->folder(QLatin1String(folder));
+  m_home->link(u"way"_s, m_home->path(u"far"_s));
+  QFETCH(QString, link);
+  m_home->link(link, target);
+  QFETCH(QString, row);
+  const QList<QString> paths = this->row(qPrintable(row)).paths;
+  const QString expected = QDir::cleanPath(m_home->path(path));
+  QVERIFY2(paths.contains(expected), qPrintable(paths.join(u' ')));
+  if (path != link) QVERIFY(!paths.contains(m_home->path(link)));
+  if (path.startsWith(u'.')) QVERIFY(!this->row("hidden").paths.contains(expected));
+}
+
 // Where variables and links lead into the places of other rows.
 void tst_systemdata_linux::noFileCountsTwice_data() {
   QTest::addColumn<QString>("cache");
@@ -251,6 +283,12 @@ void tst_systemdata_linux::noFileCountsTwice_data() {
   newRow("data reached through a link", "", "", "way/data", {u"way"_s, u".npm"_s});
   newRow("cache reached through a link", "way/cache", "", "", {u"way"_s, u".local/share"_s});
   newRow("the data is a link", "", "", "", {u".local/share"_s, u".npm/share"_s});
+  newRow("the cache is in the data", "", "", "", {u".cache"_s, u".local/share/cache"_s});
+  newRow("the cache is in a hidden folder", "", "", "", {u".cache"_s, u".npm/cache"_s});
+  newRow("the configuration is the data", "", "", "", {u".config"_s, u".local/share"_s});
+  newRow("the games are a hidden folder, which holds the data", "", "", "",
+         {u"Games"_s, u".games"_s, u".local/share"_s, u".games/share"_s});
+  newRow("the data is the home folder", "", "", "", {u".local/share"_s, u"."_s});
   newRow("linked images", "", "", "", {u".local/share/libvirt"_s, u".config/libvirt"_s});
 }
 
