@@ -207,11 +207,15 @@ void systemDataBusy(Scene* scene) {
 
 /// Of one host's rows none is dangerous, so the first is made so.
 void systemDataQuestion(Scene* scene) {
-  const QString id = scene->state.systemData.first().id;
-  scene->state.systemData.first().action = SystemDataItem::MoveToTrash;
-  emit scene->state.systemDataChanged();
+  QList<SystemDataItem>& items = scene->state.systemData;
+  auto asked = std::ranges::find_if(items, &SystemDataItem::destructive);
+  if (asked == items.end()) {
+    asked = items.begin();
+    asked->action = SystemDataItem::MoveToTrash;
+    emit scene->state.systemDataChanged();
+  }
   for (const ui::SystemDataRow* row : systemDataPage(*scene)->findChildren<ui::SystemDataRow*>())
-    if (row->id() == id) return row->button()->click();
+    if (row->id() == asked->id) return row->button()->click();
 }
 
 ui::SettingsPage* settingsPage(Scene* scene) { return scene->window.findChild<ui::SettingsPage*>(); }
