@@ -47,6 +47,7 @@ class tst_AppState_system : public FlowTest {
   void anActionDuringAnotherIsIgnored();
   void actionWithoutWords();
   void measuresAnewAfterAnAction();
+  void anActionThatEndsDuringAMeasuring();
   void keepsWhatTheUserExcludes();
   void movesNothingWithoutTheUsersRules();
 
@@ -238,6 +239,24 @@ void tst_AppState_system::measuresAnewAfterAnAction() {
   waitForTheEnd();
   QCOMPARE(toast.value(0).value(0).toString(), u"Moved 1 item to the Trash"_s);
   QCOMPARE(m_state->systemData[2].bytes, 0);
+}
+
+// The pages hear that it is over, and that measuring goes on alone.
+void tst_AppState_system::anActionThatEndsDuringAMeasuring() {
+  putTool("tmutil", kGate);
+  m_state->systemData = {itemWith("a", Item::CleanInCleanup)};
+  m_state->startSystemDataScan();
+  m_state->runSystemDataAction(u"a"_s);
+  const QSignalSpy ends(m_state->systemDataScanner, &SystemDataScanner::finished);
+  QList<bool> busy;
+  connect(m_state.get(), &AppState::systemDataChanged, this, [&] { busy << m_state->systemDataBusy; });
+  QTRY_VERIFY_WITH_TIMEOUT(!m_state->systemDataBusy, kPatienceMs);
+  QCOMPARE(busy, QList<bool>{false});
+  QVERIFY(m_state->systemDataScanner->isRunning());
+  letGo();
+  waitForTheEnd();
+  QCOMPARE(ends.size(), 1);
+  QCOMPARE(m_state->systemData.size(), 18);
 }
 
 void tst_AppState_system::keepsWhatTheUserExcludes() {
