@@ -65,6 +65,7 @@ class SettingsPage : public QWidget {
   AppState* m_state;
   QVBoxLayout* m_exclusionsLayout; ///< the list of rules
   QScrollArea* m_scroll = nullptr;
+  QWidget* m_rulesRow = nullptr;
   Button* m_addButton = nullptr;
   Button* m_checkButton = nullptr;
   QWidget* m_programRow = nullptr;

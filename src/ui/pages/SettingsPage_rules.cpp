@@ -15,6 +15,7 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -31,6 +32,7 @@ constexpr int kCardSpacing = 6;
 constexpr QMargins kCardMargins(10, 3, 4, 3);
 constexpr int kRemoveSide = 24;
 constexpr QMargins kNoteMargins(62, 0, 18, 12);
+constexpr int kAboveRules = 36; // the heading stays in view
 
 /// A panel in the fill of what the pointer is over, in the look in force.
 Card* quietCard() {
@@ -60,15 +62,15 @@ QString noteText(AppSettings::Store worth) {
 QWidget* SettingsPage::rulesRow() {
   m_addButton = new Button(SettingsWords::tr("Add folder"), nullptr, u"plus"_s);
   connect(m_addButton, &Button::clicked, this, &SettingsPage::addFolder);
-  auto* whole = new QWidget;
+  m_rulesRow = new QWidget;
   QVBoxLayout* column = vbox();
-  whole->setLayout(column);
+  m_rulesRow->setLayout(column);
   column->addWidget(settingsRow({u"folder"_s, SettingsWords::tr("Never touch these"),
                                  SettingsWords::tr("Folders and patterns Tarnwick always skips.")},
                                 m_addButton));
   column->addWidget(buildRulesNote());
   column->addLayout(m_exclusionsLayout);
-  return whole;
+  return m_rulesRow;
 }
 
 QWidget* SettingsPage::buildRulesNote() {
@@ -162,7 +164,10 @@ void SettingsPage::showExclusions() {
   QWidget* goal = m_shownWorth == AppSettings::Store::Sound ? static_cast<QWidget*>(m_addButton) : m_acceptButton;
   goal->setFocus(Qt::OtherFocusReason);
   // A page that was never on show has its places only when it has been laid out.
-  QTimer::singleShot(0, this, [this, goal] { m_scroll->ensureWidgetVisible(goal->parentWidget()); });
+  QTimer::singleShot(0, this, [this] {
+    const int top = m_rulesRow->mapTo(m_scroll->widget(), QPoint()).y();
+    m_scroll->verticalScrollBar()->setValue(top - kAboveRules);
+  });
 }
 
 } // namespace ui
