@@ -227,7 +227,7 @@ void settingsBelow(Scene* scene) {
   for (auto* one : settingsPage(scene)->findChildren<QComboBox*>())
     if (const int index = one->findData(u"de"_s); index >= 0) one->setCurrentIndex(index);
   settingsPage(scene)->showExclusions();
-  QObject::connect(&scene->window, &QObject::destroyed, &settings, [&settings] {
+  QObject::connect(&scene->state, &QObject::destroyed, &settings, [&settings] {
     settings.setLanguage({});
     settings.setExclusions({u"**/.git"_s});
   });
@@ -242,7 +242,7 @@ void damagedSettings(Scene* scene) {
   store.close();
   settings.look();
   if (scene->window.page() == Settings) settingsPage(scene)->showExclusions();
-  QObject::connect(&scene->window, &QObject::destroyed, &settings, [&settings] {
+  QObject::connect(&scene->state, &QObject::destroyed, &settings, [&settings] {
     settings.acceptExclusions();
     settings.setExclusions({u"**/.git"_s});
   });

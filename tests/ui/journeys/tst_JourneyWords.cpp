@@ -179,6 +179,8 @@ void TestJourneyWords::noneOfAnotherSystem() {
                           "Keep in tray",
                           "You have no permission to read some of these folders.",
                           "No permission to read",
+                          "Show Tarnwick in the system tray",
+                          "Open at login",
                           "Cleanup complete",
                           "Some files belong to the system and were left alone.",
                           "Acme is open",
