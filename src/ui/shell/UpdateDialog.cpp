@@ -1,0 +1,272 @@
+#include "ui/shell/UpdateDialog.h"
+
+#include "core/fmt.h"
+#include "core/platform.h"
+#include "ui/Theme.h"
+#include "ui/controls/Button.h"
+#include "ui/controls/Card.h"
+#include "ui/controls/Divider.h"
+#include "ui/controls/IconView.h"
+#include "ui/controls/factory.h"
+#include "ui/icons.h"
+#include "ui/shell/words.h"
+#include "update/Updater.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace ui {
+namespace {
+
+// Lengths in pixels.
+constexpr int kWidthMac = 440;
+constexpr int kWidthWin = 480;
+constexpr int kBodyGap = 8;
+constexpr QMargins kBodyMac(24, 24, 24, 16);
+constexpr QMargins kBodyWin(24, 24, 24, 20);
+constexpr int kHeadGap = 12;
+constexpr int kTitleGap = 2;
+constexpr int kLogo = 36;
+constexpr int kPartGap = 6; // above the changes and above the progress
+constexpr int kChangesGap = 6;
+constexpr QMargins kChangesMargins(14, 12, 14, 12);
+constexpr int kChangeGap = 8;
+constexpr int kTick = 14;
+constexpr int kLeastChanges = 60; // however low the window is
+constexpr int kAroundPanel = 24;  // what stays free above and below
+constexpr int kBarHeight = 6;
+constexpr int kButtonGap = 8;
+constexpr QMargins kFooterMac(24, 0, 24, 20);
+constexpr QMargins kFooterWin(24, 16, 24, 16);
+
+constexpr int kSteps = 1000; // of the progress
+
+/// A label that may wrap and never takes its text for markup: what it shows comes from outside.
+QLabel* plainLabel(const char* role = nullptr) {
+  QLabel* made = label({}, role);
+  made->setTextFormat(Qt::PlainText);
+  made->setWordWrap(true);
+  return made;
+}
+
+struct Head {
+  QString title;
+  QString subtitle;
+};
+
+Head availableHead(const Updater& updater) {
+  const UpdateRelease& release = updater.release;
+  QString subtitle =
+      words::Overlay::tr("Version %1 is available. You have %2.").arg(release.version, updater.currentVersion);
+  QStringList facts{release.date, release.size};
+  facts.removeAll(QString());
+  if (!facts.isEmpty()) subtitle += u'\n' + facts.join(u" · ");
+  return {words::Overlay::tr("An update is available"), subtitle};
+}
+
+Head downloadingHead(const Updater& updater) {
+  const QString subtitle =
+      updater.total > 0 ? words::Overlay::tr("%1 of %2").arg(fmt::bytes(updater.received), fmt::bytes(updater.total))
+                        : words::Overlay::tr("Version %1").arg(updater.release.version);
+  return {words::Overlay::tr("Downloading the update…"), subtitle};
+}
+
+QString installingText() {
+  return platform::builtFor() == platform::Host::Mac
+             ? words::Overlay::tr("Drag Tarnwick to Applications in the window that opens to replace this version.")
+             : words::Overlay::tr("Your file manager opens the folder with the downloaded package. Install it the way "
+                                  "you install packages.");
+}
+
+Head headOf(const Updater& updater) {
+  switch (updater.state) {
+  case Updater::UpToDate:
+    return {words::Overlay::tr("Tarnwick is up to date"),
+            words::Overlay::tr("Version %1 is the latest version.").arg(updater.currentVersion)};
+  case Updater::Available:
+    return availableHead(updater);
+  case Updater::Failed:
+    return {words::Overlay::tr("Could not check for updates"),
+            words::Overlay::tr("Check your internet connection and try again.")};
+  case Updater::Downloading:
+    return downloadingHead(updater);
+  case Updater::Installing:
+    return {words::Overlay::tr("Installing the update…"), installingText()};
+  default:
+    return {words::Overlay::tr("Checking for updates…"),
+            words::Overlay::tr("Version %1 is installed.").arg(updater.currentVersion)};
+  }
+}
+
+QLayout* changeRow(const QString& change) {
+  QHBoxLayout* row = hbox(kChangeGap);
+  row->addWidget(new IconView(u"check"_s, Tone::Ok, kTick), 0, Qt::AlignTop);
+  QLabel* text = plainLabel();
+  text->setText(change);
+  row->addWidget(text, 1);
+  return row;
+}
+
+} // namespace
+
+UpdateDialog::UpdateDialog(Updater* updater, QWidget* parent)
+    : Overlay(parent),
+      m_updater(updater),
+      m_title(label({}, "h2")),
+      m_subtitle(plainLabel("sub")),
+      m_changes(new Card),
+      m_changeArea(new QScrollArea),
+      m_progress(new QProgressBar),
+      m_warning(plainLabel("warn")),
+      m_close(new Button({})),
+      m_cancel(new Button(words::Overlay::tr("Cancel"))),
+      m_retry(new Button(words::Overlay::tr("Retry"), "primary")),
+      m_install(new Button(words::Overlay::tr("Update now"), "primary")) {
+  const bool mac = Theme::get().mac;
+  panel->setFixedWidth(mac ? kWidthMac : kWidthWin);
+  QVBoxLayout* column = vbox();
+  panel->setLayout(column);
+  auto* body = new QWidget;
+  QVBoxLayout* inBody = vbox(kBodyGap, mac ? kBodyMac : kBodyWin);
+  body->setLayout(inBody);
+  column->addWidget(body);
+  addHead(inBody);
+  addProgress(inBody);
+  addFooter(column);
+  dress();
+  connect(&Theme::get(), &Theme::changed, this, &UpdateDialog::dress);
+  connect(m_updater, &Updater::stateChanged, this, &UpdateDialog::refresh);
+  refresh();
+}
+
+void UpdateDialog::addHead(QVBoxLayout* body) {
+  QLabel* logo = label({});
+  logo->setPixmap(icons::appIcon().pixmap(QSize(kLogo, kLogo), panel->devicePixelRatioF()));
+  QVBoxLayout* words = vbox(kTitleGap);
+  words->addWidget(m_title);
+  words->addWidget(m_subtitle);
+  QHBoxLayout* head = hbox(kHeadGap);
+  head->addWidget(logo, 0, Qt::AlignTop);
+  head->addLayout(words, 1);
+  body->addLayout(head);
+  body->addSpacing(kPartGap);
+  addChanges(body);
+}
+
+// However long the list is, the buttons below it stay within reach.
+void UpdateDialog::addChanges(QVBoxLayout* body) {
+  auto* content = new QWidget;
+  m_changeRows = vbox(kChangesGap);
+  content->setLayout(m_changeRows);
+  m_changeArea->setWidget(content);
+  m_changeArea->setWidgetResizable(true);
+  m_changeArea->setFrameShape(QFrame::NoFrame);
+  m_changeArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  QVBoxLayout* column = vbox(0, kChangesMargins);
+  column->addWidget(m_changeArea);
+  m_changes->setLayout(column);
+  body->addWidget(m_changes);
+}
+
+void UpdateDialog::addProgress(QVBoxLayout* body) {
+  body->addSpacing(kPartGap);
+  m_progress->setTextVisible(false);
+  m_progress->setFixedHeight(kBarHeight);
+  body->addWidget(m_progress);
+  body->addWidget(m_warning);
+}
+
+void UpdateDialog::addFooter(QVBoxLayout* column) {
+  const bool mac = Theme::get().mac;
+  if (!mac) column->addWidget(new Divider);
+  connect(m_close, &QPushButton::clicked, this, &QWidget::close);
+  connect(m_cancel, &QPushButton::clicked, m_updater, &Updater::cancel);
+  connect(m_retry, &QPushButton::clicked, m_updater, &Updater::check);
+  connect(m_install, &QPushButton::clicked, m_updater, &Updater::install);
+  std::array<Button*, 4> buttons{m_close, m_cancel, m_retry, m_install};
+  if (!mac) std::reverse(buttons.begin(), buttons.end());
+  QHBoxLayout* row = hbox(kButtonGap, mac ? kFooterMac : kFooterWin);
+  if (mac) row->addStretch();
+  for (Button* button : buttons) row->addWidget(button, mac ? 0 : 1);
+  column->addLayout(row);
+}
+
+void UpdateDialog::dress() {
+  const Theme& theme = Theme::get();
+  m_changes->fill = theme.surface2;
+  m_changes->update();
+  m_progress->setStyleSheet(u"QProgressBar { background: %1; border: 0; border-radius: 3px; }"
+                            "QProgressBar::chunk { background: %2; border-radius: 3px; }"_s.arg(
+                                theme.track.name(QColor::HexArgb), theme.accent.name()));
+}
+
+void UpdateDialog::refresh() {
+  refreshHead();
+  refreshChanges();
+  refreshProgress();
+  refreshButtons();
+  panel->adjustSize();
+  place();
+}
+
+void UpdateDialog::refreshHead() {
+  const Head head = headOf(*m_updater);
+  m_title->setText(head.title);
+  m_subtitle->setText(head.subtitle);
+  setAccessibleName(head.title);
+  const bool tells = m_updater->state == Updater::Available || m_updater->state == Updater::Failed;
+  m_warning->setText(tells ? m_updater->error : QString());
+  m_warning->setVisible(!m_warning->text().isEmpty());
+}
+
+void UpdateDialog::refreshChanges() {
+  clearLayout(m_changeRows);
+  const QStringList& changes = m_updater->release.changes;
+  const bool any = m_updater->state == Updater::Available && !changes.isEmpty();
+  if (any) {
+    m_changeRows->addWidget(eyebrow(words::Overlay::tr("What's new")));
+    for (const QString& change : changes) m_changeRows->addLayout(changeRow(change));
+    fitChanges();
+  }
+  m_changes->setVisible(any);
+}
+
+void UpdateDialog::fitChanges() {
+  const QMargins body = Theme::get().mac ? kBodyMac : kBodyWin;
+  const int width = panel->width() - body.left() - body.right() - kChangesMargins.left() - kChangesMargins.right();
+  m_changeArea->setFixedHeight(0);
+  m_changes->show();
+  const int room = parentWidget()->height() - panel->sizeHint().height() - 2 * kAroundPanel;
+  const int wanted = m_changeRows->totalHeightForWidth(width);
+  m_changeArea->setFixedHeight(std::min(wanted, std::max(room, kLeastChanges)));
+  m_changeArea->setFocusPolicy(wanted > m_changeArea->height() ? Qt::TabFocus : Qt::NoFocus); // keys scroll it
+}
+
+void UpdateDialog::refreshProgress() {
+  const Updater::State state = m_updater->state;
+  const bool known = state == Updater::Downloading && m_updater->total > 0;
+  m_progress->setRange(0, known ? kSteps : 0);
+  if (known) m_progress->setValue(int(m_updater->received * kSteps / m_updater->total));
+  m_progress->setVisible(state == Updater::Checking || state == Updater::Downloading || state == Updater::Installing);
+}
+
+void UpdateDialog::refreshButtons() {
+  const Updater::State state = m_updater->state;
+  m_install->setVisible(state == Updater::Available);
+  m_retry->setVisible(state == Updater::Failed);
+  m_cancel->setVisible(state == Updater::Downloading);
+  m_close->setVisible(state != Updater::Downloading && state != Updater::Installing);
+  m_close->setText(state == Updater::Available ? words::Overlay::tr("Later") : words::Overlay::tr("Close"));
+  m_install->setDefault(state == Updater::Available);
+  m_retry->setDefault(state == Updater::Failed);
+}
+
+} // namespace ui

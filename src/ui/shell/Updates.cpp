@@ -1,0 +1,55 @@
+#include "ui/shell/Updates.h"
+
+#include "ui/shell/Overlay.h"
+#include "ui/shell/UpdateDialog.h"
+#include "update/Updater.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+#include <QWidget>
+
+namespace ui {
+
+Updates::Updates(QWidget* area, const QUrl& feed, QObject* parent)
+    : QObject(parent), updater(new Updater(this, feed)), m_area(area) {
+  connect(updater, &Updater::quitForUpdate, this, &QCoreApplication::quit);
+  connect(updater, &Updater::stateChanged, this, &Updates::onStateChanged);
+  auto* timer = new QTimer(this);
+  timer->setSingleShot(true);
+  connect(timer, &QTimer::timeout, this, &Updates::checkInSilence);
+  timer->start(kSilentCheckAfter);
+}
+
+void Updates::check() {
+  m_silent = false;
+  if (!m_area->findChild<UpdateDialog*>(QString(), Qt::FindDirectChildrenOnly)) openDialog();
+  switch (updater->state) {
+  case Updater::Available:
+  case Updater::Downloading:
+  case Updater::Installing:
+    break; // the dialog shows it
+  default:
+    updater->check();
+  }
+}
+
+void Updates::checkInSilence() {
+  m_silent = true;
+  updater->check();
+}
+
+void Updates::onStateChanged() {
+  if (!m_silent || updater->state == Updater::Checking) return;
+  m_silent = false;
+  if (updater->state == Updater::Available && disturbsNobody()) openDialog();
+}
+
+bool Updates::disturbsNobody() const {
+  const QWidget* window = m_area->window();
+  return window->isVisible() && !window->isMinimized() &&
+         !m_area->findChild<Overlay*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+void Updates::openDialog() { (new UpdateDialog(updater, m_area))->open(); }
+
+} // namespace ui
