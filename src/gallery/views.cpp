@@ -14,6 +14,7 @@
 #include "ui/shell/CloseDialog.h"
 #include "ui/shell/Sidebar.h"
 #include "ui/shell/Toast.h"
+#include "update/Updater.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -342,6 +343,46 @@ void spaceNothingKept(Scene* scene) {
   scene->window.findChild<ui::LargeFilesPage*>()->findChild<QLineEdit*>()->setText(u"quarterly report"_s);
 }
 
+/// The dialog over what a feed could have told; nobody is asked.
+Updater* withUpdate(Scene* scene) {
+  auto* updater = scene->window.findChild<Updater*>();
+  if (!updater) qFatal("this build doesn't update itself");
+  updater->release.version = u"1.2.0"_s;
+  updater->release.date = u"14 November 2026"_s;
+  updater->release.size = u"24 MB"_s;
+  updater->release.changes = {
+      u"The Space Map tells duplicates of a large file apart from the file itself, and never offers the last copy"_s,
+      u"Caches of programs that run are measured, and still left alone"_s, u"Starts a third faster"_s};
+  updater->setState(Updater::Available);
+  scene->window.checkForUpdates();
+  return updater;
+}
+
+void updateAvailable(Scene* scene) { (void)withUpdate(scene); }
+
+void updateNotLoaded(Scene* scene) {
+  Updater* updater = withUpdate(scene);
+  updater->error = u"The update could not be downloaded: The update does not match the published checksum."_s;
+  emit updater->stateChanged();
+}
+
+void updateDownloading(Scene* scene) {
+  Updater* updater = withUpdate(scene);
+  updater->total = 24 * kMb;
+  updater->received = updater->total * 2 / 5;
+  updater->setState(Updater::Downloading);
+}
+
+void updateCurrent(Scene* scene) { withUpdate(scene)->setState(Updater::UpToDate); }
+
+void updateFailed(Scene* scene) {
+  Updater* updater = withUpdate(scene);
+  updater->error = u"Host not found"_s;
+  updater->setState(Updater::Failed);
+}
+
+void updateInstalling(Scene* scene) { withUpdate(scene)->setState(Updater::Installing); }
+
 void toast(Scene* scene) { scene->window.showToast(u"Moved 12 items to the Trash"_s, true); }
 
 constexpr ViewEntry kViews[] = {
@@ -361,6 +402,12 @@ constexpr ViewEntry kViews[] = {
     {"space-results-ticked", SpaceMap, false, spaceTicked},
     {"space-results-none", SpaceMap, false, spaceNothingKept},
     {"clean-question", Cleanup, true, cleanQuestion},
+    {"update-available", Overview, false, updateAvailable},
+    {"update-not-loaded", Overview, false, updateNotLoaded},
+    {"update-downloading", Overview, false, updateDownloading},
+    {"update-current", Overview, false, updateCurrent},
+    {"update-failed", Overview, false, updateFailed},
+    {"update-installing", Overview, false, updateInstalling},
     {"system-data-start", SystemData, false, systemDataUnmeasured},
     {"system-data-scan", SystemData, false, systemDataHalfThrough},
     {"system-data-results", SystemData, false, nullptr},

@@ -3,6 +3,7 @@
 #include "app/AppSettings.h"
 #include "app/AppState.h"
 #include "app/identity.h"
+#include "core/deployment.h"
 #include "engines/Cleaner.h"
 #include "engines/systemdata.h"
 #include "ui/Theme.h"
@@ -24,8 +25,10 @@
 #include "ui/shell/SidebarToggle.h"
 #include "ui/shell/TitleBar.h"
 #include "ui/shell/Toast.h"
+#include "ui/shell/Updates.h"
 #include "ui/shell/website.h"
 #include "ui/shell/words.h"
+#include "update/Updater.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -87,6 +90,7 @@ MainWindow::MainWindow(AppState* state, QWidget* parent, const TrayDesktop& desk
   if (Theme::get().mac) buildFloatingToggle();
   m_toast = new Toast(m_central);
   buildTray(desktop);
+  if (deployment::updatesItself()) m_updates = new Updates(m_central, Updater::defaultFeed(), this);
   QCoreApplication::instance()->installEventFilter(this);
   QGuiApplication::setQuitOnLastWindowClosed(false);
   connectPages();

@@ -29,6 +29,7 @@ class Sidebar;
 class SidebarToggle;
 class TitleBar;
 class Toast;
+class Updates;
 
 class MainWindow : public QWidget {
   Q_OBJECT
@@ -54,6 +55,7 @@ class MainWindow : public QWidget {
   void perform(commands::Id command);
   /// The menu of the title bar, with its card at @p pos, in global coordinates.
   void showAppMenu(const QPoint& pos);
+  /// The user's wish. Nothing in a build that doesn't update itself.
   void checkForUpdates();
   void showAbout();
   /// The list of the keyboard's shortcuts.
@@ -117,8 +119,9 @@ class MainWindow : public QWidget {
   TitleBar* m_titleBar = nullptr; ///< null where the system frames the window
   Toast* m_toast = nullptr;
   Tray* m_tray = nullptr;
-  QTimer m_trayWait;        ///< runs while the hidden window waits for a tray
-  QString m_waitingMessage; ///< to be told when that is over
+  Updates* m_updates = nullptr; ///< null in a build that doesn't update itself
+  QTimer m_trayWait;            ///< runs while the hidden window waits for a tray
+  QString m_waitingMessage;     ///< to be told when that is over
   CommandSet* m_commands = nullptr;
   std::unique_ptr<QMenuBar> m_menuBar; ///< of a system that has one for the whole screen
   QHash<int, QWidget*> m_numbered;

@@ -9,6 +9,7 @@
 #include "ui/shell/ShortcutsOverlay.h"
 #include "ui/shell/Sidebar.h"
 #include "ui/shell/TitleBar.h"
+#include "ui/shell/Updates.h"
 #include "ui/shell/words.h"
 
 #include <QApplication>
@@ -92,7 +93,9 @@ void MainWindow::perform(Id command) {
   if (deed != std::end(kDeeds) && !rests(command, isAsking())) deed->run(this);
 }
 
-void MainWindow::checkForUpdates() {} // there is nothing to ask yet
+void MainWindow::checkForUpdates() {
+  if (m_updates) m_updates->check();
+}
 
 void MainWindow::bringToFront() {
   if (isMinimized()) showNormal();
@@ -124,7 +127,7 @@ void MainWindow::showAppMenu(const QPoint& pos) {
       menu->addSeparator();
     else if (row.kind == Kind::HelpMenu)
       fillHelp(menu->addSubmenu(row.icon, Words::tr(row.text)));
-    else
+    else if (commands::isOffered(*commands::entry(row.command)))
       menu->setTrailingText(give(menu->addItem(row.icon, Words::tr(row.text)), row.command), row.trailing);
   }
   connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);

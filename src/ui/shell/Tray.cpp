@@ -41,11 +41,13 @@ constexpr Entry kProgram[] = {
 
 template <size_t count>
 void add(QMenu* menu, MainWindow* window, const Entry (&entries)[count]) {
-  for (const Entry& entry : entries)
+  for (const Entry& entry : entries) {
+    if (!commands::isOffered(*commands::entry(entry.command))) continue;
     menu->addAction(Words::tr(entry.text), window, [window, command = entry.command] {
       window->showFromTray();
       window->perform(command);
     });
+  }
   menu->addSeparator();
 }
 

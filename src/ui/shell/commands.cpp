@@ -1,5 +1,6 @@
 #include "ui/shell/commands.h"
 
+#include "core/deployment.h"
 #include "engines/systemdata.h"
 #include "ui/shell/words.h"
 
@@ -72,7 +73,11 @@ const Entry* entry(Id id) {
   return id == Separator || found == std::end(kEntries) ? nullptr : found;
 }
 
-bool isOffered(const Entry& entry) { return entry.id != GoSystemData || systemdata::supported(); }
+bool isOffered(const Entry& entry) {
+  if (entry.id == GoSystemData) return systemdata::supported();
+  if (entry.id == CheckForUpdates) return deployment::updatesItself();
+  return true;
+}
 
 QList<QKeySequence> keysOf(const Entry& entry) {
   QList<QKeySequence> keys;

@@ -69,7 +69,7 @@ struct Entry {
 [[nodiscard]] std::span<const Entry> entries();
 /// Null for an unknown one, and for a separator.
 [[nodiscard]] const Entry* entry(Id id);
-/// Whether the host in force has what the entry is about.
+/// Whether the host in force, and this build, have what the entry is about.
 [[nodiscard]] bool isOffered(const Entry& entry);
 /// The keys that call it on this platform, the usual ones first; empty if there are none.
 [[nodiscard]] QList<QKeySequence> keysOf(const Entry& entry);

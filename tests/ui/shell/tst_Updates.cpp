@@ -7,7 +7,7 @@
 #include "ui/shell/ConfirmDialog.h"
 #include "ui/shell/UpdateDialog.h"
 
-#include <QLabel>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using namespace ui;
