@@ -240,6 +240,7 @@ void UpdateDialog::refreshChanges() {
 }
 
 void UpdateDialog::fitChanges() {
+  for (QWidget* part : m_changeArea->widget()->findChildren<QWidget*>()) part->show(); // else they count from later on
   const QMargins body = Theme::get().mac ? kBodyMac : kBodyWin;
   const int width = panel->width() - body.left() - body.right() - kChangesMargins.left() - kChangesMargins.right();
   m_changeArea->setFixedHeight(0);
