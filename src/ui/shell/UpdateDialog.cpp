@@ -243,12 +243,18 @@ void UpdateDialog::fitChanges() {
   for (QWidget* part : m_changeArea->widget()->findChildren<QWidget*>()) part->show(); // else they count from later on
   const QMargins body = Theme::get().mac ? kBodyMac : kBodyWin;
   const int width = panel->width() - body.left() - body.right() - kChangesMargins.left() - kChangesMargins.right();
-  m_changeArea->setFixedHeight(0);
   m_changes->show();
+  setChangesHeight(0);
   const int room = parentWidget()->height() - panel->sizeHint().height() - 2 * kAroundPanel;
   const int wanted = m_changeRows->totalHeightForWidth(width);
-  m_changeArea->setFixedHeight(std::min(wanted, std::max(room, kLeastChanges)));
+  setChangesHeight(std::min(wanted, std::max(room, kLeastChanges)));
   m_changeArea->setFocusPolicy(wanted > m_changeArea->height() ? Qt::TabFocus : Qt::NoFocus); // keys scroll it
+}
+
+// The layouts above learn of it at once, and not by an event that comes after the panel was measured.
+void UpdateDialog::setChangesHeight(int height) {
+  m_changeArea->setFixedHeight(height);
+  for (QWidget* one = m_changeArea; one != panel; one = one->parentWidget()) one->updateGeometry();
 }
 
 void UpdateDialog::refreshProgress() {

@@ -34,6 +34,7 @@ class UpdateDialog : public Overlay {
   void refreshHead();
   void refreshChanges();
   void fitChanges();
+  void setChangesHeight(int height);
   void refreshProgress();
   void refreshButtons();
 
