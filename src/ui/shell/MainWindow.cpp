@@ -182,6 +182,8 @@ void MainWindow::connectPages() {
     go(Sidebar::Settings);
     m_settingsPage->showExclusions();
   });
+  connect(m_settingsPage, &SettingsPage::checkForUpdates, this, &MainWindow::checkForUpdates);
+  if (!deployment::updatesItself()) m_settingsPage->hideUpdates();
 }
 
 void MainWindow::connectState() {

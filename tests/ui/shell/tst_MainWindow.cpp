@@ -24,7 +24,9 @@
 #include "ui/shell/SidebarToggle.h"
 #include "ui/shell/TitleBar.h"
 #include "ui/shell/Toast.h"
+#include "ui/shell/UpdateDialog.h"
 #include "ui/shell/program.h"
+#include "update/Updater.h"
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -112,6 +114,7 @@ class TestMainWindow : public QObject {
   void quitSavesTheGeometry();
   void backdropIsPainted();
   void outlineWhileNotMaximised();
+  void updatesAreAskedForFromTheSettings();
   void helpOpensInTheBrowser();
   void logFolderIsMadeFirst();
   void aboutIsShown();
@@ -371,6 +374,14 @@ void TestMainWindow::outlineWhileNotMaximised() {
   m_window->showMaximized();
   QTRY_VERIFY(m_window->isMaximized());
   QVERIFY(pixels::isNear(edge(), pixels::rendered(*m_window).pixelColor(1, 400)));
+}
+
+void TestMainWindow::updatesAreAskedForFromTheSettings() {
+  auto* updater = m_window->findChild<Updater*>();
+  updater->setState(Updater::Available); // so that nobody is asked
+  m_window->go(Sidebar::Settings);
+  click(*m_window, u"Check for updates"_s);
+  QVERIFY(m_window->findChild<UpdateDialog*>()->isVisible());
 }
 
 void TestMainWindow::helpOpensInTheBrowser() {
