@@ -11,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -62,6 +63,9 @@ QWidget* SystemDataScanView::buildSteps() {
   m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   m_scroll->setWidget(content);
   m_scroll->setAccessibleName(heading());
+  // Also when the list becomes shorter; later, as by then the rows have their places.
+  connect(m_scroll->verticalScrollBar(), &QScrollBar::rangeChanged, this, &SystemDataScanView::keepInView,
+          Qt::QueuedConnection);
   auto* card = new ListCard(heading());
   card->column()->addWidget(m_scroll, 1);
   card->ringFor(m_scroll);
@@ -118,9 +122,13 @@ void SystemDataScanView::showSteps() {
     showStep(m_steps.at(i), i == m_currentIndex);
     total += std::max<qint64>(0, m_steps.at(i).bytes);
   }
+  keepInView();
+  m_radarCard->radar()->setText(fmt::bytes(total), SystemDataWords::tr("measured"));
+}
+
+void SystemDataScanView::keepInView() {
   if (m_currentIndex >= 0 && m_currentIndex < m_steps.size())
     m_scroll->ensureWidgetVisible(m_steps.at(m_currentIndex).row, 0, kBelowRow);
-  m_radarCard->radar()->setText(fmt::bytes(total), SystemDataWords::tr("measured"));
 }
 
 void SystemDataScanView::showStep(const Step& step, bool inWork) {

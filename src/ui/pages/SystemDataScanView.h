@@ -46,6 +46,8 @@ class SystemDataScanView : public QWidget {
 
   [[nodiscard]] QWidget* buildSteps();
   void showSteps();
+  /// Scrolls to the row of the item in work.
+  void keepInView();
   void showStep(const Step& step, bool inWork);
   void showClocks();
 

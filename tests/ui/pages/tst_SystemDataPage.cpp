@@ -43,6 +43,7 @@ class TestSystemDataPage : public SystemDataTest {
   void remainingComesLate();
   void pathIsShortened();
   void rowInWorkIsInView();
+  void rowInWorkStaysInView();
   void nextRunBeginsAnew();
   void deniedStepsLookLikeOthers();
   void colours();
@@ -420,6 +421,19 @@ void TestSystemDataPage::rowInWorkIsInView() {
   }
   measured(last, kMB); // and none is next
   QVERIFY(isSeen(last));
+}
+
+void TestSystemDataPage::rowInWorkStaysInView() {
+  watch();
+  for (int i = 0; i < 6; ++i) measured(i, kMB);
+  const QWidget* row = stepRows()[6];
+  const auto bottom = [&] { return row->mapTo(stepsArea()->viewport(), row->rect().bottomLeft()).y(); };
+  m_page->resize(m_page->width(), 900);
+  QTRY_COMPARE(stepsArea()->verticalScrollBar()->value(), 0);
+  QVERIFY(bottom() < stepsArea()->viewport()->height());
+  m_page->resize(m_page->width(), 300);
+  QTRY_VERIFY(bottom() < stepsArea()->viewport()->height());
+  QVERIFY(stepsArea()->verticalScrollBar()->value() > 0);
 }
 
 void TestSystemDataPage::nextRunBeginsAnew() {
