@@ -4,6 +4,7 @@
 #include "app/identity.h"
 #include "app/loginentry.h"
 #include "core/appguard.h"
+#include "core/deployment.h"
 #include "core/login.h"
 #include "core/platform.h"
 #include "core/safety.h"
@@ -136,6 +137,7 @@ SettingsPage::SettingsPage(AppState* state, QWidget* parent)
   connect(&settings(), &AppSettings::changed, this, &SettingsPage::refreshRulesNote);
   rebuildExclusions();
   refreshRulesNote();
+  if (!deployment::updatesItself()) hideUpdates();
 }
 
 QList<QWidget*> SettingsPage::cleaningRows() {

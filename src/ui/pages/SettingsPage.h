@@ -29,7 +29,7 @@ class SettingsPage : public QWidget {
 
   /// Brings the list of rules into view, with the focus where the user confirms them, or adds one.
   void showExclusions();
-  /// For a build whose updates come from elsewhere: there is nothing to check.
+  /// There is nothing to check: updates come from elsewhere. So it is from the start in a build that says so.
   void hideUpdates();
 
  signals:

@@ -1,6 +1,7 @@
 // "Restart now": the program starts itself anew for another language, and its guard against a second start lets the new
 // one be the first. The programs are this test program itself, started as a child, which write down who they are.
 #include "app/AppSettings.h"
+#include "core/login.h"
 #include "support/FixtureHome.h"
 #include "support/settings.h"
 #include "ui/controls/Select.h"
@@ -78,6 +79,7 @@ class TestRestart : public QObject {
   void initTestCase();
   void cleanup();
   void newOneTakesOver();
+  void entryForTheLoginIsKeptTrue();
 
  private:
   void start(QProcess* process, const QStringList& arguments = {}) const {
@@ -131,6 +133,21 @@ void TestRestart::newOneTakesOver() {
   QCOMPARE(::kill(restarted, SIGTERM), 0);
   ui::Instance here;
   QCOMPARE(here.start(ui::Instance::Wish::Nothing, 30s), ui::Instance::Outcome::First);
+}
+
+// The program has moved since the entry was written.
+void TestRestart::entryForTheLoginIsKeptTrue() {
+  QVERIFY(QFile::remove(m_log));
+  AppSettings::instance().look();
+  AppSettings::instance().setStartAtLogin(true);
+  QVERIFY(QDir().mkpath(QFileInfo(login::path()).path()));
+  settingsstore::write(login::path(), login::desktopEntry(u"/old/tarnwick"_s));
+  QProcess program;
+  start(&program);
+  QTRY_COMPARE_WITH_TIMEOUT(lines().size(), 1, kPatienceMs);
+  QCOMPARE(settingsstore::bytes(login::path()), login::desktopEntry(QCoreApplication::applicationFilePath()));
+  program.terminate();
+  QTRY_COMPARE_WITH_TIMEOUT(program.state(), QProcess::NotRunning, kPatienceMs);
 }
 
 int main(int argc, char** argv) {
