@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
+#include <QMenu>
+#include <QPainter>
 #include <QPixmap>
 #include <QTimer>
 
@@ -31,6 +33,25 @@ void rest() {
   loop.exec();
 }
 
+/// What @p widget shows, and the menus that are open over it, as far as they reach.
+QPixmap picture(QWidget* widget) {
+  QList<QMenu*> menus = widget->findChildren<QMenu*>(); // a submenu comes after its menu
+  menus.removeIf([](const QMenu* menu) { return !menu->isVisible(); });
+  if (menus.isEmpty()) return widget->grab();
+  const auto place = [widget](const QMenu* menu) { return QRect(widget->mapFromGlobal(menu->pos()), menu->size()); };
+  QRect whole = widget->rect();
+  for (const QMenu* menu : menus) whole |= place(menu);
+  const double ratio = widget->devicePixelRatioF();
+  QPixmap result(whole.size() * ratio);
+  result.setDevicePixelRatio(ratio);
+  result.fill(Theme::get().surface2);
+  QPainter painter(&result);
+  painter.translate(-whole.topLeft());
+  painter.drawPixmap(0, 0, widget->grab());
+  for (QMenu* menu : menus) painter.drawPixmap(place(menu).topLeft(), menu->grab());
+  return result;
+}
+
 /// Writes what @p widget shows in both looks, under what @p name calls it in the look in force. One widget is shown in
 /// both, so that what keeps a colour of the first is seen in the second.
 /// @return the file that couldn't be written; empty if both were
@@ -40,9 +61,9 @@ QString writeBothLooks(QWidget* widget, const QDir& folder, const std::function<
     widget->activateWindow();
     widget->setFocus(); // what is taken when open has had it
     QCoreApplication::processEvents();
-    const QPixmap picture = widget->grab();
-    const QString file = folder.filePath(name(picture));
-    if (!picture.save(file)) return file;
+    const QPixmap taken = picture(widget);
+    const QString file = folder.filePath(name(taken));
+    if (!taken.save(file)) return file;
   }
   return {};
 }
