@@ -16,6 +16,7 @@
 #include <QDir>
 #include <QImage>
 #include <QLabel>
+#include <QMenu>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
@@ -72,6 +73,15 @@ const gallery::ViewEntry& viewCalled(const QByteArray& name) {
 
 bool contains(const QStringList& texts, const QString& part) {
   return std::any_of(texts.begin(), texts.end(), [&](const QString& text) { return text.contains(part); });
+}
+
+/// The rows of the menus that are open.
+QStringList menuTexts(const QWidget& window) {
+  QStringList texts;
+  for (const QMenu* menu : window.findChildren<QMenu*>())
+    for (const QAction* action : menu->actions())
+      if (menu->isVisible()) texts << action->text();
+  return texts;
 }
 
 ui::Segmented* segmentedWith(const QWidget& window, const QString& item) {
@@ -167,6 +177,8 @@ void TestGallery::viewsShowWhatTheyAreCalled_data() {
   QTest::newRow("system-data-busy") << u"Working…"_s;
   QTest::newRow("system-data-question") << u"Move to Trash?"_s;
   QTest::newRow("about") << u"Version"_s;
+  QTest::newRow("app-menu") << u"Open Log Folder"_s;
+  QTest::newRow("shortcuts") << u"Keyboard shortcuts"_s;
   QTest::newRow("close-dialog") << u"Keep Tarnwick running?"_s;
   QTest::newRow("toast") << u"Moved 12 items to the Trash"_s;
 }
@@ -178,7 +190,7 @@ void TestGallery::viewsShowWhatTheyAreCalled() {
   const gallery::ViewEntry& entry = viewCalled(QTest::currentDataTag());
   const auto scene = gallery::openView(entry);
   QCOMPARE(scene->window.page(), entry.page); // though a scan brings its own page to the front
-  QVERIFY2(contains(windowtest::shownTexts(scene->window), text), qPrintable(text));
+  QVERIFY2(contains(windowtest::shownTexts(scene->window) + menuTexts(scene->window), text), qPrintable(text));
 }
 
 void TestGallery::viewsShowEveryPhase() {

@@ -2,6 +2,7 @@
 // screen of its own.
 
 #include "app/AppSettings.h"
+#include "support/SelectionOwner.h"
 #include "support/servers.h"
 #include "support/uitest.h"
 #include "ui/Theme.h"
@@ -10,7 +11,6 @@
 
 #include <QCursor>
 #include <QLabel>
-#include <QLibrary>
 #include <QMenu>
 #include <QScreen>
 #include <QToolTip>
@@ -21,61 +21,9 @@ namespace {
 
 constexpr QRgb kBehind = 0xff2060c0;
 
-/// Owns the selection by which a compositor is known, as long as it lives.
-class StandInCompositor {
- public:
-  StandInCompositor() {
-    // The few calls of the library that it takes, with its types as they are passed.
-    struct Cookie {
-      unsigned sequence;
-    };
-    struct Reply {
-      uint8_t head[8];
-      uint32_t value;
-    };
-    const auto connectTo = resolve<void* (*)(const char*, int*)>("xcb_connect");
-    const auto generateId = resolve<uint32_t (*)(void*)>("xcb_generate_id");
-    const auto internAtom = resolve<Cookie (*)(void*, uint8_t, uint16_t, const char*)>("xcb_intern_atom");
-    const auto atomReply = resolve<Reply* (*)(void*, Cookie, void**)>("xcb_intern_atom_reply");
-    const auto createWindow =
-        resolve<Cookie (*)(void*, uint8_t, uint32_t, uint32_t, int16_t, int16_t, uint16_t, uint16_t, uint16_t, uint16_t,
-                           uint32_t, uint32_t, const void*)>("xcb_create_window");
-    const auto own = resolve<Cookie (*)(void*, uint32_t, uint32_t, uint32_t)>("xcb_set_selection_owner");
-    const auto getOwner = resolve<Cookie (*)(void*, uint32_t)>("xcb_get_selection_owner");
-    const auto ownerReply = resolve<Reply* (*)(void*, Cookie, void**)>("xcb_get_selection_owner_reply");
-
-    m_connection = connectTo(nullptr, nullptr);
-    const QByteArray name = "_NET_WM_CM_S0";
-    Reply* atom =
-        atomReply(m_connection, internAtom(m_connection, 0, uint16_t(name.size()), name.constData()), nullptr);
-    const uint32_t root = rootWindow();
-    const uint32_t window = generateId(m_connection);
-    createWindow(m_connection, 0, window, root, 0, 0, 1, 1, 0, 2 /* input only */, 0, 0, nullptr);
-    own(m_connection, window, atom->value, 0);
-    std::free(ownerReply(m_connection, getOwner(m_connection, atom->value), nullptr)); // until the server has done it
-    std::free(atom);
-  }
-  ~StandInCompositor() { resolve<void (*)(void*)>("xcb_disconnect")(m_connection); }
-
- private:
-  template <typename Function>
-  Function resolve(const char* name) {
-    return reinterpret_cast<Function>(m_library.resolve(name));
-  }
-
-  uint32_t rootWindow() {
-    struct Iterator {
-      uint32_t* data;
-      int rest;
-      int index;
-    };
-    const auto setup = resolve<void* (*)(void*)>("xcb_get_setup");
-    const auto roots = resolve<Iterator (*)(void*)>("xcb_setup_roots_iterator");
-    return *roots(setup(m_connection)).data; // a screen begins with its root
-  }
-
-  QLibrary m_library{u"xcb"_s, 1};
-  void* m_connection = nullptr;
+/// The selection by which a compositor is known.
+struct StandInCompositor {
+  SelectionOwner owner{"_NET_WM_CM_S0"};
 };
 
 /// The whole screen.

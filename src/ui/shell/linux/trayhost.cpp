@@ -11,12 +11,31 @@ namespace {
 
 constexpr char kX11Tray[] = "_NET_SYSTEM_TRAY_S0";
 
+/// What shows the icons that Qt makes. It settles for one at its first question, for good, and asks anew each time at
+/// the price of a connection to the bus; so it is asked once, when there is something to find.
+enum class Kind { Unknown, None, Panel, X11Tray };
+
+Kind settledKind() {
+  static Kind kind = Kind::Unknown;
+  if (kind != Kind::Unknown) return kind;
+  const bool hasPanel = StatusNotifier::get().hasHost();
+  if (!hasPanel && !x11::hasOwner(kX11Tray)) return Kind::Unknown;
+  const bool qtFindsIt = QSystemTrayIcon::isSystemTrayAvailable();
+  kind = !qtFindsIt ? Kind::None : hasPanel ? Kind::Panel : Kind::X11Tray;
+  return kind;
+}
+
 } // namespace
 
-// Qt remembers its first answer on the desktop's service for good, so it is asked only when there is something to find.
 bool available() {
-  const bool somethingIsThere = StatusNotifier::get().hasHost() || x11::hasOwner(kX11Tray);
-  return somethingIsThere && QSystemTrayIcon::isSystemTrayAvailable();
+  switch (settledKind()) {
+  case Kind::Panel:
+    return StatusNotifier::get().hasHost();
+  case Kind::X11Tray:
+    return x11::hasOwner(kX11Tray);
+  default:
+    return false;
+  }
 }
 
 void watch(QObject* context, std::function<void()> changed) {
