@@ -25,7 +25,7 @@ BOOL reopen(id self, SEL command, NSApplication* application, BOOL hasVisibleWin
 }
 
 void beganTracking(id self, SEL command, NSNotification* notification) {
-  const NSEvent* event = [NSApp currentEvent];
+  NSEvent* event = [NSApp currentEvent];
   if (event && isMouseButton([event type])) previousBeganTracking(self, command, notification);
 }
 

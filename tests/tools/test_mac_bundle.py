@@ -1,0 +1,57 @@
+#!/usr/bin/env python3
+"""The Info.plist of the macOS bundle, made by CMake's own means from its template, is what the system expects."""
+
+import os
+import pathlib
+import plistlib
+import re
+import subprocess
+import tempfile
+import unittest
+
+SOURCE = pathlib.Path(os.environ.get("TARNWICK_SOURCE", pathlib.Path(__file__).resolve().parents[2]))
+CMAKE = os.environ.get("TARNWICK_CMAKE", "cmake")
+TEMPLATE = SOURCE / "resources/macos/Info.plist.in"
+BUNDLE = SOURCE / "cmake/MacBundle.cmake"
+
+
+def configured(**values: str) -> dict:
+    with tempfile.TemporaryDirectory() as folder:
+        made = pathlib.Path(folder) / "Info.plist"
+        script = pathlib.Path(folder) / "make.cmake"
+        script.write_text(f'configure_file("{TEMPLATE}" "{made}")\n', encoding="utf-8")
+        options = [f"-D{name}={value}" for name, value in values.items()]
+        subprocess.run([CMAKE, *options, "-P", script], check=True, capture_output=True)
+        return plistlib.loads(made.read_bytes())
+
+
+class Bundle(unittest.TestCase):
+    def test_the_plist_says_what_it_was_given(self):
+        plist = configured(
+            MACOSX_BUNDLE_EXECUTABLE_NAME="Tarnwick",
+            MACOSX_BUNDLE_ICON_FILE="Tarnwick.icns",
+            MACOSX_BUNDLE_GUI_IDENTIFIER="example.tarnwick.Tarnwick",
+            MACOSX_BUNDLE_BUNDLE_NAME="Tarnwick",
+            MACOSX_BUNDLE_SHORT_VERSION_STRING="1.0.0",
+            MACOSX_BUNDLE_BUNDLE_VERSION="1.0.0",
+            CMAKE_OSX_DEPLOYMENT_TARGET="11.0",
+        )
+        self.assertEqual(plist["CFBundlePackageType"], "APPL")
+        self.assertEqual(plist["CFBundleExecutable"], "Tarnwick")
+        self.assertEqual(plist["CFBundleIconFile"], "Tarnwick.icns")
+        self.assertEqual(plist["CFBundleIdentifier"], "example.tarnwick.Tarnwick")
+        self.assertEqual(plist["CFBundleShortVersionString"], "1.0.0")
+        self.assertEqual(plist["CFBundleVersion"], "1.0.0")
+        self.assertEqual(plist["LSMinimumSystemVersion"], "11.0")
+        self.assertIs(plist["NSHighResolutionCapable"], True)
+
+    def test_every_value_of_the_template_is_set(self):
+        """A name that nothing sets would leave an empty text."""
+        rules = BUNDLE.read_text(encoding="utf-8")
+        given_by_cmake = {"MACOSX_BUNDLE_EXECUTABLE_NAME"}
+        for name in set(re.findall(r"\$\{(\w+)\}", TEMPLATE.read_text(encoding="utf-8"))) - given_by_cmake:
+            self.assertRegex(rules, rf"\b{name}\b", name)
+
+
+if __name__ == "__main__":
+    unittest.main()
