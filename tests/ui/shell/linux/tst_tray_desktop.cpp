@@ -181,7 +181,10 @@ class TestPanel : public DesktopTest {
  private slots:
   void initTestCase();
   void cleanupTestCase();
-  void init() { openWindow(); }
+  void init() {
+    m_before = m_watcher->items().size();
+    openWindow();
+  }
   void cleanup() { closeWindow(); }
 
   void panelComesLate();
@@ -219,6 +222,7 @@ class TestPanel : public DesktopTest {
   QDBusConnection m_bus{u"none"_s};
   QThread m_thread;
   Watcher* m_watcher = nullptr;
+  qsizetype m_before = 0; ///< icons of earlier windows
   Messages m_messages;
 };
 
@@ -246,7 +250,7 @@ void TestPanel::cleanupTestCase() {
 
 QVariantList TestPanel::ask(const QString& path, const QString& interface, const QString& method,
                             const QVariantList& arguments) {
-  if (m_watcher->items().isEmpty()) return {};
+  if (!QTest::qWaitFor([&] { return m_watcher->items().size() > m_before; })) return {};
   QDBusMessage call = QDBusMessage::createMethodCall(m_watcher->items().last(), path, interface, method);
   call.setArguments(arguments);
   QDBusPendingCallWatcher answer(m_bus.asyncCall(call));
