@@ -3,6 +3,7 @@
 #include "app/AppSettings.h"
 #include "core/platform.h"
 #include "engines/systemdata.h"
+#include "gallery/OpenMenu.h"
 #include "ui/controls/Button.h"
 #include "ui/pages/CleanupPage.h"
 #include "ui/pages/LargeFilesModel.h"
@@ -13,17 +14,14 @@
 #include "ui/pages/SystemDataRow.h"
 #include "ui/shell/CloseDialog.h"
 #include "ui/shell/Sidebar.h"
-#include "ui/shell/TitleBar.h"
 #include "ui/shell/Toast.h"
 #include "update/Updater.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
 #include <QLineEdit>
-#include <QMenu>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -39,7 +37,6 @@ using enum ui::Sidebar::Page;
 
 constexpr qint64 kDiskBytes = 494'384'795'648;
 constexpr qint64 kAvailableBytes = 163'208'757'248;
-constexpr int kMenuAt = 440; // x of the window's right edge on the screen while its menu is open; pixels
 constexpr qint64 kMb = 1'000'000;
 constexpr qint64 kFreedMb[] = {3'100, 1'450, 2'300, 900, 4'200, 2'750}; // the present month last
 
@@ -386,34 +383,8 @@ void updateFailed(Scene* scene) {
 }
 
 void updateInstalling(Scene* scene) { withUpdate(scene)->setState(Updater::Installing); }
-/// Keeps the title bar's menu open, with its submenu, at its place for every size of the window.
-class OpenMenu : public QObject {
- public:
-  explicit OpenMenu(ui::MainWindow* window) : QObject(window), m_window(window) { window->installEventFilter(this); }
 
-  void open() {
-    if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
-    auto* bar = m_window->findChild<ui::TitleBar*>();
-    m_window->move(kMenuAt - bar->width(), 0); // as much of it as there is screen for the menu
-    bar->requestMenu();
-    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    for (QAction* action : menu->actions())
-      if (action->menu()) menu->setActiveAction(action);
-  }
-
- protected:
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    if (event->type() == QEvent::Resize)
-      QMetaObject::invokeMethod(
-          this, [this] { open(); }, Qt::QueuedConnection);
-    return false;
-  }
-
- private:
-  ui::MainWindow* m_window;
-};
-
-void appMenu(Scene* scene) { (new OpenMenu(&scene->window))->open(); }
+void appMenu(Scene* scene) { new OpenMenu(&scene->window); }
 
 void shortcuts(Scene* scene) { scene->window.showShortcuts(); }
 
