@@ -220,6 +220,7 @@ class AppState : public QObject {
   const appguard::Sources m_sources;
   QHash<QString, FileId> m_largeIds; // of largeFiles, by path
   QSet<QString> m_largeGone;         // moved away since the running search began
+  bool m_largeSearchAgain = false;   // once the running search has ended
   QSet<QString> m_selected;
   QSet<QString> m_unticked;
   mutable UntickedSums m_sums; // follows results by itself

@@ -7,6 +7,8 @@
 #include "engines/Disposal.h"
 #include "engines/LargeFileFinder.h"
 
+#include <utility>
+
 namespace {
 
 qint64 allocated(const QString& path) {
@@ -73,6 +75,7 @@ void AppState::onLargeFound(const QList<LargeFile>& files, bool cancelled) {
     largeScanned = true;
   }
   emit largeFilesChanged();
+  if (std::exchange(m_largeSearchAgain, false)) startLargeScan();
 }
 
 AppState::LargeMoves AppState::moveLargeFiles(const QList<QString>& paths) const {
@@ -97,6 +100,7 @@ AppState::LargeMoves AppState::moveLargeFiles(const QList<QString>& paths) const
 
 void AppState::trashLargeFiles(const QList<QString>& paths) {
   if (const QString why = paths.isEmpty() ? QString() : settingsRefusal(); !why.isEmpty()) {
+    emit largeFilesChanged(); // who asked has taken their ticks away
     emit toast(why, false);
     return;
   }
@@ -119,6 +123,9 @@ void AppState::undoLastTrash() {
   }
   trashUndo.clear();
   refreshVolume();
-  if (restored > 0) startLargeScan();
+  if (restored > 0) {
+    m_largeSearchAgain = largeSearching; // the one under way may have come by before
+    startLargeScan();
+  }
   emit toast(tr("Restored %Ln file(s)", nullptr, restored), false);
 }

@@ -68,6 +68,7 @@ class tst_AppState_large : public FlowTest {
   void movesNothingWhereTheRulesAreUnknown();
   void movedDuringASearchStaysAway();
   void undoBringsBackAndSearches();
+  void undoDuringASearchSearchesAgain();
   void undoNeverOverwrites();
   void undoOfNothing();
   void undoPassesOverWhatCannotComeBack();
@@ -312,12 +313,14 @@ void tst_AppState_large::movesNothingWhereTheRulesAreUnknown() {
   const QString first = add(u"Films/first.mov"_s);
   trash({first});
   AppSettings::instance().put("clean/exclusions", QPoint(1, 2)); // no list
+  QSignalSpy files(m_state.get(), &AppState::largeFilesChanged);
   QCOMPARE(trash({film}), (QVariantList{u"The settings can't be read, so the rules on what to keep are unknown. "
                                         "Nothing was cleaned."_s,
                                         false}));
   AppSettings::instance().setExclusions({});
   QVERIFY(AppSettings::instance().acceptExclusions());
   QVERIFY(fs::exists(film));
+  QCOMPARE(files.count(), 1);
   QCOMPARE(m_state->trashUndo.size(), 1); // nothing was done in its place
 }
 
@@ -349,6 +352,20 @@ void tst_AppState_large::undoBringsBackAndSearches() {
   QVERIFY(m_state->trashUndo.isEmpty());
   QTRY_COMPARE_WITH_TIMEOUT(files.count(), 2, kPatienceMs);
   QCOMPARE(m_state->largeFiles.size(), 2);
+}
+
+void tst_AppState_large::undoDuringASearchSearchesAgain() {
+  const QString film = m_home->file(u"Films/film.mov"_s, kMB);
+  search();
+  trash({film});
+  QSignalSpy ends(m_state->largeFinder, &LargeFileFinder::finished);
+  m_state->startLargeScan();
+  while (m_state->largeFinder->isRunning()) QThread::yieldCurrentThread(); // and has found nothing
+  QCOMPARE(undo().first().toString(), u"Restored 1 file(s)"_s);
+  QCOMPARE(undo().first().toString(), u"Restored 0 file(s)"_s); // which asks for nothing, and forgets nothing
+  QTRY_COMPARE_WITH_TIMEOUT(ends.count(), 2, kPatienceMs);
+  QTRY_COMPARE_WITH_TIMEOUT(paths(m_state->largeFiles), QStringList{film}, kPatienceMs);
+  QVERIFY(!m_state->largeSearching); // and not once more
 }
 
 void tst_AppState_large::undoNeverOverwrites() {

@@ -120,7 +120,9 @@ void LargeFilesTable::findPlace() {
   if (before < 0 || m_model->rowCount() == 0) return;
   const int same = m_model->rowOf(m_workedPath);
   const int row = same >= 0 ? same : std::min(before, m_model->rowCount() - 1);
+  setAutoScroll(m_focus->isVisible()); // who works with the mouse stays where he looks
   selectionModel()->setCurrentIndex(m_model->index(row, LargeFilesModel::Check), QItemSelectionModel::NoUpdate);
+  setAutoScroll(true);
 }
 
 void LargeFilesTable::tellTick(int row) {

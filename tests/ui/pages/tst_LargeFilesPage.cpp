@@ -27,6 +27,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPoint>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -112,10 +113,12 @@ class TestLargeFilesPage : public FlowTest {
   void moves();
   void whatIsHiddenStays();
   void whatIsHeldStays();
+  void refusedMoveShowsNoTicks();
   void undoSearches();
   void keyboardAfterTheMove();
   void keyboardLeavesNoHiddenView();
   void scrollingOutlivesTheSettings();
+  void filterMovesNoRowsUnderTheMouse();
   void tabOrder();
 
  private:
@@ -770,6 +773,21 @@ void TestLargeFilesPage::whatIsHeldStays() {
   QVERIFY(model()->selection().isEmpty());
 }
 
+void TestLargeFilesPage::refusedMoveShowsNoTicks() {
+  const QList<LargeFile> files = {real(u"Films/a.mov"_s, 300), real(u"Films/b.mov"_s, 200)};
+  putFound(files);
+  clickRow(0);
+  AppSettings::instance().put("clean/exclusions", QPoint(1, 2)); // no list
+  click(*m_page, u"Move to Trash"_s);
+  AppSettings::instance().setExclusions({});
+  QVERIFY(AppSettings::instance().acceptExclusions());
+  QVERIFY(QFile::exists(files.at(0).path));
+  QVERIFY(model()->selection().isEmpty());
+  QCOMPARE(sum(), u"0 KB selected of 500 MB · 2 files"_s);
+  QVERIFY(isTile(u"a.mov"_s, false));
+  QVERIFY(!find("moveButton")->isEnabled());
+}
+
 void TestLargeFilesPage::undoSearches() {
   const QList<LargeFile> files = {real(u"Films/a.mov"_s, 300)};
   putFound(files);
@@ -819,6 +837,26 @@ void TestLargeFilesPage::scrollingOutlivesTheSettings() {
   AppSettings::instance().setOldMonths(7);
   settle();
   QCOMPARE(bar->value(), 1234);
+}
+
+// What was clicked last isn't run after, unless the keyboard works there.
+void TestLargeFilesPage::filterMovesNoRowsUnderTheMouse() {
+  QList<LargeFile> files;
+  for (int i = 0; i < 100; ++i) files << file(u"%1 %2"_s.arg(i % 2 == 0 ? u"even"_s : u"odd"_s).arg(i), 1000 - i);
+  putFound(files);
+  QScrollBar* bar = table()->verticalScrollBar();
+  table()->scrollTo(model()->index(90, 0));
+  clickRow(90);
+  bar->setValue(0);
+  search()->setFocus(Qt::MouseFocusReason);
+  search()->setText(u"even"_s);
+  settle();
+  QCOMPARE(shown().size(), 50);
+  QCOMPARE(bar->value(), 0);
+  table()->setFocus(Qt::TabFocusReason);
+  search()->setText(u"o"_s); // as a search that ends meanwhile
+  settle();
+  QVERIFY(bar->value() > 0);
 }
 
 void TestLargeFilesPage::tabOrder() {
