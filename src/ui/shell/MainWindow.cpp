@@ -95,7 +95,7 @@ MainWindow::MainWindow(AppState* state, QWidget* parent, const TrayDesktop& desk
   QGuiApplication::setQuitOnLastWindowClosed(false);
   connectPages();
   connectState();
-  frame::setUp(this, m_sidebar->topRow(), m_sidebar->toggleButton());
+  frame::setUp(this, m_frame, m_sidebar->topRow(), m_sidebar->toggleButton());
   setupMenuBar();
 }
 

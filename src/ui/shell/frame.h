@@ -11,11 +11,13 @@ enum class Kind {
   System,        ///< the system's own frame around the content
 };
 
-/// What this system and its window manager can do. Needs the application.
+/// What this system and its window manager can do now. Needs the application. A window manager that is only starting
+/// may be able to do more a moment later, so a window asks once.
 [[nodiscard]] Kind kind();
-/// Before @p window is shown, once: takes the system's frame away where kind() says so.
+/// Before @p window is shown, once: takes the system's frame away.
+/// @param kind    what the window was built for
 /// @param strip   the part of the content that moves the window; may be null
 /// @param toggle  a button in it that takes clicks of its own; may be null
-void setUp(QWidget* window, QWidget* strip, QWidget* toggle);
+void setUp(QWidget* window, Kind kind, QWidget* strip, QWidget* toggle);
 
 } // namespace ui::frame

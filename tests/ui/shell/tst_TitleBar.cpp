@@ -5,6 +5,7 @@
 #include "ui/shell/CaptionButton.h"
 #include "ui/shell/ResizeBorder.h"
 #include "ui/shell/TitleBar.h"
+#include "ui/shell/frame.h"
 
 #include <QLabel>
 #include <QSignalSpy>
@@ -32,6 +33,7 @@ class TestTitleBar : public QObject {
   void shapes_data();
   void shapes();
   void shapesAreCrisp();
+  void frameGoesWithWhatWasBuilt();
   void gripsCoverTheEdge();
   void gripsLeaveTheContent();
   void gripCursors();
@@ -173,6 +175,19 @@ void TestTitleBar::shapesAreCrisp() {
     QCOMPARE(alphas.size(), 1);
     QVERIFY(alphas[0] > 250);
   }
+}
+
+// Also where the window manager, which was only starting, can do more by now.
+void TestTitleBar::frameGoesWithWhatWasBuilt() {
+  QCOMPARE(frame::kind(), frame::Kind::Drawn);
+  QWidget framed;
+  frame::setUp(&framed, frame::Kind::System, nullptr, nullptr);
+  QVERIFY(!framed.windowFlags().testFlag(Qt::FramelessWindowHint));
+  QVERIFY(!framed.findChild<ResizeBorder*>());
+  QWidget bare;
+  frame::setUp(&bare, frame::Kind::Drawn, nullptr, nullptr);
+  QVERIFY(bare.windowFlags().testFlag(Qt::FramelessWindowHint));
+  QVERIFY(bare.findChild<ResizeBorder*>());
 }
 
 void TestTitleBar::gripsCoverTheEdge() {

@@ -20,7 +20,7 @@ constexpr QRect kSystemButtons(16, 14, 64, 14); // px, in the window
 
 Kind kind() { return Kind::SystemButtons; }
 
-void setUp(QWidget* window, QWidget* strip, QWidget* toggle) {
+void setUp(QWidget* window, Kind /*kind*/, QWidget* strip, QWidget* toggle) {
   auto* agent = new QWK::WidgetWindowAgent(window);
   agent->setup(window);
   if (strip) agent->setTitleBar(strip); // clears what is hit-test visible, so it comes first
@@ -32,7 +32,7 @@ void setUp(QWidget* window, QWidget* strip, QWidget* toggle) {
 
 Kind kind() { return Kind::System; }
 
-void setUp(QWidget* /*window*/, QWidget* /*strip*/, QWidget* /*toggle*/) {}
+void setUp(QWidget* /*window*/, Kind /*kind*/, QWidget* /*strip*/, QWidget* /*toggle*/) {}
 
 #endif
 
