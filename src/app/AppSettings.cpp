@@ -216,9 +216,19 @@ void AppSettings::store(const QString& name, const QVariant& value) {
     m_held.insert(name, value);
     return;
   }
+  if (name == QLatin1String(kExclusions)) forgetAllBut(value.toStringList());
   m_store.setValue(name, value);
   m_store.sync();
   remember();
+}
+
+// What is taken out is forgotten before it goes from the store, and what is added is remembered after it came: so a
+// power cut in between, or another process that looks then, finds nothing lost.
+void AppSettings::forgetAllBut(const QStringList& rules) {
+  if (!m_memory || !m_memory->rules) return;
+  settingsfile::Memory fewer = *m_memory;
+  fewer.rules->removeIf([&](const QString& rule) { return !rules.contains(rule); });
+  if (fewer != *m_memory) write(fewer);
 }
 
 /// Somebody has mended the store: what was set meanwhile goes into it, but for the rules, which weren't all there.

@@ -114,6 +114,7 @@ class AppSettings : public QObject {
   [[nodiscard]] std::optional<QVariant> stored(const char* key) const;
   void store(const QString& name, const QVariant& value);
   void storeHeld();
+  void forgetAllBut(const QStringList& rules);
   void remember();
   bool write(const settingsfile::Memory& memory);
   [[nodiscard]] QVariantMap ownValues() const;

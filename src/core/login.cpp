@@ -28,6 +28,17 @@ bool canBeNamed(const QString& program) {
          std::none_of(program.cbegin(), program.cend(), [](QChar c) { return c.category() == QChar::Other_Control; });
 }
 
+/// A word of an Exec key. Quoted first, then escaped as every text of such a file is: so a backslash becomes four.
+QByteArray execWord(const QByteArray& word) {
+  QByteArray quoted;
+  for (const char c : word) {
+    if (kQuotedSpecials.contains(c)) quoted += '\\';
+    if (c == '%') quoted += '%';
+    quoted += c;
+  }
+  return '"' + quoted.replace("\\", "\\\\") + '"';
+}
+
 QByteArray execLine(const QString& program) {
   const std::optional<QByteArray> value = execValue(program);
   return value ? kExec + *value : QByteArray();
@@ -70,16 +81,13 @@ Outcome remove() {
 
 bool isOwn(const QByteArray& entry) { return entry.contains(kMark); }
 
-// Quoted first, then escaped as every text of such a file is: so a backslash of the path becomes four.
+// No program's name may hold a "=", and desktops look for the file before they undo "%%": both are passed on by a
+// shell.
 std::optional<QByteArray> execValue(const QString& program) {
-  if (!canBeNamed(program) || program.contains(u'=')) return std::nullopt;
-  QByteArray quoted;
-  for (const char c : program.toUtf8()) {
-    if (kQuotedSpecials.contains(c)) quoted += '\\';
-    if (c == '%') quoted += '%';
-    quoted += c;
-  }
-  return '"' + quoted.replace("\\", "\\\\") + "\" " + kBackground;
+  if (!canBeNamed(program)) return std::nullopt;
+  const bool isPassedOn = program.contains(u'=') || program.contains(u'%');
+  const QByteArray shell = isPassedOn ? "/bin/sh -c " + execWord(R"(exec "$0" "$@")") + ' ' : QByteArray();
+  return shell + execWord(program.toUtf8()) + ' ' + kBackground;
 }
 
 QByteArray desktopEntry(const QString& program) {

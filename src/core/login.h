@@ -39,8 +39,8 @@ enum class Outcome {
 [[nodiscard]] QByteArray desktopEntry(const QString& program);
 /// The same with the lines of @p entry, where only what is started differs.
 [[nodiscard]] QByteArray desktopEntry(const QByteArray& entry, const QString& program);
-/// The value of its Exec key. None where the rules have no way to write it: no absolute path, a "=" or a control
-/// character in it, no Unicode.
+/// The value of its Exec key. None where the rules have no way to write it: no absolute path, a control character in
+/// it, no Unicode.
 [[nodiscard]] std::optional<QByteArray> execValue(const QString& program);
 /// A launch agent's property list.
 [[nodiscard]] QByteArray launchAgent(const QString& program);

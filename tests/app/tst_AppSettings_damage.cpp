@@ -1,6 +1,7 @@
 // A store that is damaged, or has lost what it held: it is told, nothing is written over it, and no rule gets lost.
 #include "app/AppSettings.h"
 #include "app/identity.h"
+#include "core/UniqueFd.h"
 #include "support/FixtureHome.h"
 #include "support/child.h"
 #include "support/settings.h"
@@ -10,6 +11,8 @@
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <sys/inotify.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -55,6 +58,7 @@ class tst_AppSettings_damage : public QObject {
   void damagedMemory();
   void memoryOfAnEmptyList();
   void tellsWhenItChanges();
+  void neverInDoubtInBetween();
   void fileForAllUsersIsDamaged();
   void anotherStart();
 
@@ -439,6 +443,32 @@ void tst_AppSettings_damage::tellsWhenItChanges() {
   write(whole);
   settings().look();
   QCOMPARE(changed.count(), 3);
+}
+
+// The order of the two files: a rule is forgotten before it goes, and remembered after it came.
+void tst_AppSettings_damage::neverInDoubtInBetween() {
+  const QByteArray folder = QFile::encodeName(QFileInfo(path()).path());
+  const UniqueFd watch(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
+  QVERIFY(::inotify_add_watch(watch.get(), folder.constData(), IN_MOVED_TO) >= 0);
+  const auto arrived = [&watch] {
+    alignas(inotify_event) char buffer[4096];
+    QStringList names;
+    const ssize_t got = ::read(watch.get(), buffer, sizeof buffer);
+    for (const char* at = buffer; at < buffer + got;) {
+      const auto* event = reinterpret_cast<const inotify_event*>(at);
+      names << QString::fromUtf8(event->name);
+      at += sizeof(inotify_event) + event->len;
+    }
+    return names;
+  };
+  const QString store = QFileInfo(path()).fileName();
+  const QString memory = QFileInfo(settings().memoryPath()).fileName();
+  settings().setExclusions(kRules.first(2));
+  QCOMPARE(arrived(), (QStringList{memory, store}));
+  settings().setExclusions(kRules);
+  QCOMPARE(arrived(), (QStringList{store, memory}));
+  settings().setExclusions({kRules.first(), u"other"_s});
+  QCOMPARE(arrived(), (QStringList{memory, store, memory}));
 }
 
 // The user's own rules stand before those for all users.

@@ -6,6 +6,8 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTest>
 #include <QXmlStreamReader>
 
@@ -65,6 +67,8 @@ class tst_login : public QObject {
   void execNamesTheProgram();
   void whatNoEntryCanName_data();
   void whatNoEntryCanName();
+  void desktopStartsIt_data();
+  void desktopStartsIt();
   void bringsAnEntryUpToDate();
   void launchAgent();
   void placeFollowsTheEnvironment();
@@ -132,7 +136,8 @@ void tst_login::execNamesTheProgram_data() {
   row(u"/a`b"_s, R"("/a\\`b")");
   row(u"/a$HOME"_s, R"("/a\\$HOME")");
   row(u"/a\\b"_s, R"("/a\\\\b")");
-  row(u"/100%/%f %u"_s, "\"/100%%/%%f %%u\"");
+  row(u"/100%/%f %u"_s, R"(/bin/sh -c "exec \\"\\$0\\" \\"\\$@\\"" "/100%%/%%f %%u")");
+  row(u"/a=b/tarnwick"_s, R"(/bin/sh -c "exec \\"\\$0\\" \\"\\$@\\"" "/a=b/tarnwick")");
   row(u"/Prüfung/清理"_s, "\"/Prüfung/清理\"");
 }
 
@@ -142,18 +147,19 @@ void tst_login::execNamesTheProgram() {
   const auto made = login::execValue(program);
   QVERIFY(made);
   QCOMPARE(*made, value);
-  QCOMPARE(wordsOf(*made), (QStringList{program, u"--background"_s}));
+  QStringList words = wordsOf(*made);
+  if (words.first() == u"/bin/sh"_s) {
+    QCOMPARE(words.mid(1, 2), (QStringList{u"-c"_s, u"exec \"$0\" \"$@\""_s}));
+    words = words.mid(3);
+  }
+  QCOMPARE(words, (QStringList{program, u"--background"_s}));
 }
 
 void tst_login::whatNoEntryCanName_data() {
   QTest::addColumn<QString>("program");
-  QTest::addColumn<bool>("agent"); // whether a launch agent can
-  const auto row = [](const char* name, const QString& program, bool agent = false) {
-    QTest::newRow(name) << program << agent;
-  };
+  const auto row = [](const char* name, const QString& program) { QTest::newRow(name) << program; };
   row("nothing", {});
   row("relative", u"tarnwick"_s);
-  row("an equal sign", u"/a=b/tarnwick"_s, true);
   row("a line break", u"/a\nb"_s);
   row("a tab", u"/a\tb"_s);
   row("an escape", u"/a\x1b"
@@ -164,14 +170,41 @@ void tst_login::whatNoEntryCanName_data() {
 
 void tst_login::whatNoEntryCanName() {
   QFETCH(QString, program);
-  QFETCH(bool, agent);
   QVERIFY(!login::execValue(program));
   QCOMPARE(login::desktopEntry(program), QByteArray());
   QCOMPARE(login::desktopEntry(login::desktopEntry(kProgram), program), QByteArray());
-  QCOMPARE(!login::launchAgent(program).isEmpty(), agent);
+  QCOMPARE(login::launchAgent(program), QByteArray());
   QCOMPARE(login::add(program), Outcome::Failed);
   QCOMPARE(login::keep(program), Outcome::Failed);
   QVERIFY(!QFileInfo::exists(QFileInfo(login::path()).path()));
+}
+
+void tst_login::desktopStartsIt_data() {
+  QTest::addColumn<QString>("folder");
+  for (const char* folder : {"plain", "with spaces", "100%", "a=b", "q\"u'o`t\\e$HOME", "(*?#;&|<>~)", "Prüfung 清理"})
+    QTest::newRow(folder) << QString::fromUtf8(folder);
+}
+
+// By one of the launchers that desktops use, where it is installed.
+void tst_login::desktopStartsIt() {
+  QFETCH(QString, folder);
+  const QString launcher = QStandardPaths::findExecutable(u"gio"_s);
+  if (launcher.isEmpty()) QSKIP("needs gio");
+  const QString program = m_home->file(folder + u"/tarnwick"_s, 0);
+  const QString told = m_home->path(u"told"_s);
+  QFile script(program);
+  QVERIFY(script.open(QIODevice::WriteOnly));
+  script.write("#!/bin/sh\nprintf '%s|' \"$0\" \"$@\" >" + told.toUtf8() + ".part\nmv " + told.toUtf8() + ".part " +
+               told.toUtf8() + "\n");
+  script.close();
+  QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+  QCOMPARE(login::add(program), Outcome::Done);
+  QProcess launch;
+  launch.start(launcher, {u"launch"_s, login::path()});
+  QVERIFY(launch.waitForFinished());
+  if (launch.readAllStandardError().contains("Unknown command")) QSKIP("needs a newer gio");
+  QTRY_VERIFY(QFile::exists(told));
+  QCOMPARE(QString::fromUtf8(bytes(told)), program + u"|--background|"_s);
 }
 
 void tst_login::bringsAnEntryUpToDate() {

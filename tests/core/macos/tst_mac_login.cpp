@@ -28,7 +28,7 @@ class tst_mac_login : public QObject {
 void tst_mac_login::writtenKeptAndRemoved() {
   const QString program = u"/Applications/Tarnwick.app/Contents/MacOS/tarnwick"_s;
   QCOMPARE(login::path(), m_home.path(u"Library/LaunchAgents/tarnwick.login.plist"_s));
-  QCOMPARE(login::add(u"/old=place/tarnwick"_s), Outcome::Done); // here an equal sign is no riddle
+  QCOMPARE(login::add(u"/old=place/tarnwick"_s), Outcome::Done);
   QCOMPARE(agent(), login::launchAgent(u"/old=place/tarnwick"_s));
   QCOMPARE(login::keep(program), Outcome::Done);
   QCOMPARE(agent(), login::launchAgent(program));
