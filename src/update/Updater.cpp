@@ -19,7 +19,8 @@ namespace {
 constexpr QLatin1String kVersion(TARNWICK_VERSION);
 constexpr int kHttpOk = 200;
 constexpr int kMostRedirects = 20;
-constexpr qsizetype kMostWords = 300; // characters that a dialog can show
+constexpr qsizetype kMostWords = 300;            // characters that a dialog can show
+constexpr qint64 kMostWaiting = qint64{1} << 20; // bytes that the network may be ahead of us; more than a feed has
 
 /// By the system that the program was built for, not by the one whose words it shows.
 QString platformKey() { return platform::builtFor() == platform::Host::Mac ? u"mac"_s : u"linux"_s; }
@@ -93,8 +94,10 @@ QNetworkReply* Updater::get(const QUrl& url, std::chrono::milliseconds timeout) 
   request.setTransferTimeout(static_cast<int>(timeout.count()));
   request.setHeader(QNetworkRequest::UserAgentHeader, u"Tarnwick/%1"_s.arg(kVersion));
   request.setRawHeader("Accept-Encoding", "identity");
+  request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false); // it sends on to who doesn't read
   m_failure.clear();
   QNetworkReply* const reply = m_network->get(request);
+  reply->setReadBufferSize(kMostWaiting);
   connect(reply, &QNetworkReply::metaDataChanged, this, &Updater::onHead);
   return reply;
 }

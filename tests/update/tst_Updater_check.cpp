@@ -3,8 +3,11 @@
 #include "core/deployment.h"
 
 #include <QDir>
+#include <QHostAddress>
 #include <QNetworkProxy>
 #include <QSignalSpy>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -12,7 +15,10 @@ using namespace std::chrono_literals;
 
 namespace {
 constexpr qsizetype kMostBytes = 262'144;
-}
+
+/// Of a TLS record, behind its head of five bytes.
+qint64 lengthOfRecord(const QByteArray& head) { return (quint8(head[3]) << 8) + quint8(head[4]); }
+} // namespace
 
 class TestUpdaterCheck : public QObject {
   Q_OBJECT
@@ -86,6 +92,21 @@ class TestUpdaterCheck : public QObject {
     QCOMPARE(request.value("User-Agent"), QByteArray("Tarnwick/" TARNWICK_VERSION));
     QCOMPARE(request.value("Accept-Encoding"), QByteArray("identity"));
     QCOMPARE(m_host->proxy.asked, QStringList{u"CONNECT "_s + ReleaseHost::name() + u":443"_s});
+  }
+
+  /// By what the client says first in its handshake.
+  void noOtherProtocolIsOffered() {
+    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+    QTcpServer server;
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    Updater updater(nullptr, QUrl(u"https://127.0.0.1:%1/feed.json"_s.arg(server.serverPort())));
+    updater.check();
+    QTRY_VERIFY(server.hasPendingConnections());
+    QTcpSocket* const socket = server.nextPendingConnection();
+    QTRY_VERIFY(socket->bytesAvailable() > 5 && socket->bytesAvailable() >= 5 + lengthOfRecord(socket->peek(5)));
+    const QByteArray hello = socket->readAll();
+    QVERIFY(hello.startsWith('\x16')); // a handshake
+    QVERIFY(!hello.contains("\x02h2\x08http/1.1"));
   }
 
   void whatTheFeedSaysDecides_data() {

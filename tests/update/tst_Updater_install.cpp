@@ -89,6 +89,22 @@ class TestUpdaterInstall : public QObject {
     QCOMPARE(m_host->launched.size(), 1);
   }
 
+  void muchMoreThanMayWaitComesWhole_data() {
+    QTest::addColumn<bool>("inChunks");
+    QTest::newRow("with its length told") << false;
+    QTest::newRow("in chunks") << true;
+  }
+  void muchMoreThanMayWaitComesWhole() {
+    QFETCH(bool, inChunks);
+    const QByteArray large = ReleaseHost::package().repeated(9) + "tail";
+    const auto updater = m_host->updaterWithRelease(u"/a.pkg"_s, inChunks ? Answer::chunked(large) : Answer::ok(large));
+    updater->release.sha256 = QString::fromLatin1(ReleaseHost::sha256(large));
+    updater->install();
+    QVERIFY(ReleaseHost::hasEnded(*updater));
+    QCOMPARE(updater->error, QString());
+    QCOMPARE(updater->state, Updater::Installing);
+  }
+
   void redirectsWithinTheDomainAreFollowed() {
     m_host->server.answers.insert("/second",
                                   Answer::redirect(ReleaseHost::address(u"/third"_s, ReleaseHost::domain()).toUtf8()));

@@ -6,8 +6,13 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QHash>
+#include <QHostAddress>
 #include <QNetworkProxy>
+#include <QSemaphore>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTest>
+#include <QThread>
 
 #include <unistd.h>
 
@@ -81,20 +86,85 @@ class TestUpdaterLarge : public QObject {
     QVERIFY(m_launched.isEmpty());
   }
 
+  /// While the window is busy, nothing piles up in memory: the server has to wait.
+  void whoIsNotReadMustWait_data() {
+    QTest::addColumn<bool>("isFeed");
+    QTest::newRow("a feed") << true;
+    QTest::newRow("a download") << false;
+  }
+  void whoIsNotReadMustWait() {
+    QFETCH(bool, isFeed);
+    const Talker talker;
+    const QUrl url(u"http://127.0.0.1:%1/"_s.arg(talker.port));
+    const auto updater = prepared(0, Answer::End::Hang, url);
+    isFeed ? updater->check() : updater->install();
+    QTRY_VERIFY(talker.isAsked.available() > 0);
+    // Without a limit this much is through long before.
+    QVERIFY(!talker.hasSentMuch.tryAcquire(1, std::chrono::milliseconds(1s)));
+    if (!isFeed) updater->cancel();
+    QVERIFY(ReleaseHost::hasEnded(*updater));
+    QCOMPARE(updater->state, isFeed ? Updater::Failed : Updater::Available);
+  }
+
  private:
+  /// Answers one request from a thread of its own, without an end, and tells when it has got rid of 64 MB.
+  struct Talker {
+    Talker() {
+      QSemaphore listens;
+      m_thread.reset(QThread::create([this, &listens] {
+        QTcpServer server;
+        if (!server.listen(QHostAddress::LocalHost)) qFatal("no port on the loopback");
+        port = server.serverPort();
+        listens.release();
+        if (!server.waitForNewConnection(kPatienceMs)) return;
+        const std::unique_ptr<QTcpSocket> socket(server.nextPendingConnection());
+        socket->waitForReadyRead(kPatienceMs);
+        isAsked.release();
+        talk(socket.get());
+      }));
+      m_thread->start();
+      listens.acquire();
+    }
+    ~Talker() { m_thread->wait(); }
+
+    quint16 port = 0;
+    mutable QSemaphore isAsked;
+    mutable QSemaphore hasSentMuch;
+
+   private:
+    static constexpr int kPatienceMs = 30'000;
+    static constexpr qint64 kMuch = 64 * kBlock;
+
+    void talk(QTcpSocket* socket) const {
+      const QByteArray block(kBlock, ' ');
+      socket->write("HTTP/1.1 200 OK\r\n\r\n");
+      for (qint64 sent = 0; socket->state() == QAbstractSocket::ConnectedState; sent += kBlock) {
+        if (sent == kMuch) hasSentMuch.release();
+        socket->write(block);
+        while (socket->bytesToWrite() > 0 && socket->waitForBytesWritten(kPatienceMs)) continue;
+      }
+    }
+
+    std::unique_ptr<QThread> m_thread;
+  };
+
   std::unique_ptr<Updater> prepared(qint64 blocks, Answer::End end) {
+    return prepared(blocks, end, QUrl(u"http://127.0.0.1:%1/zeros.pkg"_s.arg(m_server.serverPort())));
+  }
+
+  std::unique_ptr<Updater> prepared(qint64 blocks, Answer::End end, const QUrl& url) {
     m_launched.clear();
     m_server.answers.insert(
         "/zeros.pkg",
         Answer{.head = "HTTP/1.1 200 OK\r\n\r\n", .body = QByteArray(kBlock, '\0'), .repeats = blocks, .end = end});
-    auto made = std::make_unique<Updater>(nullptr, QUrl());
+    auto made = std::make_unique<Updater>(nullptr, url);
     made->allowedDomain.clear();
     made->downloadDir = m_home.temp(u"large"_s);
     made->launcher = [this](const QString& path) {
       m_launched = path;
       return QString();
     };
-    made->release.url = QUrl(u"http://127.0.0.1:%1/zeros.pkg"_s.arg(m_server.serverPort()));
+    made->release.url = url;
     made->release.sha256 = QString(64, u'0');
     made->setState(Updater::Available);
     return made;
