@@ -97,18 +97,19 @@ void Overlay::tellReaders(QAccessible::Event what) {
 void Overlay::place() {
   panel->resize(panel->sizeHint().expandedTo(panel->minimumSize()));
   const int x = (width() - panel->width()) / 2;
-  panel->move(x, Theme::get().mac ? 0 : (height() - panel->height()) / 2);
+  const QPoint place(x, Theme::get().mac ? 0 : (height() - panel->height()) / 2);
+  m_slide ? m_slide->setEndValue(place) : panel->move(place);
 }
 
 void Overlay::slideIn() {
   if (desktop::reducedMotion()) return;
-  auto* slide = new QPropertyAnimation(panel, "pos", this);
+  m_slide = new QPropertyAnimation(panel, "pos", this);
   const QPoint end = panel->pos();
-  slide->setStartValue(QPoint(end.x(), Theme::get().mac ? -panel->height() : end.y() + kRise));
-  slide->setEndValue(end);
-  slide->setDuration(kSlideMs);
-  slide->setEasingCurve(QEasingCurve::OutCubic);
-  slide->start(QAbstractAnimation::DeleteWhenStopped);
+  m_slide->setStartValue(QPoint(end.x(), Theme::get().mac ? -panel->height() : end.y() + kRise));
+  m_slide->setEndValue(end);
+  m_slide->setDuration(kSlideMs);
+  m_slide->setEasingCurve(QEasingCurve::OutCubic);
+  m_slide->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
 bool Overlay::eventFilter(QObject* watched, QEvent* event) {

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QWidget>
 
+class QPropertyAnimation;
 class QPushButton;
 
 namespace ui {
@@ -22,7 +23,7 @@ class Overlay : public QWidget, public AccessibleDialog {
 
   /// Covers the parent, and lets the card slide to its place.
   void open();
-  /// Gives the card its size and its place.
+  /// Gives the card its size and its place, or the place where it slides to.
   void place();
 
   QWidget* const panel; ///< the card; a dialog puts its layout on it
@@ -41,7 +42,8 @@ class Overlay : public QWidget, public AccessibleDialog {
   void tellReaders(QAccessible::Event what);
   [[nodiscard]] QPushButton* buttonForEnter() const;
 
-  QPointer<QWidget> m_before; ///< had the focus when it opened
+  QPointer<QWidget> m_before;           ///< had the focus when it opened
+  QPointer<QPropertyAnimation> m_slide; ///< while the card is on its way
 };
 
 } // namespace ui

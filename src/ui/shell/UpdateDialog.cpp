@@ -49,6 +49,13 @@ constexpr QMargins kFooterWin(24, 16, 24, 16);
 
 constexpr int kSteps = 1000; // of the progress
 
+// What a feed may say has no limit but its own length; a dialog shows no more than somebody would read.
+constexpr qsizetype kMostChanges = 100;
+constexpr qsizetype kMostOfChange = 500; // characters
+constexpr qsizetype kMostOfFact = 100;   // characters of the date, and of the size
+
+QString shortened(const QString& text, qsizetype most) { return text.size() <= most ? text : text.left(most) + u'…'; }
+
 /// A label that may wrap and never takes its text for markup: what it shows comes from outside.
 QLabel* plainLabel(const char* role = nullptr) {
   QLabel* made = label({}, role);
@@ -66,8 +73,9 @@ Head availableHead(const Updater& updater) {
   const UpdateRelease& release = updater.release;
   QString subtitle =
       words::Overlay::tr("Version %1 is available. You have %2.").arg(release.version, updater.currentVersion);
-  QStringList facts{release.date, release.size};
-  facts.removeAll(QString());
+  QStringList facts;
+  for (const QString& fact : {release.date.simplified(), release.size.simplified()}) // on one line
+    if (!fact.isEmpty()) facts << shortened(fact, kMostOfFact);
   if (!facts.isEmpty()) subtitle += u'\n' + facts.join(u" · ");
   return {words::Overlay::tr("An update is available"), subtitle};
 }
@@ -80,7 +88,7 @@ Head downloadingHead(const Updater& updater) {
 }
 
 QString installingText() {
-  return platform::builtFor() == platform::Host::Mac
+  return platform::host() == platform::Host::Mac
              ? words::Overlay::tr("Drag Tarnwick to Applications in the window that opens to replace this version.")
              : words::Overlay::tr("Your file manager opens the folder with the downloaded package. Install it the way "
                                   "you install packages.");
@@ -110,7 +118,7 @@ QLayout* changeRow(const QString& change) {
   QHBoxLayout* row = hbox(kChangeGap);
   row->addWidget(new IconView(u"check"_s, Tone::Ok, kTick), 0, Qt::AlignTop);
   QLabel* text = plainLabel();
-  text->setText(change);
+  text->setText(shortened(change, kMostOfChange));
   row->addWidget(text, 1);
   return row;
 }
@@ -229,7 +237,7 @@ void UpdateDialog::refreshHead() {
 
 void UpdateDialog::refreshChanges() {
   clearLayout(m_changeRows);
-  const QStringList& changes = m_updater->release.changes;
+  const QStringList changes = m_updater->release.changes.mid(0, kMostChanges);
   const bool any = m_updater->state == Updater::Available && !changes.isEmpty();
   if (any) {
     m_changeRows->addWidget(eyebrow(words::Overlay::tr("What's new")));

@@ -2,7 +2,6 @@
 #include "ui/shell/UpdateDialog.h"
 
 #include "core/fmt.h"
-#include "core/platform.h"
 #include "support/ReleaseHost.h"
 #include "support/pixels.h"
 #include "support/uitest.h"
@@ -14,6 +13,7 @@
 
 #include <QLabel>
 #include <QProgressBar>
+#include <QPropertyAnimation>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -72,12 +72,16 @@ class TestUpdateDialog : public QObject {
   void orderAndWidth();
   void dateAndSize_data();
   void dateAndSize();
-  void installingWordsFollowTheBuild();
+  void installingWordsFollowTheHost_data();
+  void installingWordsFollowTheHost();
   void progressCounts();
   void errorsOnlyWhereTheyTell();
   void changesAreListed();
   void markupIsShownRaw();
   void aLongListLeavesTheButtons();
+  void endlessTextsLeaveTheButtons();
+  void anEndlessListIsCut();
+  void itSlidesToTheMiddle();
   void lookFollows();
 
   void fromCheckToInstall();
@@ -206,13 +210,19 @@ void TestUpdateDialog::dateAndSize() {
   QCOMPARE(subtitle->textFormat(), Qt::PlainText);
 }
 
-void TestUpdateDialog::installingWordsFollowTheBuild() {
+void TestUpdateDialog::installingWordsFollowTheHost_data() {
+  QTest::addColumn<QString>("words");
+  QTest::newRow("mac") << u"Drag Tarnwick to Applications in the window that opens to replace this version."_s;
+  QTest::newRow("linux") << u"Your file manager opens the folder with the downloaded package. Install it the way you "
+                            "install packages."_s;
+}
+
+void TestUpdateDialog::installingWordsFollowTheHost() {
+  QFETCH(QString, words);
+  qputenv("TARNWICK_HOST", QTest::currentDataTag());
   const QString text = labelOf(*openStill(Updater::Installing), "sub")->text();
-  if (platform::builtFor() == platform::Host::Mac)
-    QCOMPARE(text, u"Drag Tarnwick to Applications in the window that opens to replace this version."_s);
-  else
-    QCOMPARE(text, u"Your file manager opens the folder with the downloaded package. Install it the way you install "
-                   "packages."_s);
+  qunsetenv("TARNWICK_HOST");
+  QCOMPARE(text, words);
 }
 
 void TestUpdateDialog::progressCounts() {
@@ -287,6 +297,41 @@ void TestUpdateDialog::aLongListLeavesTheButtons() {
   QTRY_VERIFY(area->verticalScrollBar()->maximum() > 0);
   QTest::keyClick(area, Qt::Key_Down);
   QVERIFY(area->verticalScrollBar()->value() > 0);
+}
+
+void TestUpdateDialog::endlessTextsLeaveTheButtons() {
+  m_still.release = release(u"2026\n"_s.repeated(9000), u"M"_s.repeated(90'000));
+  m_still.release.changes = {u"word "_s.repeated(50'000)};
+  const UpdateDialog* dialog = openStill(Updater::Available);
+  const QStringList lines = labelOf(*dialog, "sub")->text().split(u'\n');
+  QCOMPARE(lines.size(), 2);
+  QVERIFY(lines.last().startsWith(u"2026 2026 "_s) && lines.last().endsWith(u"MMM…"_s));
+  QVERIFY(lines.last().size() < 250);
+  QVERIFY(dialog->findChild<Card*>()->findChildren<QLabel*>().last()->text().endsWith(u"word …"_s));
+  QVERIFY(dialog->panel->height() <= m_area->height());
+  const Button* now = button(*dialog, u"Update now"_s);
+  QTRY_VERIFY(m_area->rect().contains(QRect(now->mapTo(m_area.get(), QPoint()), now->size())));
+}
+
+/// As many as a feed has room for would keep the window busy for minutes.
+void TestUpdateDialog::anEndlessListIsCut() {
+  for (int i = 0; i < 80'000; ++i) m_still.release.changes << QString::number(i);
+  const UpdateDialog* dialog = openStill(Updater::Available);
+  const QList<QLabel*> labels = dialog->findChild<Card*>()->findChildren<QLabel*>();
+  QCOMPARE(labels.size(), 1 + 100);
+  QCOMPARE(labels.last()->text(), u"99"_s);
+}
+
+/// Its height may change on the way: a check begins right after it was opened.
+void TestUpdateDialog::itSlidesToTheMiddle() {
+  Theme::get().mac = false;
+  const UpdateDialog* dialog = openStill(Updater::Idle);
+  const int before = dialog->panel->height();
+  QSignalSpy arrived(dialog->findChild<QPropertyAnimation*>(), &QAbstractAnimation::finished);
+  m_still.setState(Updater::Checking);
+  QVERIFY(dialog->panel->height() > before + 1);
+  QVERIFY(arrived.wait());
+  QCOMPARE(dialog->panel->y(), (m_area->height() - dialog->panel->height()) / 2);
 }
 
 void TestUpdateDialog::lookFollows() {
