@@ -8,6 +8,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace ui {
 
 Updates::Updates(QWidget* area, const QUrl& feed, QObject* parent)
@@ -22,7 +24,7 @@ Updates::Updates(QWidget* area, const QUrl& feed, QObject* parent)
 
 void Updates::check() {
   m_silent = false;
-  if (!m_area->findChild<UpdateDialog*>(QString(), Qt::FindDirectChildrenOnly)) openDialog();
+  if (!isShowing()) openDialog();
   switch (updater->state) {
   case Updater::Available:
   case Updater::Downloading:
@@ -42,6 +44,12 @@ void Updates::onStateChanged() {
   if (!m_silent || updater->state == Updater::Checking) return;
   m_silent = false;
   if (updater->state == Updater::Available && disturbsNobody()) openDialog();
+}
+
+// A dialog that was closed lives on for a moment.
+bool Updates::isShowing() const {
+  const QList<UpdateDialog*> dialogs = m_area->findChildren<UpdateDialog*>(QString(), Qt::FindDirectChildrenOnly);
+  return std::ranges::any_of(dialogs, [](const UpdateDialog* one) { return !one->isHidden(); });
 }
 
 bool Updates::disturbsNobody() const {

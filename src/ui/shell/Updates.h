@@ -31,6 +31,7 @@ class Updates : public QObject {
   void checkInSilence();
   void onStateChanged();
   void openDialog();
+  [[nodiscard]] bool isShowing() const;
   [[nodiscard]] bool disturbsNobody() const;
 
   QWidget* m_area;

@@ -30,6 +30,7 @@ class TestUpdates : public QObject {
   void wishShowsEvenAFailure();
   void wishDoesNotCheckWhatIsThere();
   void wishTwiceIsOneDialog();
+  void wishAfterACloseIsAnother();
   void wishEndsTheSilence();
 
  private:
@@ -151,6 +152,15 @@ void TestUpdates::wishTwiceIsOneDialog() {
   m_updates->check();
   m_updates->check();
   QCOMPARE(dialogs().size(), 1);
+}
+
+void TestUpdates::wishAfterACloseIsAnother() {
+  updater()->setState(Updater::Available);
+  m_updates->check();
+  dialogs().first()->close();
+  m_updates->check(); // the first isn't deleted yet
+  QCOMPARE(dialogs().size(), 2);
+  QVERIFY(dialogs().last()->isVisible());
 }
 
 void TestUpdates::wishEndsTheSilence() {
