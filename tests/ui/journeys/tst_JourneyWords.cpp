@@ -154,6 +154,11 @@ void TestJourneyWords::walkTheDialogs() {
   look();
   const QStringList words = allTexts(std::make_unique<ui::CloseDialog>(m_window.get()).get());
   m_met.unite(QSet<QString>(words.begin(), words.end()));
+  m_window->showShortcuts();
+  look();
+  m_window->showAppMenu({});
+  for (const QAction* action : m_window->findChildren<QAction*>()) m_met << action->text() << action->toolTip();
+  QApplication::activePopupWidget()->close();
 }
 
 void TestJourneyWords::noneOfAnotherSystem_data() {
