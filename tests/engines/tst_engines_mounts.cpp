@@ -1,5 +1,6 @@
 // Mounts in what is scanned and cleaned, bind mounts too, and volumes that have no Trash.
 #include "engines/CleanTest.h"
+#include "engines/Disposal.h"
 #include "engines/Mounts.h"
 #include "engines/ScanRun.h"
 #include "engines/Scanner.h"
@@ -35,6 +36,8 @@ class tst_engines_mounts : public CleanTest {
   void cacheMountIsLeftAlone();
   void tempMountIsNotAdmitted();
   void scanStaysOnTheDevice();
+  void singleThingsLeaveMountsAlone_data();
+  void singleThingsLeaveMountsAlone();
 };
 
 void tst_engines_mounts::mountBelowStays_data() {
@@ -157,6 +160,27 @@ void tst_engines_mounts::scanStaysOnTheDevice() {
   ScanRun scan;
   scan.run(&scanner, {}, {u"appcache"_s});
   QCOMPARE(scan.category(u"appcache"_s).bytes, 8192);
+}
+
+void tst_engines_mounts::singleThingsLeaveMountsAlone_data() {
+  QTest::addColumn<bool>("isBind");
+  QTest::newRow("memory") << false;
+  QTest::newRow("bind") << true;
+}
+
+void tst_engines_mounts::singleThingsLeaveMountsAlone() {
+  QFETCH(bool, isBind);
+  m_bench->home.file(u"outside/precious"_s);
+  m_bench->home.file(u"films/old/one"_s);
+  const QString point = m_bench->home.folder(u"films/old/point"_s);
+  const mounts::Mount mount(point, isBind ? at(u"outside"_s) : QString());
+  const QString inside = isBind ? point + "/precious"_L1 : m_bench->home.file(point + "/precious"_L1);
+  Disposal disposal({});
+  QCOMPARE(disposal.move(point).result, Disposal::Result::Refused);
+  QCOMPARE(disposal.move(at(u"films/old"_s)).result, Disposal::Result::Refused); // it would take the mount along
+  QCOMPARE(disposal.move(at(u"films"_s)).result, Disposal::Result::Refused);
+  QVERIFY(fs::exists(inside) && fs::exists(at(u"films/old/one"_s)));
+  QCOMPARE(disposal.move(at(u"films/old/one"_s)).result, Disposal::Result::Moved);
 }
 
 QTEST_GUILESS_MAIN(tst_engines_mounts)

@@ -76,6 +76,7 @@ LargeFilesResultsView::LargeFilesResultsView(AppState* state, LargeFilesModel* m
   connect(m_segments, &Segmented::currentChanged, this, &LargeFilesResultsView::applyFilter);
   connect(m_search, &QLineEdit::textChanged, this, &LargeFilesResultsView::applyFilter);
   connect(m_map, &Treemap::toggled, model, &LargeFilesModel::toggle);
+  connect(m_map, &Treemap::opened, this, [](const QString& path) { platform::revealInFileManager(path); });
   connect(model, &LargeFilesModel::selectionChanged, this, &LargeFilesResultsView::refreshFooter);
   connect(m_reveal, &Button::clicked, this, &LargeFilesResultsView::reveal);
   connect(m_move, &Button::clicked, this, &LargeFilesResultsView::moveToTrash);

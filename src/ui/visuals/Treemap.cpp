@@ -197,9 +197,11 @@ void Treemap::keyPressEvent(QKeyEvent* event) {
   case Qt::Key_End:
     return moveCursor(last);
   case Qt::Key_Space:
+    if (!event->isAutoRepeat() && m_cursor <= last) activateItem(m_cursor);
+    return;
   case Qt::Key_Return:
   case Qt::Key_Enter:
-    if (!event->isAutoRepeat() && m_cursor <= last) activateItem(m_cursor);
+    if (!event->isAutoRepeat() && m_cursor <= last) emit opened(QString(m_items[m_cursor].key));
     return;
   default:
     QWidget::keyPressEvent(event);

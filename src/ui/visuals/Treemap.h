@@ -22,9 +22,9 @@ struct TreemapTile;
 /// Shows the 24 largest of its items; what is smaller has no tile. It keeps no selection of its own: a click tells the
 /// key, and setSelected() brings the answer.
 ///
-/// The arrow keys move a ring to the tile beside, Home and End to the largest and the smallest; Space and Enter do what
-/// a click does. What has no size has no tile, and the keyboard passes it by. The tile with the ring tells its texts in
-/// a tool tip if it has no room for them.
+/// The arrow keys move a ring to the tile beside, Home and End to the largest and the smallest; Space does what a
+/// click does, and Enter opens. What has no size has no tile, and the keyboard passes it by. The tile with the ring
+/// tells its texts in a tool tip if it has no room for them.
 class Treemap : public QWidget, public AccessibleItems {
   Q_OBJECT
 
@@ -55,8 +55,10 @@ class Treemap : public QWidget, public AccessibleItems {
   void activateItem(int index) override;
 
  signals:
-  /// The tile with this key was clicked, with any button, or activated by the keyboard.
+  /// The tile with this key was clicked, with any button, or Space was pressed on it.
   void toggled(const QString& key);
+  /// Enter was pressed on the tile with this key.
+  void opened(const QString& key);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

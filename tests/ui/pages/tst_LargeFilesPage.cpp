@@ -110,6 +110,7 @@ class TestLargeFilesPage : public FlowTest {
   void ticksOutliveASearch();
   void shows();
   void showsWhatIsThere();
+  void showsFromTheMap();
   void moves();
   void whatIsHiddenStays();
   void whatIsHeldStays();
@@ -725,6 +726,16 @@ void TestLargeFilesPage::showsWhatIsThere() {
   search()->setText(u"two"_s);
   click(*m_page, u"Show in Files"_s);
   QTRY_COMPARE(desktop.opened, QStringList{u"/two"_s});
+}
+
+void TestLargeFilesPage::showsFromTheMap() {
+  const Desktop desktop;
+  putFound({file(u"a"_s, 300, u"Video"_s, u"/one"_s), file(u"b"_s, 200, u"Video"_s, u"/two"_s)});
+  map()->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(map(), Qt::Key_End);
+  QTest::keyClick(map(), Qt::Key_Return);
+  QTRY_COMPARE(desktop.opened, QStringList{u"/two"_s});
+  QVERIFY(model()->selection().isEmpty());
 }
 
 void TestLargeFilesPage::moves() {
