@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <unistd.h>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -44,12 +46,31 @@ QByteArray execLine(const QString& program) {
   return value ? kExec + *value : QByteArray();
 }
 
+/// Whether the folder is the user's, or what there is on the way to it: XDG_CONFIG_HOME may still be that of somebody
+/// else in a shell that another user has opened.
+bool isOwnFolder(const QString& folder) {
+  QString there = folder;
+  while (!QFileInfo::exists(there)) there = QFileInfo(there).path();
+  return QFileInfo(there).ownerId() == ::geteuid();
+}
+
+QString folderOfEntry() { return QFileInfo(path()).path(); }
+
+/// Whether an image of this kind holds the running program. Every program that is started by one, a terminal say,
+/// inherits its variables.
+bool runsFromImage() {
+  const QString mounted = QFileInfo(qEnvironmentVariable("APPDIR")).canonicalFilePath();
+  const QString own = QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
+  return !mounted.isEmpty() && own.startsWith(mounted + u'/');
+}
+
 enum class Form { First, AsItIs };
 
 Outcome put(const QString& program, Form form) {
   if (!places::homeIsOwn()) return Outcome::Failed;
-  const QString folder = QFileInfo(path()).path();
+  const QString folder = folderOfEntry();
   if (QFileInfo::exists(folder) && !QFileInfo(folder).isDir()) return Outcome::Failed;
+  if (!isOwnFolder(folder)) return Outcome::Failed;
   const ownfile::Content there = ownfile::read(path());
   const bool isNew = there.kind == ownfile::Kind::Nothing;
   if (!isNew && (there.kind == ownfile::Kind::Other || !isOwn(there.bytes))) return Outcome::Taken;
@@ -64,7 +85,7 @@ Outcome put(const QString& program, Form form) {
 QString program() {
   const QString image = qEnvironmentVariable("APPIMAGE");
   const QFileInfo file(image);
-  if (QDir::isAbsolutePath(image) && file.isFile() && file.isExecutable()) return image;
+  if (QDir::isAbsolutePath(image) && file.isFile() && file.isExecutable() && runsFromImage()) return image;
   return QCoreApplication::applicationFilePath();
 }
 
@@ -76,6 +97,7 @@ Outcome remove() {
   if (!places::homeIsOwn()) return Outcome::Failed;
   const ownfile::Content there = ownfile::read(path());
   if (there.kind != ownfile::Kind::File || !isOwn(there.bytes)) return Outcome::Done;
+  if (!isOwnFolder(folderOfEntry())) return Outcome::Failed;
   return ownfile::remove(path()) == 0 ? Outcome::Done : Outcome::Failed;
 }
 

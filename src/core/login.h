@@ -15,7 +15,8 @@ namespace login {
 enum class Outcome {
   Done,
   Taken,  ///< something that the program didn't write stands in the entry's place; it was left as it is
-  Failed, ///< the entry couldn't be written or removed, or @p program can't be named in one; nothing was changed
+  Failed, ///< the entry couldn't be written or removed, its folder isn't the user's, or @p program can't be named in
+          ///< one; nothing was changed
 };
 
 /// Puts an entry for @p program in place, or brings the one that is there to its first form.

@@ -12,6 +12,7 @@
 #include <QXmlStreamReader>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using login::Outcome;
@@ -82,6 +83,7 @@ class tst_login : public QObject {
   void linkedFolderIsTheUsers();
   void failsWhereNothingCanBeWritten();
   void leavesTheHomeOfAnotherUser();
+  void leavesTheFolderOfAnotherUser();
   void programIsTheImage();
 
  private:
@@ -105,7 +107,7 @@ void tst_login::init() {
 }
 
 void tst_login::cleanup() {
-  for (const char* name : {"XDG_CONFIG_HOME", "APPIMAGE"}) qunsetenv(name);
+  for (const char* name : {"XDG_CONFIG_HOME", "APPIMAGE", "APPDIR"}) qunsetenv(name);
 }
 
 void tst_login::textOfTheDesktopEntry() {
@@ -343,12 +345,34 @@ void tst_login::leavesTheHomeOfAnotherUser() {
   qputenv("HOME", QFile::encodeName(m_home->path()));
 }
 
+// A shell of another user that kept the variable.
+void tst_login::leavesTheFolderOfAnotherUser() {
+  if (::geteuid() != 0) QSKIP("only root can give a folder away");
+  const QString foreign = m_home->folder(u"foreign"_s);
+  qputenv("XDG_CONFIG_HOME", QFile::encodeName(foreign));
+  QCOMPARE(login::add(kProgram), Outcome::Done);
+  QCOMPARE(::chown(QFile::encodeName(foreign + u"/autostart"_s).constData(), 65534, 65534), 0);
+  QCOMPARE(login::remove(), Outcome::Failed);
+  QCOMPARE(login::keep(u"/elsewhere/tarnwick"_s), Outcome::Failed);
+  QCOMPARE(bytes(login::path()), login::desktopEntry(kProgram));
+  QVERIFY(QFile::remove(login::path()));
+  QCOMPARE(login::remove(), Outcome::Done); // there is none
+  QVERIFY(QDir().rmdir(foreign + u"/autostart"_s));
+  QCOMPARE(::chown(QFile::encodeName(foreign).constData(), 65534, 65534), 0);
+  QCOMPARE(login::add(kProgram), Outcome::Failed);
+  QVERIFY(!QFileInfo::exists(foreign + u"/autostart"_s));
+}
+
 void tst_login::programIsTheImage() {
   QCOMPARE(login::program(), QCoreApplication::applicationFilePath());
   const QString image = m_home->file(u"Tarnwick.AppImage"_s, 4);
   qputenv("APPIMAGE", QFile::encodeName(image));
   QCOMPARE(login::program(), QCoreApplication::applicationFilePath()); // nothing that can be started
   QVERIFY(QFile::setPermissions(image, QFile::ReadOwner | QFile::ExeOwner));
+  QCOMPARE(login::program(), QCoreApplication::applicationFilePath()); // of a program that has started this one
+  qputenv("APPDIR", QFile::encodeName(m_home->path()));
+  QCOMPARE(login::program(), QCoreApplication::applicationFilePath());
+  qputenv("APPDIR", QFile::encodeName(QCoreApplication::applicationDirPath()));
   QCOMPARE(login::program(), image);
   for (const char* other : {"Tarnwick.AppImage", "/nowhere/Tarnwick.AppImage", "/tmp", ""}) {
     qputenv("APPIMAGE", other);
