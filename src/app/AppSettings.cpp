@@ -231,10 +231,17 @@ void AppSettings::forgetAllBut(const QStringList& rules) {
   if (fewer != *m_memory) write(fewer);
 }
 
-/// Somebody has mended the store: what was set meanwhile goes into it, but for the rules, which weren't all there.
+/// Somebody has mended the store: what was set meanwhile goes into it. Of the rules those that were added, as the list
+/// that they were added to wasn't whole.
 void AppSettings::storeHeld() {
   QVariantMap held = std::exchange(m_held, {});
-  held.remove(QLatin1String(kExclusions));
+  const QString name = QLatin1String(kExclusions);
+  if (const auto added = held.find(name); added != held.end()) {
+    QStringList rules = exclusions();
+    for (const QString& rule : added->toStringList())
+      if (!rules.contains(rule)) rules << rule;
+    held.insert(name, rules);
+  }
   for (auto one = held.cbegin(); one != held.cend(); ++one) store(one.key(), one.value());
 }
 

@@ -352,13 +352,17 @@ void tst_AppSettings_damage::mendedByHand() {
   const QByteArray whole = bytes();
   write("broken");
   settings().setThemeMode(AppSettings::Dark);
-  settings().setExclusions({u"half of them"_s});
+  settings().setExclusions({kRules.first(), u"added"_s});
   write(whole);
   QVERIFY(settings().isReadable());
-  QCOMPARE(settings().exclusions(), kRules); // a list that was made without seeing all of them doesn't replace them
+  // A list that was made without seeing all of them doesn't replace them; a rule that was added to it isn't lost.
+  QCOMPARE(settings().exclusions(), kRules + QStringList{u"added"_s});
   QCOMPARE(settings().themeMode(), AppSettings::Dark);
   QCOMPARE(QSettings().value(u"ui/theme"_s).toInt(), 2);
   QCOMPARE(aside(), QStringList());
+  write(whole); // without the rule that was added, which is remembered like the others
+  QCOMPARE(settings().look(), Store::Lost);
+  QVERIFY(settings().exclusions().contains(u"added"_s));
 }
 
 void tst_AppSettings_damage::rulesAddedByHand() {
