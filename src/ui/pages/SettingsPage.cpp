@@ -280,8 +280,10 @@ QWidget* SettingsPage::programRow() {
 }
 
 void SettingsPage::hideUpdates() {
+  const QString words = SettingsWords::tr("Every cleanup writes a log you can review.");
   m_checkButton->hide();
-  m_programRow->setToolTip(SettingsWords::tr("Every cleanup writes a log you can review."));
+  m_programRow->setToolTip(words);
+  for (Button* one : m_programRow->findChildren<Button*>()) one->setAccessibleDescription(words);
 }
 
 // What a screen shows is to be true, whoever has damaged the store meanwhile.

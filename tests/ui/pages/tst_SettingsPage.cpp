@@ -641,6 +641,7 @@ void TestSettingsPage::updatesCanBeLeftOut() {
   m_page->hideUpdates();
   QVERIFY(!button(u"Check for updates"_s)->isVisible());
   QCOMPARE(tipOf(row(u"Tarnwick 1.0.0"_s)), u"Every cleanup writes a log you can review."_s);
+  QCOMPARE(button(u"Open logs"_s)->accessibleDescription(), u"Every cleanup writes a log you can review."_s);
 }
 
 // ---- a damaged store
