@@ -20,7 +20,7 @@ OpenMenu::OpenMenu(ui::MainWindow* window) : QObject(window), m_window(window) {
 }
 
 void OpenMenu::open() {
-  if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+  while (QWidget* popup = QApplication::activePopupWidget()) popup->close(); // the submenu, then the menu
   m_window->move(kEdgeAt - m_window->width(), 0);
   m_window->findChild<ui::TitleBar*>()->requestMenu();
   auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
