@@ -82,7 +82,9 @@ bool isOffered(const Entry& entry) {
 QList<QKeySequence> keysOf(const Entry& entry) {
   QList<QKeySequence> keys;
   if (entry.standard != kNone) keys = QKeySequence::keyBindings(entry.standard);
-  if (keys.isEmpty() && *entry.keys) keys << QKeySequence(QString::fromLatin1(entry.keys), QKeySequence::PortableText);
+  if (!*entry.keys) return keys;
+  const QKeySequence usual(QString::fromLatin1(entry.keys), QKeySequence::PortableText);
+  if (keys.isEmpty() || keys.removeOne(usual)) keys.prepend(usual);
   return keys;
 }
 

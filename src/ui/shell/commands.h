@@ -59,7 +59,8 @@ struct Entry {
   Id id;
   const char* text = ""; ///< not yet translated
   QKeySequence::StandardKey standard = QKeySequence::UnknownKey;
-  const char* keys = ""; ///< where there is no standard key, or the platform has none for it; may be empty
+  /// Where there is no standard key, or the platform has none for it; where it has several, the one to tell the user.
+  const char* keys = "";
   QAction::MenuRole role = QAction::NoRole;
   UnderDialog underDialog = UnderDialog::Rests;
   Where where = Where::Everywhere;

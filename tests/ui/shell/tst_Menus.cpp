@@ -22,6 +22,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QSet>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -232,7 +233,8 @@ void TestMenus::menuBarAsDesigned() {
     QCOMPARE(action->menuRole(), row.role);
     QList<QKeySequence> keys = QKeySequence::keyBindings(row.standard);
     if (keys.isEmpty() && *row.keys) keys << QKeySequence(QString::fromLatin1(row.keys));
-    QCOMPARE(action->shortcuts(), keys);
+    const QList<QKeySequence> shortcuts = action->shortcuts();
+    QCOMPARE(QSet<QKeySequence>(shortcuts.begin(), shortcuts.end()), QSet<QKeySequence>(keys.begin(), keys.end()));
   }
 }
 
@@ -604,7 +606,8 @@ void TestMenus::shortcutsAreListed() {
   shown.sort();
   wanted.sort();
   QCOMPARE(shown, wanted);
-  QVERIFY(shown.contains(u"Ctrl+Shift+L"_s));
+  for (const char* keys : {"Ctrl+Shift+L", "Ctrl+W", "Ctrl+Shift+Z"}) // of several, the one that everybody knows
+    QVERIFY2(shown.contains(QString::fromLatin1(keys)), keys);
   for (const char* title : {"File", "Edit", "View", "Window", "Help", "Show Sidebar", "Keyboard shortcuts"})
     QVERIFY2(texts.contains(QString::fromLatin1(title)), title);
   QVERIFY(!texts.contains(u"Zoom"_s));
