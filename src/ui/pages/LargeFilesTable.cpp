@@ -76,6 +76,11 @@ QString LargeFilesTable::pathAt(const QModelIndex& index) const {
   return index.isValid() ? m_model->files().at(index.row()).path : QString();
 }
 
+void LargeFilesTable::focusInEvent(QFocusEvent* event) {
+  QTableView::focusInEvent(event);
+  if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) scrollTo(currentIndex());
+}
+
 // By rows: along a row there is nothing to see.
 QModelIndex LargeFilesTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
   const int rows = m_model->rowCount();
@@ -89,6 +94,7 @@ void LargeFilesTable::keyPressEvent(QKeyEvent* event) {
   const QString path = pathAt(currentIndex());
   switch (event->key()) {
   case Qt::Key_Space:
+    scrollTo(currentIndex()); // nothing is ticked unseen
     if (!path.isEmpty() && !event->isAutoRepeat()) m_model->toggle(path);
     return;
   case Qt::Key_Return:

@@ -20,6 +20,7 @@ class LargeFilesTable : public QTableView {
   explicit LargeFilesTable(LargeFilesModel* model, QWidget* parent = nullptr);
 
  protected:
+  void focusInEvent(QFocusEvent* event) override;
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;

@@ -57,6 +57,7 @@ class TestLargeFilesTable : public QObject {
   void keysWithoutRows();
   void clickMovesTheKeyboard();
   void keyboardComesIntoView();
+  void workedRowIsSeen();
   void placeFollowsTheSorting();
   void placeFollowsTheFilter();
   void placeOfWhatIsGone();
@@ -264,6 +265,21 @@ void TestLargeFilesTable::keyboardComesIntoView() {
   QVERIFY(m_table->verticalScrollBar()->maximum() > 0);
   key(Qt::Key_End);
   QCOMPARE(m_table->verticalScrollBar()->value(), m_table->verticalScrollBar()->maximum());
+}
+
+// Wherever the wheel has gone meanwhile.
+void TestLargeFilesTable::workedRowIsSeen() {
+  QScrollBar* bar = m_table->verticalScrollBar();
+  click(0, 1);
+  QVERIFY(ticked(u"c"_s));
+  bar->setValue(bar->maximum());
+  key(Qt::Key_Space);
+  QVERIFY(!ticked(u"c"_s));
+  QCOMPARE(bar->value(), 0);
+  m_before->setFocus();
+  bar->setValue(bar->maximum());
+  m_table->setFocus(Qt::TabFocusReason);
+  QCOMPARE(bar->value(), 0);
 }
 
 void TestLargeFilesTable::placeFollowsTheSorting() {
