@@ -70,6 +70,8 @@ class TestUpdateDialog : public QObject {
   void eachState();
   void orderAndWidth_data();
   void orderAndWidth();
+  void measures_data();
+  void measures();
   void dateAndSize_data();
   void dateAndSize();
   void installingWordsFollowTheHost_data();
@@ -187,6 +189,50 @@ void TestUpdateDialog::orderAndWidth() {
   const Button* other = button(*dialog, u"Later"_s);
   if (!mac) QVERIFY(qAbs(wide->width() - other->width()) <= 1);
   QVERIFY(wide->isDefault());
+}
+
+void TestUpdateDialog::measures_data() {
+  QTest::addColumn<bool>("mac");
+  QTest::addColumn<int>("belowBody"); // with the line between, where there is one
+  QTest::addColumn<int>("bottom");
+  QTest::newRow("mac") << true << 16 << 20;
+  QTest::newRow("win") << false << 20 + 1 + 16 << 16;
+}
+
+void TestUpdateDialog::measures() {
+  QFETCH(bool, mac);
+  QFETCH(int, belowBody);
+  QFETCH(int, bottom);
+  Theme::get().mac = mac;
+  UpdateDialog* dialog = openStill(Updater::Checking);
+  const QWidget* panel = dialog->panel;
+  const auto placeOf = [panel](const QWidget* one) { return QRect(one->mapTo(panel, QPoint()), one->size()); };
+  const QRect title = placeOf(labelOf(*dialog, "h2"));
+  const QRect subtitle = placeOf(labelOf(*dialog, "sub"));
+  const QRect bar = placeOf(dialog->findChild<QProgressBar*>());
+  const QRect close = placeOf(button(*dialog, u"Close"_s));
+  QCOMPARE(dialog->findChildren<QLabel*>().first()->pixmap().deviceIndependentSize(), QSizeF(36, 36));
+  QCOMPARE(title.topLeft(), QPoint(24 + 36 + 12, 24));
+  QCOMPARE(subtitle.top(), title.bottom() + 1 + 2);
+  QCOMPARE(bar.left(), 24);
+  QCOMPARE(bar.width(), panel->width() - 2 * 24);
+  QCOMPARE(bar.top(), std::max(24 + 36, subtitle.bottom() + 1) + 8 + 2 * 6);
+  QCOMPARE(close.top() - bar.bottom() - 1, belowBody);
+  QCOMPARE(panel->width() - close.right() - 1, 24);
+  QCOMPARE(panel->height() - close.bottom() - 1, bottom);
+
+  m_still.release.changes = {u"Finds more"_s};
+  m_still.setState(Updater::Available);
+  const auto* card = dialog->findChild<Card*>();
+  QCOMPARE(placeOf(card).left(), 24);
+  const auto* tick = card->findChild<IconView*>();
+  QCOMPARE(tick->size(), QSize(14, 14));
+  QTRY_COMPARE(tick->mapTo(card, QPoint()).x(), 14);
+  const QLabel* line = card->findChildren<QLabel*>().last();
+  QCOMPARE(line->mapTo(card, QPoint()).x(), 14 + 14 + 8);
+  const QRect later = placeOf(button(*dialog, u"Later"_s));
+  const QRect now = placeOf(button(*dialog, u"Update now"_s));
+  QCOMPARE(std::max(later.left(), now.left()) - std::min(later.right(), now.right()) - 1, 8);
 }
 
 void TestUpdateDialog::dateAndSize_data() {
