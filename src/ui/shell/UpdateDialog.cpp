@@ -259,6 +259,15 @@ void UpdateDialog::fitChanges() {
   m_changeArea->setFocusPolicy(wanted > m_changeArea->height() ? Qt::TabFocus : Qt::NoFocus); // keys scroll it
 }
 
+// The window has another size, and with it the list another room.
+void UpdateDialog::resizeEvent(QResizeEvent* event) {
+  Overlay::resizeEvent(event);
+  if (m_changes->isHidden()) return;
+  fitChanges();
+  panel->adjustSize();
+  place();
+}
+
 // The layouts above learn of it at once, and not by an event that comes after the panel was measured.
 void UpdateDialog::setChangesHeight(int height) {
   m_changeArea->setFixedHeight(height);

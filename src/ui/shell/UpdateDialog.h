@@ -23,6 +23,9 @@ class UpdateDialog : public Overlay {
   /// @param updater  outlives the dialog
   UpdateDialog(Updater* updater, QWidget* parent);
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   void addHead(QVBoxLayout* body);
   void addChanges(QVBoxLayout* body);
