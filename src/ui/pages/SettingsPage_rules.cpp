@@ -47,6 +47,15 @@ Card* quietCard() {
   return card;
 }
 
+/// The rule that covers a folder: its path, but where a rule of that text wouldn't. Blanks at its end would be trimmed,
+/// so there stands the sign for any character; and "/" alone covers nothing below it.
+QString ruleFor(const QString& folder) {
+  QString rule = QDir::toNativeSeparators(folder);
+  if (rule == "/"_L1) return u"/**"_s;
+  for (qsizetype end = rule.size(); end > 0 && rule[end - 1].isSpace(); --end) rule[end - 1] = u'?';
+  return rule;
+}
+
 QString noteText(AppSettings::Store worth) {
   if (worth == AppSettings::Store::Lost)
     return SettingsWords::tr(
@@ -122,7 +131,7 @@ void SettingsPage::addFolder() {
                                                            QDir::homePath(), QFileDialog::ShowDirsOnly);
   if (folder.isEmpty()) return;
   QStringList rules = AppSettings::instance().exclusions();
-  const QString rule = QDir::toNativeSeparators(folder);
+  const QString rule = ruleFor(folder);
   if (rules.contains(rule)) return;
   AppSettings::instance().setExclusions(rules << rule);
   rebuildExclusions();

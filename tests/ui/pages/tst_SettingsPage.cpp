@@ -109,6 +109,8 @@ class TestSettingsPage : public QObject {
   void removesTheDefaultRule();
   void focusStaysAmongTheRules();
   void addsAFolder();
+  void addedFolderIsCovered_data();
+  void addedFolderIsCovered();
   void addsNothingTwice();
   void opensTheLogs();
   void asksForUpdates();
@@ -602,6 +604,27 @@ void TestSettingsPage::addsAFolder() {
   choose({});
   QTest::mouseClick(button(u"Add folder"_s), Qt::LeftButton);
   QCOMPARE(settings().exclusions().size(), 2);
+}
+
+void TestSettingsPage::addedFolderIsCovered_data() {
+  QTest::addColumn<QString>("folder"); // below the home folder; empty is the root of all
+  QTest::newRow("usual") << u"Pictures"_s;
+  QTest::newRow("blank at its end") << u"Pictures  "_s;
+  QTest::newRow("signs of a rule") << u"Pictures [*?] (old)"_s;
+  QTest::newRow("everything") << QString();
+}
+
+void TestSettingsPage::addedFolderIsCovered() {
+  QFETCH(QString, folder);
+  const QString path = folder.isEmpty() ? u"/"_s : m_home->folder(folder);
+  const QString below = folder.isEmpty() ? u"/var/tmp/kept"_s : path + u"/kept"_s;
+  open();
+  choose(path);
+  QTest::mouseClick(button(u"Add folder"_s), Qt::LeftButton);
+  QCOMPARE(settings().exclusions().size(), 2);
+  const QStringList added{settings().exclusions().last()};
+  QVERIFY2(safety::isExcluded(path, added), qPrintable(added.first()));
+  QVERIFY2(safety::isExcluded(below, added), qPrintable(added.first()));
 }
 
 void TestSettingsPage::addsNothingTwice() {
