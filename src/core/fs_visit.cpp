@@ -80,6 +80,7 @@ class FileVisit final : public VisitedFile {
  public:
   FileVisit(const QString& root, dev_t device, const SkipDir& skipDir, const Take& take)
       : m_path(root), m_device(device), m_skipDir(skipDir), m_take(take) {}
+  virtual ~FileVisit() = default;
 
   void visitFolder(TreeWalk* walk) {
     m_path.follow(*walk);
