@@ -7,6 +7,7 @@
 #include <QtConcurrentRun>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -17,6 +18,12 @@ using Performed = std::pair<bool, QString>;
 /// These only hand over to another program.
 bool isLight(SystemDataItem::Action action) {
   return action == SystemDataItem::RevealInFinder || action == SystemDataItem::OpenXcode;
+}
+
+/// A copy, as the list may be another by the time that the action is through.
+std::optional<SystemDataItem> itemOf(const QList<SystemDataItem>& items, const QString& id) {
+  const auto found = std::find_if(items.cbegin(), items.cend(), [&](const auto& one) { return one.id == id; });
+  return found == items.cend() ? std::nullopt : std::optional(*found);
 }
 
 } // namespace
@@ -42,17 +49,15 @@ void AppState::startSystemDataScan() {
 
 void AppState::runSystemDataAction(const QString& id) {
   if (systemDataBusy) return;
-  const auto found =
-      std::find_if(systemData.cbegin(), systemData.cend(), [&](const auto& one) { return one.id == id; });
-  if (found == systemData.cend()) return;
-  const SystemDataItem item = *found;
-  if (item.action == SystemDataItem::MoveToTrash && !AppSettings::instance().isReadable()) {
+  const std::optional<SystemDataItem> item = itemOf(systemData, id);
+  if (!item) return;
+  if (item->action == SystemDataItem::MoveToTrash && !AppSettings::instance().isReadable()) {
     emit toast(tr("The settings can't be read, so the rules on what to keep are unknown. Nothing was moved."), false);
-  } else if (!isLight(item.action)) {
-    performInBackground(item);
+  } else if (!isLight(item->action)) {
+    performInBackground(*item);
   } else {
     bool ok = false;
-    const QString text = systemdata::perform(item, &ok, {}, systemDataScanner->world());
+    const QString text = systemdata::perform(*item, &ok, {}, systemDataScanner->world());
     if (!ok) emit toast(text, false);
   }
 }

@@ -82,7 +82,8 @@ std::optional<Memory> fromBytes(const QByteArray& bytes) {
   if (rules.isUndefined()) return Memory{};
   if (!rules.isArray()) return std::nullopt;
   QStringList list;
-  for (const QJsonValue& rule : rules.toArray()) {
+  const QJsonArray all = rules.toArray();
+  for (const auto& rule : all) {
     if (!rule.isString()) return std::nullopt;
     list << rule.toString();
   }
