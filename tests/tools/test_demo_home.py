@@ -90,6 +90,15 @@ class Contents(unittest.TestCase):
             for rule in ("**/.git", "/var/crash", f"/**/.Trash-{os.getuid()}"):
                 self.assertIn(rule, settings)
 
+    def test_the_space_map_finds_something(self):
+        for home in self.homes.values():
+            settings = (pathlib.Path(home.env["XDG_CONFIG_HOME"]) / "Tarnwick/Tarnwick.conf").read_text()
+            self.assertIn("[large]\nthresholdMB=1\n", settings)
+            top = pathlib.Path(home.env["HOME"])
+            seen = [path for path in top.rglob("*") if not any(part.startswith(".") for part in path.relative_to(top).parts)]
+            large = [path for path in seen if path.is_file() and path.stat().st_blocks * 512 >= 1_000_000]
+            self.assertGreaterEqual(len(large), 8)
+
     def test_the_size_is_bearable(self):
         for files in self.files.values():
             self.assertTrue(100e6 < sum(s.st_blocks * 512 for s in files.values()) < 300e6)
