@@ -113,8 +113,9 @@ class Journey:
         return lines
 
     def own_files(self, report: dict) -> set[bytes]:
-        """What the program itself may make: its log and its settings, with the folders above them."""
+        """What the program itself may make: its log and its settings, what it remembers of the rules, with the folders above them."""
         made = [pathlib.Path(report["logPath"]), pathlib.Path(self.path(".config/Tarnwick/Tarnwick.conf"))]
+        made.append(made[-1].with_name("Tarnwick-rules.json"))  # what it remembers of the rules
         return {os.fsencode(path) for one in made for path in (one, *one.parents)}
 
     # ---- scan
