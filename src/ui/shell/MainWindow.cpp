@@ -183,7 +183,6 @@ void MainWindow::connectPages() {
     m_settingsPage->showExclusions();
   });
   connect(m_settingsPage, &SettingsPage::checkForUpdates, this, &MainWindow::checkForUpdates);
-  if (!deployment::updatesItself()) m_settingsPage->hideUpdates();
 }
 
 void MainWindow::connectState() {

@@ -125,9 +125,10 @@ QLayout* changeRow(const QString& change) {
 
 } // namespace
 
-UpdateDialog::UpdateDialog(Updater* updater, QWidget* parent)
+UpdateDialog::UpdateDialog(Updater* updater, QWidget* parent, Wish wish)
     : Overlay(parent),
       m_updater(updater),
+      m_wish(wish),
       m_title(label({}, "h2")),
       m_subtitle(plainLabel("sub")),
       m_changes(new Card),
@@ -289,7 +290,7 @@ void UpdateDialog::refreshButtons() {
   m_cancel->setVisible(state == Updater::Downloading);
   m_close->setVisible(state != Updater::Downloading && state != Updater::Installing);
   m_close->setText(state == Updater::Available ? words::Overlay::tr("Later") : words::Overlay::tr("Close"));
-  m_install->setDefault(state == Updater::Available);
+  m_install->setDefault(state == Updater::Available && m_wish == Wish::Asked);
   m_retry->setDefault(state == Updater::Failed);
 }
 

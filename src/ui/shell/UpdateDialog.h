@@ -20,8 +20,12 @@ class UpdateDialog : public Overlay {
   Q_OBJECT
 
  public:
+  enum class Wish {
+    Asked,   ///< the user wants to know
+    Unasked, ///< it comes by itself: no key that is meant for what is below may start an update
+  };
   /// @param updater  outlives the dialog
-  UpdateDialog(Updater* updater, QWidget* parent);
+  UpdateDialog(Updater* updater, QWidget* parent, Wish wish = Wish::Asked);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -42,6 +46,7 @@ class UpdateDialog : public Overlay {
   void refreshButtons();
 
   Updater* m_updater;
+  const Wish m_wish;
   QLabel* m_title;
   QLabel* m_subtitle;
   Card* m_changes;

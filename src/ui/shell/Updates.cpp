@@ -24,7 +24,7 @@ Updates::Updates(QWidget* area, const QUrl& feed, QObject* parent)
 
 void Updates::check() {
   m_silent = false;
-  if (!isShowing()) openDialog();
+  if (!isShowing()) openDialog(UpdateDialog::Wish::Asked);
   switch (updater->state) {
   case Updater::Available:
   case Updater::Downloading:
@@ -43,7 +43,7 @@ void Updates::checkInSilence() {
 void Updates::onStateChanged() {
   if (!m_silent || updater->state == Updater::Checking) return;
   m_silent = false;
-  if (updater->state == Updater::Available && disturbsNobody()) openDialog();
+  if (updater->state == Updater::Available && disturbsNobody()) openDialog(UpdateDialog::Wish::Unasked);
 }
 
 // A dialog that was closed lives on for a moment.
@@ -58,6 +58,6 @@ bool Updates::disturbsNobody() const {
          !m_area->findChild<Overlay*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-void Updates::openDialog() { (new UpdateDialog(updater, m_area))->open(); }
+void Updates::openDialog(UpdateDialog::Wish wish) { (new UpdateDialog(updater, m_area, wish))->open(); }
 
 } // namespace ui

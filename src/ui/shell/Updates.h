@@ -1,6 +1,8 @@
 /// When the window asks for updates, and when it tells of them.
 #pragma once
 
+#include "ui/shell/UpdateDialog.h"
+
 #include <QObject>
 
 #include <chrono>
@@ -30,7 +32,7 @@ class Updates : public QObject {
  private:
   void checkInSilence();
   void onStateChanged();
-  void openDialog();
+  void openDialog(UpdateDialog::Wish wish);
   [[nodiscard]] bool isShowing() const;
   [[nodiscard]] bool disturbsNobody() const;
 

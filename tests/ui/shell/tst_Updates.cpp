@@ -7,6 +7,7 @@
 #include "ui/shell/ConfirmDialog.h"
 #include "ui/shell/UpdateDialog.h"
 
+#include <QPushButton>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -83,6 +84,9 @@ void TestUpdates::newerOpensTheDialog() {
   QCOMPARE(updater()->state, Updater::Available);
   QCOMPARE(dialogs().size(), 1);
   QVERIFY(dialogs().first()->isVisible());
+  QTest::keyClick(dialogs().first(), Qt::Key_Return); // meant for what was below a moment ago
+  QCOMPARE(updater()->state, Updater::Available);
+  for (const auto* button : dialogs().first()->findChildren<QPushButton*>()) QVERIFY(!button->isDefault());
 }
 
 void TestUpdates::nothingNewerIsNoWord() {

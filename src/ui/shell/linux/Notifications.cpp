@@ -47,7 +47,7 @@ void Notifications::show(QObject* context, const trayhost::Message& message, std
   askForMarkup([this, message, fail](bool readsMarkup) { send(message, readsMarkup, fail); });
 }
 
-void Notifications::askForMarkup(std::function<void(bool)> answered) {
+void Notifications::askForMarkup(const std::function<void(bool)>& answered) {
   auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call("GetCapabilities")), this);
   connect(watcher, &QDBusPendingCallWatcher::finished, this, [answered](QDBusPendingCallWatcher* done) {
     const QDBusPendingReply<QStringList> reply = *done;
@@ -56,7 +56,7 @@ void Notifications::askForMarkup(std::function<void(bool)> answered) {
   });
 }
 
-void Notifications::send(const trayhost::Message& message, bool readsMarkup, std::function<void()> failed) {
+void Notifications::send(const trayhost::Message& message, bool readsMarkup, const std::function<void()>& failed) {
   QDBusMessage notify = call("Notify");
   notify << QString(identity::kName) << m_last << QGuiApplication::desktopFileName() << message.title
          << (readsMarkup ? message.text.toHtmlEscaped() : message.text)

@@ -26,8 +26,8 @@ class Notifications : public QObject {
  private:
   explicit Notifications(QObject* parent);
   /// Whether markup is read in a message's text.
-  void askForMarkup(std::function<void(bool readsMarkup)> answered);
-  void send(const trayhost::Message& message, bool readsMarkup, std::function<void()> failed);
+  void askForMarkup(const std::function<void(bool readsMarkup)>& answered);
+  void send(const trayhost::Message& message, bool readsMarkup, const std::function<void()>& failed);
 
   QDBusConnection m_bus;
   uint m_last = 0; ///< the service's number for what was sent last

@@ -2,6 +2,7 @@
 
 namespace macsupport {
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): it is kept where there is a dock
 void onDockReopen(std::function<void()> /*handler*/) {}
 
 bool guardStatusItemMenu() { return true; }
