@@ -1,6 +1,7 @@
 #include "ui/paint.h"
 
 #include <QPainter>
+#include <QStyle>
 
 namespace ui::paint {
 
@@ -28,6 +29,27 @@ QRectF hairline(const QRectF& rect) { return rect.adjusted(kHalfPixel, kHalfPixe
 QPen pen(const QBrush& brush, double width) { return {brush, width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin}; }
 
 QPen roundPen(const QBrush& brush, double width) { return {brush, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin}; }
+
+QRectF mirrored(const QRectF& rect, const QRectF& whole, Qt::LayoutDirection direction) {
+  if (direction != Qt::RightToLeft || rect.isNull()) return rect;
+  return rect.translated(whole.left() + whole.right() - rect.left() - rect.right(), 0);
+}
+
+Qt::LayoutDirection readingDirection(const QString& text, Qt::LayoutDirection direction) {
+  return direction == Qt::RightToLeft && text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+}
+
+int textFlags(const QString& text, int flags, Qt::LayoutDirection direction) {
+  const auto sides = Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask;
+  const Qt::Alignment turned = QStyle::visualAlignment(direction, Qt::Alignment(flags) & sides);
+  const bool toLeft = readingDirection(text, direction) == Qt::RightToLeft;
+  const int reading = toLeft ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+  return (flags & ~int(sides)) | int(turned | Qt::AlignAbsolute) | reading;
+}
+
+void text(QPainter* painter, const QRectF& box, int flags, const QString& text) {
+  painter->drawText(box, textFlags(text, flags, painter->layoutDirection()), text);
+}
 
 void roundedRect(QPainter* painter, const QRectF& rect, double radius, const QBrush& fill, const QPen& outline) {
   painter->setPen(outline);

@@ -6,6 +6,7 @@
 #include <QPen>
 #include <QPointF>
 #include <QRectF>
+#include <QString>
 
 class QPainter;
 
@@ -21,6 +22,18 @@ namespace ui::paint {
 [[nodiscard]] QPen pen(const QBrush& brush, double width = 1);
 /// A pen with round caps and joins.
 [[nodiscard]] QPen roundPen(const QBrush& brush, double width);
+
+/// Where @p rect, laid out from left to right in @p whole, lies in that direction.
+[[nodiscard]] QRectF mirrored(const QRectF& rect, const QRectF& whole, Qt::LayoutDirection direction);
+/// The direction in which @p text reads in a layout of that direction: its own, so that a size keeps its unit and a
+/// path its start; from left to right wherever the layout goes so.
+[[nodiscard]] Qt::LayoutDirection readingDirection(const QString& text, Qt::LayoutDirection direction);
+/// The flags with which a text is drawn: @p flags with the alignment turned to @p direction, the layout's, and the
+/// direction in which @p text reads.
+[[nodiscard]] int textFlags(const QString& text, int flags, Qt::LayoutDirection direction);
+/// Draws @p text with the painter's pen and font; @p flags as QPainter::drawText() takes them. Where the painter goes
+/// from right to left, AlignLeft is the right side, and the text still reads in its own direction.
+void text(QPainter* painter, const QRectF& box, int flags, const QString& text);
 
 /// A rounded rectangle with a fill and, if it isn't Qt::NoPen, an outline.
 void roundedRect(QPainter* painter, const QRectF& rect, double radius, const QBrush& fill,

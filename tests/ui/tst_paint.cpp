@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace ui::paint;
 
 namespace {
@@ -28,6 +29,9 @@ class TestPaint : public QObject {
   void hairlineIsHalfAPixelInside();
   void pens();
   void hairlineBorderIsCrisp();
+  void mirroredRectangles();
+  void textsReadInTheirOwnDirection_data();
+  void textsReadInTheirOwnDirection();
   void roundedRectWithoutOutline();
   void shadowLayers_data();
   void shadowLayers();
@@ -67,6 +71,46 @@ void TestPaint::hairlineBorderIsCrisp() {
   QCOMPARE(image.pixelColor(10, 1), QColor(Qt::white));
   QCOMPARE(image.pixelColor(19, 10), QColor(Qt::red));
   QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
+}
+
+void TestPaint::mirroredRectangles() {
+  const QRectF whole(10, 0, 200, 40);
+  const QRectF icon(22, 12, 16, 16);
+  QCOMPARE(mirrored(icon, whole, Qt::LeftToRight), icon);
+  QCOMPARE(mirrored(icon, whole, Qt::RightToLeft), QRectF(182, 12, 16, 16));
+  QCOMPARE(mirrored(whole, whole, Qt::RightToLeft), whole);
+  QVERIFY(mirrored({}, whole, Qt::RightToLeft).isNull()); // still not there
+}
+
+void TestPaint::textsReadInTheirOwnDirection_data() {
+  QTest::addColumn<QString>("text");
+  QTest::addColumn<int>("flags");
+  QTest::addColumn<Qt::LayoutDirection>("direction");
+  QTest::addColumn<int>("result");
+  const QString size = u"80 MB"_s;
+  const QString hebrew = u"\u05d0\u05d1\u05d2"_s;
+  const int absolute = Qt::AlignAbsolute;
+  const int toRight = Qt::TextForceLeftToRight | absolute;
+  const int toLeft = Qt::TextForceRightToLeft | absolute;
+  const auto ltr = Qt::LeftToRight;
+  const auto rtl = Qt::RightToLeft;
+  QTest::newRow("left") << size << int(Qt::AlignLeft) << ltr << (Qt::AlignLeft | toRight);
+  QTest::newRow("right") << size << int(Qt::AlignRight) << ltr << (Qt::AlignRight | toRight);
+  QTest::newRow("left, mirrored") << size << int(Qt::AlignLeft) << rtl << (Qt::AlignRight | toRight);
+  QTest::newRow("right, mirrored") << size << int(Qt::AlignRight) << rtl << (Qt::AlignLeft | toRight);
+  QTest::newRow("centre") << size << int(Qt::AlignCenter) << rtl << (Qt::AlignCenter | toRight);
+  QTest::newRow("fixed side") << size << int(Qt::AlignLeft | absolute) << rtl << (Qt::AlignLeft | toRight);
+  QTest::newRow("one line") << size << int(Qt::AlignLeft | Qt::TextSingleLine) << rtl
+                            << (Qt::AlignRight | Qt::TextSingleLine | toRight);
+  QTest::newRow("Hebrew") << hebrew << int(Qt::AlignLeft) << rtl << (Qt::AlignRight | toLeft);
+  QTest::newRow("Hebrew in an English layout") << hebrew << int(Qt::AlignLeft) << ltr << (Qt::AlignLeft | toRight);
+}
+
+void TestPaint::textsReadInTheirOwnDirection() {
+  QFETCH(QString, text);
+  QFETCH(int, flags);
+  QFETCH(Qt::LayoutDirection, direction);
+  QTEST(textFlags(text, flags, direction), "result");
 }
 
 void TestPaint::roundedRectWithoutOutline() {

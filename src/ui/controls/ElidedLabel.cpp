@@ -1,6 +1,7 @@
 #include "ui/controls/ElidedLabel.h"
 
 #include "ui/TipStyler.h"
+#include "ui/paint.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -41,8 +42,8 @@ void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
   const QRect room = contentsRect();
   QPainter painter(this);
   painter.setPen(palette().color(foregroundRole()));
-  painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
-                   fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
+  paint::text(&painter, room, Qt::AlignLeft | Qt::AlignVCenter,
+              fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
 }
 
 } // namespace ui

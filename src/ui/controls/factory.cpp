@@ -3,12 +3,14 @@
 #include "ui/Theme.h"
 #include "ui/accessible.h"
 #include "ui/desktop.h"
+#include "ui/paint.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
@@ -72,6 +74,26 @@ class PendingDrag : public QObject {
   bool m_done = false;
 };
 
+/// A plain text that stands at the layout's side. A QLabel puts it to the side where the text itself begins, so that
+/// English is left alone at the far end of a row that goes from right to left.
+class Label : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    const bool isPlain =
+        textFormat() == Qt::PlainText || (textFormat() == Qt::AutoText && !Qt::mightBeRichText(text()));
+    if (layoutDirection() == Qt::LeftToRight || !isPlain || text().isEmpty()) return QLabel::paintEvent(event);
+    QPainter painter(this);
+    drawFrame(&painter);
+    const int flags = int(alignment()) | (wordWrap() ? Qt::TextWordWrap : 0);
+    const QRect box = contentsRect().marginsRemoved({margin(), margin(), margin(), margin()});
+    painter.setPen(palette().color(foregroundRole()));
+    paint::text(&painter, box, flags, text());
+  }
+};
+
 /// For a widget that goes: it would be dressed again when it loses its parent, which takes as long as to build another.
 void forgetLook(QWidget* widget) {
   widget->setAttribute(Qt::WA_WState_Polished, false);
@@ -81,7 +103,7 @@ void forgetLook(QWidget* widget) {
 } // namespace
 
 QLabel* label(const QString& text, const char* role, QWidget* parent) {
-  auto* label = new QLabel(text, parent);
+  auto* label = new Label(text, parent);
   if (role) label->setProperty(kRole, QString::fromLatin1(role));
   return label;
 }
