@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QStyle>
+#include <QWidget>
 
 namespace ui::paint {
 
@@ -39,6 +40,11 @@ Qt::LayoutDirection readingDirection(const QString& text, Qt::LayoutDirection di
   return direction == Qt::RightToLeft && text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
 }
 
+QMargins mirrored(const QMargins& margins, Qt::LayoutDirection direction) {
+  if (direction != Qt::RightToLeft) return margins;
+  return {margins.right(), margins.top(), margins.left(), margins.bottom()};
+}
+
 int textFlags(const QString& text, int flags, Qt::LayoutDirection direction) {
   const auto sides = Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask;
   const Qt::Alignment turned = QStyle::visualAlignment(direction, Qt::Alignment(flags) & sides);
@@ -47,8 +53,15 @@ int textFlags(const QString& text, int flags, Qt::LayoutDirection direction) {
   return (flags & ~int(sides)) | int(turned | Qt::AlignAbsolute) | reading;
 }
 
+// A painter has the program's direction, also on a widget that has its own.
+Qt::LayoutDirection directionOf(const QPainter* painter) {
+  const QPaintDevice* device = painter->device();
+  if (!device || device->devType() != QInternal::Widget) return painter->layoutDirection();
+  return static_cast<const QWidget*>(device)->layoutDirection();
+}
+
 void text(QPainter* painter, const QRectF& box, int flags, const QString& text) {
-  painter->drawText(box, textFlags(text, flags, painter->layoutDirection()), text);
+  painter->drawText(box, textFlags(text, flags, directionOf(painter)), text);
 }
 
 void roundedRect(QPainter* painter, const QRectF& rect, double radius, const QBrush& fill, const QPen& outline) {

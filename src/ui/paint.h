@@ -3,6 +3,7 @@
 
 #include <QBrush>
 #include <QColor>
+#include <QMargins>
 #include <QPen>
 #include <QPointF>
 #include <QRectF>
@@ -25,13 +26,17 @@ namespace ui::paint {
 
 /// Where @p rect, laid out from left to right in @p whole, lies in that direction.
 [[nodiscard]] QRectF mirrored(const QRectF& rect, const QRectF& whole, Qt::LayoutDirection direction);
+/// Margins whose sides change places in a layout from right to left, which layouts leave as they are.
+[[nodiscard]] QMargins mirrored(const QMargins& margins, Qt::LayoutDirection direction);
 /// The direction in which @p text reads in a layout of that direction: its own, so that a size keeps its unit and a
 /// path its start; from left to right wherever the layout goes so.
 [[nodiscard]] Qt::LayoutDirection readingDirection(const QString& text, Qt::LayoutDirection direction);
 /// The flags with which a text is drawn: @p flags with the alignment turned to @p direction, the layout's, and the
 /// direction in which @p text reads.
 [[nodiscard]] int textFlags(const QString& text, int flags, Qt::LayoutDirection direction);
-/// Draws @p text with the painter's pen and font; @p flags as QPainter::drawText() takes them. Where the painter goes
+/// The layout direction of the widget that is painted on; the program's on anything else.
+[[nodiscard]] Qt::LayoutDirection directionOf(const QPainter* painter);
+/// Draws @p text with the painter's pen and font; @p flags as QPainter::drawText() takes them. On a widget that goes
 /// from right to left, AlignLeft is the right side, and the text still reads in its own direction.
 void text(QPainter* painter, const QRectF& box, int flags, const QString& text);
 

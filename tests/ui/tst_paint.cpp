@@ -79,7 +79,9 @@ void TestPaint::mirroredRectangles() {
   QCOMPARE(mirrored(icon, whole, Qt::LeftToRight), icon);
   QCOMPARE(mirrored(icon, whole, Qt::RightToLeft), QRectF(182, 12, 16, 16));
   QCOMPARE(mirrored(whole, whole, Qt::RightToLeft), whole);
-  QVERIFY(mirrored({}, whole, Qt::RightToLeft).isNull()); // still not there
+  QCOMPARE(mirrored(QMargins(1, 2, 3, 4), Qt::LeftToRight), QMargins(1, 2, 3, 4));
+  QCOMPARE(mirrored(QMargins(1, 2, 3, 4), Qt::RightToLeft), QMargins(3, 2, 1, 4));
+  QVERIFY(mirrored(QRectF(), whole, Qt::RightToLeft).isNull()); // still not there
 }
 
 void TestPaint::textsReadInTheirOwnDirection_data() {
@@ -89,21 +91,24 @@ void TestPaint::textsReadInTheirOwnDirection_data() {
   QTest::addColumn<int>("result");
   const QString size = u"80 MB"_s;
   const QString hebrew = u"\u05d0\u05d1\u05d2"_s;
+  const int left = Qt::AlignLeft;
+  const int right = Qt::AlignRight;
+  const int centre = Qt::AlignCenter;
   const int absolute = Qt::AlignAbsolute;
-  const int toRight = Qt::TextForceLeftToRight | absolute;
-  const int toLeft = Qt::TextForceRightToLeft | absolute;
+  const int toRight = int(Qt::TextForceLeftToRight) | absolute;
+  const int toLeft = int(Qt::TextForceRightToLeft) | absolute;
+  const int oneLine = Qt::TextSingleLine;
   const auto ltr = Qt::LeftToRight;
   const auto rtl = Qt::RightToLeft;
-  QTest::newRow("left") << size << int(Qt::AlignLeft) << ltr << (Qt::AlignLeft | toRight);
-  QTest::newRow("right") << size << int(Qt::AlignRight) << ltr << (Qt::AlignRight | toRight);
-  QTest::newRow("left, mirrored") << size << int(Qt::AlignLeft) << rtl << (Qt::AlignRight | toRight);
-  QTest::newRow("right, mirrored") << size << int(Qt::AlignRight) << rtl << (Qt::AlignLeft | toRight);
-  QTest::newRow("centre") << size << int(Qt::AlignCenter) << rtl << (Qt::AlignCenter | toRight);
-  QTest::newRow("fixed side") << size << int(Qt::AlignLeft | absolute) << rtl << (Qt::AlignLeft | toRight);
-  QTest::newRow("one line") << size << int(Qt::AlignLeft | Qt::TextSingleLine) << rtl
-                            << (Qt::AlignRight | Qt::TextSingleLine | toRight);
-  QTest::newRow("Hebrew") << hebrew << int(Qt::AlignLeft) << rtl << (Qt::AlignRight | toLeft);
-  QTest::newRow("Hebrew in an English layout") << hebrew << int(Qt::AlignLeft) << ltr << (Qt::AlignLeft | toRight);
+  QTest::newRow("left") << size << left << ltr << (left | toRight);
+  QTest::newRow("right") << size << right << ltr << (right | toRight);
+  QTest::newRow("left, mirrored") << size << left << rtl << (right | toRight);
+  QTest::newRow("right, mirrored") << size << right << rtl << (left | toRight);
+  QTest::newRow("centre") << size << centre << rtl << (centre | toRight);
+  QTest::newRow("fixed side") << size << (left | absolute) << rtl << (left | toRight);
+  QTest::newRow("one line") << size << (left | oneLine) << rtl << (right | oneLine | toRight);
+  QTest::newRow("Hebrew") << hebrew << left << rtl << (right | toLeft);
+  QTest::newRow("Hebrew in an English layout") << hebrew << left << ltr << (left | toRight);
 }
 
 void TestPaint::textsReadInTheirOwnDirection() {
