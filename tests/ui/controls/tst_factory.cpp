@@ -20,22 +20,6 @@ QMouseEvent mouse(QEvent::Type type, Qt::MouseButton button) {
   return {type, QPointF(5, 5), QPointF(5, 5), button, button, Qt::NoModifier};
 }
 
-bool isFlat(const QImage& image) {
-  QImage same(image.size(), image.format());
-  same.fill(image.pixel(0, 0));
-  return image == same;
-}
-
-/// The part of the picture that holds all the ink, whichever side it is at.
-QImage inkOf(QWidget* widget) {
-  const QImage image = widget->grab().toImage();
-  QRect ink;
-  for (int x = 0; x < image.width(); ++x)
-    for (int y = 0; y < image.height(); ++y)
-      if (image.pixel(x, y) != image.pixel(0, 0)) ink |= QRect(x, y, 1, 1);
-  return image.copy(ink);
-}
-
 } // namespace
 
 class TestFactory : public QObject {
@@ -84,22 +68,18 @@ void TestFactory::labelStandsAtTheSideOfItsLayout_data() {
   QTest::newRow("one that shortens, mirrored") << true << Qt::RightToLeft << true;
 }
 
-// The same letters at the other side: the size keeps its unit at its end.
+// As a plain label that stands there: the size keeps its unit at its end.
 void TestFactory::labelStandsAtTheSideOfItsLayout() {
   QFETCH(bool, shortens);
   QFETCH(Qt::LayoutDirection, direction);
   QFETCH(bool, isAtRight);
-  const std::unique_ptr<QLabel> label(shortens ? new ui::ElidedLabel(u"80 MB"_s) : ui::label(u"80 MB"_s));
-  label->setLayoutDirection(Qt::LeftToRight);
-  label->resize(300, 24);
-  const QImage leftmost = inkOf(label.get());
+  QLabel plain(u"80 MB"_s);
+  plain.setLayoutDirection(Qt::LeftToRight);
+  plain.setAlignment((isAtRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  const std::unique_ptr<QLabel> label(shortens ? new ui::ElidedLabel(plain.text()) : ui::label(plain.text()));
   label->setLayoutDirection(direction);
-  QImage image = label->grab().toImage();
-  const QRect left(0, 0, 150, 24);
-  const QRect right(150, 0, 150, 24);
-  QVERIFY(isFlat(image.copy(isAtRight ? left : right)));
-  QVERIFY(!isFlat(image.copy(isAtRight ? right : left)));
-  QCOMPARE(inkOf(label.get()), leftmost);
+  for (QLabel* one : {&plain, label.get()}) one->resize(300, 24);
+  QCOMPARE(label->grab().toImage(), plain.grab().toImage());
 }
 
 void TestFactory::labelWithoutRole() {
