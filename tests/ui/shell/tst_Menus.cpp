@@ -88,6 +88,7 @@ class TestMenus : public QObject {
   void menuBarAsDesigned();
   void menuBarActs();
   void everyCommandActs();
+  void everyKeyCallsItsCommand();
   void noKeyTwice();
   void keysWhereThePlatformHasNone_data();
   void keysWhereThePlatformHasNone();
@@ -262,6 +263,27 @@ void TestMenus::everyCommandActs() {
           carried || (action->text() == commands::textOf(entry) && action->shortcuts() == commands::keysOf(entry));
     QVERIFY2(carried, entry.text);
   }
+}
+
+void TestMenus::everyKeyCallsItsCommand() {
+  auto* set = m_window->findChild<CommandSet*>();
+  QVERIFY(disconnect(set, &CommandSet::triggered, m_window.get(), nullptr)); // nothing comes of it
+  QList<Id> heard;
+  connect(set, &CommandSet::triggered, this, [&](Id id) { heard << id; });
+  auto* widget = new Editable(m_window.get());
+  widget->show();
+  widget->setFocus();
+  int pressed = 0;
+  for (const commands::Entry& entry : commands::entries()) {
+    if (entry.id == Id::Separator || !commands::isOffered(entry)) continue;
+    for (const QKeySequence& keys : commands::keysOf(entry)) {
+      heard.clear();
+      QTest::keySequence(widget, keys);
+      QVERIFY2(heard == QList<Id>{entry.id}, qPrintable(keys.toString()));
+      ++pressed;
+    }
+  }
+  QVERIFY(pressed >= 20);
 }
 
 void TestMenus::noKeyTwice() {
