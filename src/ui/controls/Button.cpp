@@ -57,7 +57,7 @@ constexpr int kDangerHovered = 110;
 
 } // namespace
 
-ButtonLayout buttonLayout(const QSize& size, int textWidth, bool withIcon, bool large) {
+ButtonLayout buttonLayout(const QSize& size, int textWidth, bool withIcon, bool large, Qt::LayoutDirection direction) {
   ButtonLayout layout;
   layout.body = paint::hairline(QRectF(QPointF(), QSizeF(size)));
   layout.radius = large ? kRadiusLarge : kRadius;
@@ -66,6 +66,7 @@ ButtonLayout buttonLayout(const QSize& size, int textWidth, bool withIcon, bool 
   const double left = body.center().x() - (textWidth + before) / 2.0;
   if (withIcon) layout.icon = QRectF(left, body.center().y() - kIconSize / 2.0, kIconSize, kIconSize);
   layout.text = QRectF(left + before, body.top(), textWidth + kTextSlack, body.height());
+  for (QRectF* rect : {&layout.icon, &layout.text}) *rect = paint::mirrored(*rect, body, direction);
   return layout;
 }
 
@@ -202,7 +203,8 @@ void Button::paintEvent(QPaintEvent* event) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setFont(filledFont());
   const int textWidth = QFontMetrics(filledFont()).horizontalAdvance(text());
-  const ButtonLayout layout = buttonLayout(QWidget::size(), textWidth, !m_iconName.isEmpty(), isLarge());
+  const ButtonLayout layout =
+      buttonLayout(QWidget::size(), textWidth, !m_iconName.isEmpty(), isLarge(), layoutDirection());
   paintBody(&painter, layout);
   paintContent(&painter, layout);
 }
@@ -248,7 +250,7 @@ void Button::paintContent(QPainter* painter, const ButtonLayout& layout) const {
   const QColor ink = isEnabled() ? QColor(Qt::white) : Theme::get().text3;
   if (!layout.icon.isNull()) icons::paint(painter, layout.icon, m_iconName, ink);
   painter->setPen(ink);
-  painter->drawText(layout.text, Qt::AlignLeft | Qt::AlignVCenter, text());
+  paint::text(painter, layout.text, Qt::AlignLeft | Qt::AlignVCenter, text());
 }
 
 } // namespace ui

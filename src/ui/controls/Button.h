@@ -16,7 +16,8 @@ struct ButtonLayout {
 };
 /// @param size       of the whole button
 /// @param textWidth  in the button's font
-[[nodiscard]] ButtonLayout buttonLayout(const QSize& size, int textWidth, bool withIcon, bool large);
+[[nodiscard]] ButtonLayout buttonLayout(const QSize& size, int textWidth, bool withIcon, bool large,
+                                        Qt::LayoutDirection direction = Qt::LeftToRight);
 
 class Button : public QPushButton {
   Q_OBJECT

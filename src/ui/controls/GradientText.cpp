@@ -46,7 +46,7 @@ void GradientText::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::TextAntialiasing);
   painter.setFont(m_font);
   painter.setPen(paint::pen(gradient(box)));
-  painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip, m_text);
+  paint::text(&painter, box, Qt::AlignCenter | Qt::TextDontClip, m_text);
 }
 
 } // namespace ui

@@ -4,6 +4,7 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <QStyle>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -55,6 +56,7 @@ void Headline::set(const QString& format, const QString& value) {
 double Headline::layOut(QTextLayout* layout, double width) const {
   QTextOption option;
   option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  option.setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft));
   layout->setTextOption(option);
   double height = 0;
   layout->beginLayout();

@@ -2,6 +2,7 @@
 
 #include "ui/Theme.h"
 #include "ui/controls/factory.h"
+#include "ui/paint.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -76,10 +77,12 @@ void PageHeader::addAction(QWidget* action) { m_actions->addWidget(action); }
 
 void PageHeader::setToolbar(bool on, int reserve) {
   m_toolbar = on;
-  m_outer->setContentsMargins(on ? QMargins(reserve, 0, kToolbarRight, kToolbarBottom) : pageMargins());
+  const QMargins toolbar(reserve, 0, kToolbarRight, kToolbarBottom);
+  m_outer->setContentsMargins(on ? paint::mirrored(toolbar, layoutDirection()) : pageMargins());
   m_titleLabel->setStyleSheet(on ? u"font-size: 15px; font-weight: 600;"_s : QString());
   m_titleLabel->setMinimumHeight(on ? kToolbarHeight : 0);
-  m_titleLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  const Qt::Alignment side = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight | Qt::AlignAbsolute : Qt::AlignLeft;
+  m_titleLabel->setAlignment(side | Qt::AlignVCenter);
   m_outer->setAlignment(m_actions, on ? Qt::AlignTop : Qt::AlignBottom);
   const int actionsTop = Theme::get().mac ? kToolbarActionsTopMac : kToolbarActionsTopWin;
   m_actions->setContentsMargins(0, on ? actionsTop : 0, 0, 0);

@@ -39,11 +39,13 @@ Colours coloursOf(Safety safety) {
 
 } // namespace
 
-PillLayout pillLayout(const QSize& widget, int textWidth) {
+PillLayout pillLayout(const QSize& widget, int textWidth, Qt::LayoutDirection direction) {
   PillLayout layout;
   layout.body = QRectF(0, (widget.height() - kHeight) / 2.0, textWidth + kRoom, kHeight);
   layout.dot = QRectF(kDotLeft, layout.body.center().y() - kDotSize / 2, kDotSize, kDotSize);
   layout.text = QRectF(kTextLeft, layout.body.top(), layout.body.width() - kTextLeft, kHeight);
+  const QRectF whole(0, 0, widget.width(), widget.height());
+  for (QRectF* rect : {&layout.body, &layout.dot, &layout.text}) *rect = paint::mirrored(*rect, whole, direction);
   return layout;
 }
 
@@ -67,7 +69,7 @@ int Pill::textWidth() const { return fontMetrics().horizontalAdvance(shownText()
 QSize Pill::sizeHint() const { return {textWidth() + kRoom, kHeight}; }
 
 void Pill::paintEvent(QPaintEvent* /*event*/) {
-  const PillLayout layout = pillLayout(size(), textWidth());
+  const PillLayout layout = pillLayout(size(), textWidth(), layoutDirection());
   const Colours colours = coloursOf(m_safety);
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -75,7 +77,7 @@ void Pill::paintEvent(QPaintEvent* /*event*/) {
   painter.setBrush(colours.strong);
   painter.drawEllipse(layout.dot);
   painter.setPen(colours.strong);
-  painter.drawText(layout.text, Qt::AlignLeft | Qt::AlignVCenter, shownText());
+  paint::text(&painter, layout.text, Qt::AlignLeft | Qt::AlignVCenter, shownText());
 }
 
 } // namespace ui

@@ -15,7 +15,8 @@ struct PillLayout {
 };
 /// @param widget     size of the whole widget
 /// @param textWidth  in the badge's font
-[[nodiscard]] PillLayout pillLayout(const QSize& widget, int textWidth);
+[[nodiscard]] PillLayout pillLayout(const QSize& widget, int textWidth,
+                                    Qt::LayoutDirection direction = Qt::LeftToRight);
 
 class Pill : public QWidget, public AccessibleText {
   Q_OBJECT

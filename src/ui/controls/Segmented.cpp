@@ -26,13 +26,15 @@ constexpr double kSegmentRadius = 7;
 constexpr double kRingInset = 3;
 } // namespace
 
-QList<QRectF> segmentLayout(const QList<int>& textWidths, int height) {
+QList<QRectF> segmentLayout(const QList<int>& textWidths, int height, Qt::LayoutDirection direction) {
   QList<QRectF> segments;
   double left = kMargin;
   for (const int textWidth : textWidths) {
     segments << QRectF(left, kMargin, textWidth + kTextRoom, height - 2 * kMargin);
     left = segments.last().right();
   }
+  const QRectF whole(0, 0, left + kMargin, height);
+  for (QRectF& segment : segments) segment = paint::mirrored(segment, whole, direction);
   return segments;
 }
 
@@ -67,7 +69,7 @@ QList<int> Segmented::textWidths() const {
   return widths;
 }
 
-QList<QRectF> Segmented::segments() const { return segmentLayout(textWidths(), height()); }
+QList<QRectF> Segmented::segments() const { return segmentLayout(textWidths(), height(), layoutDirection()); }
 
 QSize Segmented::sizeHint() const {
   int width = 2 * kMargin;
@@ -93,11 +95,12 @@ void Segmented::mousePressEvent(QMouseEvent* event) {
 }
 
 void Segmented::keyPressEvent(QKeyEvent* event) {
+  const int toRight = layoutDirection() == Qt::RightToLeft ? -1 : 1;
   switch (event->key()) {
   case Qt::Key_Left:
-    return moveCursor(m_cursor - 1);
+    return moveCursor(m_cursor - toRight);
   case Qt::Key_Right:
-    return moveCursor(m_cursor + 1);
+    return moveCursor(m_cursor + toRight);
   case Qt::Key_Home:
     return moveCursor(0);
   case Qt::Key_End:
@@ -137,7 +140,7 @@ void Segmented::paintSegment(QPainter* painter, const QRectF& segment, int index
     paint::roundedRect(painter, segment.adjusted(kSegmentInset, kSegmentInset, -kSegmentInset, -kSegmentInset),
                        kSegmentRadius, theme.dark ? theme.cardHover : theme.surface, paint::pen(theme.line));
   painter->setPen(index == m_current ? theme.text : theme.text2);
-  painter->drawText(segment, Qt::AlignCenter, m_items[index]);
+  paint::text(painter, segment, Qt::AlignCenter, m_items[index]);
   if (index == m_cursor)
     m_focus->paintRing(painter, segment.adjusted(kRingInset, kRingInset, -kRingInset, -kRingInset),
                        kSegmentRadius - kRingInset + 1);

@@ -15,7 +15,8 @@ namespace ui {
 class KeyboardFocus;
 
 /// The segments of labels of these widths, side by side from the left, in a control of this height.
-[[nodiscard]] QList<QRectF> segmentLayout(const QList<int>& textWidths, int height);
+[[nodiscard]] QList<QRectF> segmentLayout(const QList<int>& textWidths, int height,
+                                          Qt::LayoutDirection direction = Qt::LeftToRight);
 
 /// The left and right arrow keys, Home and End move the ring, Space and Enter choose the segment that has it.
 class Segmented : public QWidget, public AccessibleItems {

@@ -40,7 +40,7 @@ constexpr std::array<QPointF, 3> kChevron = {QPointF(-4.5, -2), QPointF(0, 2.5),
 
 } // namespace
 
-SelectLayout selectLayout(const QSize& size, bool open) {
+SelectLayout selectLayout(const QSize& size, bool open, Qt::LayoutDirection direction) {
   const double middle = size.height() / 2.0;
   SelectLayout layout;
   layout.body = paint::hairline(QRectF(QPointF(), QSizeF(size)));
@@ -48,6 +48,10 @@ SelectLayout selectLayout(const QSize& size, bool open) {
       QRectF(layout.body.left() + kTextLeft, layout.body.top(), layout.body.width() - kTextTaken, layout.body.height());
   layout.chip = QRectF(size.width() - kChipFromRight, middle - kChipSize / 2, kChipSize, kChipSize);
   layout.chevron = QPointF(size.width() - kChevronFromRight, middle + (open ? 0.5 : 0));
+  if (direction != Qt::RightToLeft) return layout;
+  const QRectF whole(0, 0, size.width(), size.height());
+  for (QRectF* rect : {&layout.text, &layout.chip}) *rect = paint::mirrored(*rect, whole, direction);
+  layout.chevron.setX(size.width() - layout.chevron.x());
   return layout;
 }
 
@@ -108,13 +112,13 @@ void Select::keyPressEvent(QKeyEvent* event) {
 
 void Select::paintEvent(QPaintEvent* /*event*/) {
   const Theme& theme = Theme::get();
-  const SelectLayout layout = selectLayout(size(), isOpen());
+  const SelectLayout layout = selectLayout(size(), isOpen(), layoutDirection());
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   paintBody(&painter, layout);
   painter.setPen(isEnabled() ? theme.text : theme.text3);
-  painter.drawText(layout.text, Qt::AlignLeft | Qt::AlignVCenter,
-                   fontMetrics().elidedText(currentText(), Qt::ElideRight, int(layout.text.width())));
+  paint::text(&painter, layout.text, Qt::AlignLeft | Qt::AlignVCenter,
+              fontMetrics().elidedText(currentText(), Qt::ElideRight, int(layout.text.width())));
   if (theme.mac)
     paintArrows(&painter, layout);
   else

@@ -20,7 +20,7 @@ struct SelectLayout {
   QRectF chip;     ///< mac metrics: under the arrows
   QPointF chevron; ///< other metrics: the middle of the arrow
 };
-[[nodiscard]] SelectLayout selectLayout(const QSize& size, bool open);
+[[nodiscard]] SelectLayout selectLayout(const QSize& size, bool open, Qt::LayoutDirection direction = Qt::LeftToRight);
 
 /// Space, Enter and F4 open the list; the arrow keys choose without opening it. The wheel goes to what scrolls behind
 /// it.

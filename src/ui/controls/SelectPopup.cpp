@@ -60,9 +60,12 @@ QSize SelectPopupLayout::popupSize(int widestText, int selectWidth, int rows) co
           rowHeight * rows + 2 * kRowsTop};
 }
 
-QPoint SelectPopupLayout::popupPlace(const QRect& select, int row, const QSize& popup, const QRect& available) const {
+QPoint SelectPopupLayout::popupPlace(const QRect& select, int row, const QSize& popup, const QRect& available,
+                                     Qt::LayoutDirection direction) const {
   const int centred = (select.height() + extraHeight - kCentredHeight) / 2;
-  const QPoint wanted(select.left() - overhang - kMargin,
+  const int atLeft = select.left() - overhang - kMargin;
+  const int atRight = select.right() + 1 + overhang + kMargin - popup.width();
+  const QPoint wanted(direction == Qt::RightToLeft ? atRight : atLeft,
                       select.top() + centred - kRowsTop - std::max(row, 0) * rowHeight);
   const QPoint least(available.left() - kMargin, available.top() - kMargin);
   const QPoint most(available.right() - popup.width() + kMargin, available.bottom() - popup.height() + kMargin);
@@ -93,6 +96,7 @@ SelectPopup::SelectPopup(QComboBox* select)
   setAttribute(Qt::WA_DeleteOnClose);
   setMouseTracking(true);
   setFont(select->font());
+  setLayoutDirection(select->layoutDirection());
   setAccessibleName(select->accessibleName());
 }
 
@@ -100,7 +104,7 @@ void SelectPopup::open() {
   const QScreen* screen = m_select->screen() ? m_select->screen() : QGuiApplication::primaryScreen();
   const QRect control(m_select->mapToGlobal(QPoint()), m_select->size());
   resize(m_layout.popupSize(widestText(*m_select), control.width(), rows()));
-  move(m_layout.popupPlace(control, current(), size(), screen->availableGeometry()));
+  move(m_layout.popupPlace(control, current(), size(), screen->availableGeometry(), layoutDirection()));
   trimWithoutCompositor(this, SelectPopupLayout::body(size()), kRadius);
   setWindowOpacity(0);
   m_sinceOpening.start();
@@ -215,10 +219,10 @@ void SelectPopup::paintBody(QPainter* painter) const {
 void SelectPopup::paintRow(QPainter* painter, int row) const {
   const QRectF rect = m_layout.rowRect(row, width());
   const QColor ink = Theme::get().mac ? markMac(painter, rect, row) : markWin(painter, rect, row);
-  const QRectF room = rect.adjusted(m_layout.inset, 0, -kTextEnd, 0);
+  const QRectF room = paint::mirrored(rect.adjusted(m_layout.inset, 0, -kTextEnd, 0), rect, layoutDirection());
   painter->setPen(ink);
-  painter->drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
-                    fontMetrics().elidedText(m_select->itemText(row), Qt::ElideRight, int(room.width())));
+  paint::text(painter, room, Qt::AlignLeft | Qt::AlignVCenter,
+              fontMetrics().elidedText(m_select->itemText(row), Qt::ElideRight, int(room.width())));
 }
 
 QColor SelectPopup::markMac(QPainter* painter, const QRectF& rect, int row) const {
@@ -226,7 +230,7 @@ QColor SelectPopup::markMac(QPainter* painter, const QRectF& rect, int row) cons
   const QColor ink = row == m_hovered ? QColor(Qt::white) : theme.text;
   if (row == m_hovered) paint::roundedRect(painter, rect, kRowRadiusMac, theme.accent);
   const QRectF check(rect.left() + kCheckLeft, rect.center().y() - kCheckSize / 2, kCheckSize, kCheckSize);
-  if (row == current()) icons::paint(painter, check, u"check"_s, ink);
+  if (row == current()) icons::paint(painter, paint::mirrored(check, rect, layoutDirection()), u"check"_s, ink);
   return ink;
 }
 
@@ -235,7 +239,8 @@ QColor SelectPopup::markWin(QPainter* painter, const QRectF& rect, int row) cons
   if (row == m_hovered || row == current())
     paint::roundedRect(painter, rect, kRowRadiusWin, row == m_hovered ? theme.hover : theme.press);
   const QRectF marker(rect.left(), rect.center().y() - kMarkerHeight / 2, kMarkerWidth, kMarkerHeight);
-  if (row == current()) paint::roundedRect(painter, marker, kMarkerRadius, theme.accent);
+  if (row == current())
+    paint::roundedRect(painter, paint::mirrored(marker, rect, layoutDirection()), kMarkerRadius, theme.accent);
   return theme.text;
 }
 

@@ -23,15 +23,16 @@ struct SelectPopupLayout {
   /// @param select     of the control, in global coordinates
   /// @param row        the one that is to lie over the control; negative stands for the first
   /// @param available  of the screen; the shadow may pass beyond its edges
-  [[nodiscard]] QPoint popupPlace(const QRect& select, int row, const QSize& popup, const QRect& available) const;
+  [[nodiscard]] QPoint popupPlace(const QRect& select, int row, const QSize& popup, const QRect& available,
+                                  Qt::LayoutDirection direction = Qt::LeftToRight) const;
   [[nodiscard]] QRectF rowRect(int row, int popupWidth) const;
   /// The first row that holds @p point, or -1.
   [[nodiscard]] int rowAt(const QPointF& point, int rows, int popupWidth) const;
   [[nodiscard]] static QRectF body(const QSize& popup);
 
   int rowHeight;
-  int inset;      ///< of the text from the row's left
-  int overhang;   ///< how far rows reach beyond the control's left edge
+  int inset;      ///< of the text from the row's leading edge
+  int overhang;   ///< how far rows reach beyond the control's leading edge
   int extraWidth; ///< beyond the control's width
   int extraHeight;
 };

@@ -14,7 +14,7 @@ constexpr QSize kSize(40, 22);
 constexpr double kKnobInset = 3;
 } // namespace
 
-SwitchLayout switchLayout(const QSize& size, bool checked) {
+SwitchLayout switchLayout(const QSize& size, bool checked, Qt::LayoutDirection direction) {
   const int top = (size.height() - kSize.height()) / 2; // on whole pixels
   const QRectF box(0, top, kSize.width(), kSize.height());
   SwitchLayout layout;
@@ -22,6 +22,8 @@ SwitchLayout switchLayout(const QSize& size, bool checked) {
   const double side = layout.track.height() - 2 * kKnobInset;
   layout.knob = QRectF(layout.track.left() + kKnobInset, layout.track.top() + kKnobInset, side, side);
   if (checked) layout.knob.moveRight(layout.track.right() - kKnobInset);
+  const QRectF whole(0, 0, size.width(), size.height());
+  for (QRectF* rect : {&layout.track, &layout.knob}) *rect = paint::mirrored(*rect, whole, direction);
   return layout;
 }
 
@@ -36,16 +38,17 @@ Switch::Switch(QWidget* parent) : QAbstractButton(parent) {
 QSize Switch::sizeHint() const { return kSize; }
 
 void Switch::keyPressEvent(QKeyEvent* event) {
+  const bool onAtRight = layoutDirection() != Qt::RightToLeft;
   switch (event->key()) {
   case Qt::Key_Return:
   case Qt::Key_Enter:
     if (!event->isAutoRepeat()) click();
     break;
   case Qt::Key_Left:
-    if (isChecked()) click();
+    if (isChecked() == onAtRight) click();
     break;
   case Qt::Key_Right:
-    if (!isChecked()) click();
+    if (isChecked() != onAtRight) click();
     break;
   default:
     QAbstractButton::keyPressEvent(event);
@@ -54,7 +57,7 @@ void Switch::keyPressEvent(QKeyEvent* event) {
 
 void Switch::paintEvent(QPaintEvent* /*event*/) {
   const Theme& theme = Theme::get();
-  const auto [track, knob] = switchLayout(size(), isChecked());
+  const auto [track, knob] = switchLayout(size(), isChecked(), layoutDirection());
   const double radius = track.height() / 2;
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);

@@ -10,7 +10,8 @@ struct SwitchLayout {
   QRectF knob;
 };
 /// @param size  of the whole widget
-[[nodiscard]] SwitchLayout switchLayout(const QSize& size, bool checked);
+[[nodiscard]] SwitchLayout switchLayout(const QSize& size, bool checked,
+                                        Qt::LayoutDirection direction = Qt::LeftToRight);
 
 /// The keyboard's focus ring lies around it (FocusRing). Space and Enter turn it over, Left turns it off and Right on.
 class Switch : public QAbstractButton {

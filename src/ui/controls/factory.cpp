@@ -145,7 +145,8 @@ void keepEdge(const QScrollArea* area, QVBoxLayout* column, int margin) {
   const QScrollBar* bar = area->verticalScrollBar();
   QObject::connect(bar, &QScrollBar::rangeChanged, column, [bar, column, margin](int least, int most) {
     QMargins margins = column->contentsMargins();
-    margins.setRight(most > least ? margin - bar->sizeHint().width() : margin);
+    const int beside = most > least ? margin - bar->sizeHint().width() : margin;
+    bar->layoutDirection() == Qt::RightToLeft ? margins.setLeft(beside) : margins.setRight(beside);
     column->setContentsMargins(margins);
   });
 }

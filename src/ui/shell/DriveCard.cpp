@@ -35,7 +35,7 @@ constexpr double kBadAbove = 0.9;
 
 } // namespace
 
-DriveCardLayout driveCardLayout(const QSize& size, bool compact) {
+DriveCardLayout driveCardLayout(const QSize& size, bool compact, Qt::LayoutDirection direction) {
   const double ring = compact ? kCompactRing : kRing;
   DriveCardLayout layout;
   layout.stroke = compact ? kCompactStroke : kStroke;
@@ -47,6 +47,8 @@ DriveCardLayout driveCardLayout(const QSize& size, bool compact) {
   const double x = box.right() + kTextGap;
   layout.name = QRectF(x, box.top() + kFirstLine, size.width() - x - kTextRight, kLine);
   layout.free = QRectF(x, box.top() + kSecondLine, size.width() - x - kTextRight, kLine);
+  const QRectF whole(0, 0, size.width(), size.height());
+  for (QRectF* rect : {&layout.circle, &layout.name, &layout.free}) *rect = paint::mirrored(*rect, whole, direction);
   return layout;
 }
 
@@ -91,7 +93,7 @@ void DriveCard::refresh() {
 void DriveCard::paintEvent(QPaintEvent* /*event*/) {
   setToolTip(valueText()); // pages and tests may put other figures in place
   const Theme& theme = Theme::get();
-  const DriveCardLayout layout = driveCardLayout(size(), m_compact);
+  const DriveCardLayout layout = driveCardLayout(size(), m_compact, layoutDirection());
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   if (!m_compact) paint::roundedRect(&painter, layout.body, kRadius, theme.card, paint::pen(theme.line));
@@ -116,7 +118,7 @@ void DriveCard::paintTexts(QPainter* painter, const DriveCardLayout& layout) con
     painter->setFont(font);
     painter->setPen(ink);
     const QString shown = painter->fontMetrics().elidedText(text, Qt::ElideRight, int(box.width()));
-    painter->drawText(box, Qt::AlignLeft | Qt::AlignVCenter, shown);
+    paint::text(painter, box, Qt::AlignLeft | Qt::AlignVCenter, shown);
   };
   const platform::Volume& volume = m_state->volume;
   line(layout.name, theme.font(kNamePx, kNameWeight), theme.text, volume.name);

@@ -18,7 +18,8 @@ struct DriveCardLayout {
   QRectF name; ///< null when compact, as is the next
   QRectF free;
 };
-[[nodiscard]] DriveCardLayout driveCardLayout(const QSize& size, bool compact);
+[[nodiscard]] DriveCardLayout driveCardLayout(const QSize& size, bool compact,
+                                              Qt::LayoutDirection direction = Qt::LeftToRight);
 /// What the ring's arc is painted with, for a used part between 0 and 1.
 [[nodiscard]] QBrush driveRingBrush(double used, const QRectF& circle);
 

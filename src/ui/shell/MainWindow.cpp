@@ -41,6 +41,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QStackedWidget>
+#include <QStyle>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -157,14 +158,21 @@ void MainWindow::buildFloatingToggle() {
   m_floatingToggle->setAccessibleName(tip);
   m_floatingToggle->resize(m_floatingToggle->sizeHint());
   const bool besideButtons = m_frame == frame::Kind::SystemButtons;
-  m_floatingToggle->move(besideButtons ? kToggleX : kToggleXAlone, (kToggleStrip - m_floatingToggle->height()) / 2);
+  m_togglePlace =
+      QRect(QPoint(besideButtons ? kToggleX : kToggleXAlone, (kToggleStrip - m_floatingToggle->height()) / 2),
+            m_floatingToggle->size());
+  placeFloatingToggle();
   connect(m_floatingToggle, &QAbstractButton::clicked, this, [this] { m_sidebar->setCollapsed(false, true); });
   connect(m_sidebar, &Sidebar::collapsedChanged, this, &MainWindow::applyToolbars);
   applyToolbars(m_sidebar->isCollapsed());
 }
 
+void MainWindow::placeFloatingToggle() {
+  m_floatingToggle->setGeometry(QStyle::visualRect(layoutDirection(), m_content->rect(), m_togglePlace));
+}
+
 void MainWindow::applyToolbars(bool collapsed) {
-  const int reserve = m_floatingToggle->geometry().right() + 1 + kToggleGap;
+  const int reserve = m_togglePlace.right() + 1 + kToggleGap;
   for (PageHeader* header : m_pages->findChildren<PageHeader*>()) header->setToolbar(collapsed, reserve);
   m_floatingToggle->setVisible(collapsed);
   m_floatingToggle->raise();
@@ -256,6 +264,7 @@ void MainWindow::saveWindowState() const {
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == QCoreApplication::instance() && event->type() == QEvent::Quit) m_quitting = true;
+  if (m_floatingToggle && watched == m_content && event->type() == QEvent::Resize) placeFloatingToggle();
   return QWidget::eventFilter(watched, event);
 }
 

@@ -88,6 +88,7 @@ class MainWindow : public QWidget {
   QWidget* buildSystemData();
   void addPage(int number, QWidget* page);
   void buildFloatingToggle();
+  void placeFloatingToggle();
   void applyToolbars(bool collapsed);
   void connectPages();
   void connectState();
@@ -116,6 +117,7 @@ class MainWindow : public QWidget {
   QWidget* m_central = nullptr; ///< the client area: parent of the overlays and of the toast
   QWidget* m_content = nullptr; ///< hosts the pages and the floating toggle
   SidebarToggle* m_floatingToggle = nullptr;
+  QRect m_togglePlace;            ///< of the floating one, in a layout from left to right
   TitleBar* m_titleBar = nullptr; ///< null where the system frames the window
   Toast* m_toast = nullptr;
   Tray* m_tray = nullptr;

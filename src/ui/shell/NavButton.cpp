@@ -47,9 +47,7 @@ NavButtonLayout compactLayout(const QSize& size, bool withBadge) {
   return layout;
 }
 
-} // namespace
-
-NavButtonLayout navButtonLayout(const QSize& size, bool compact, int badgeTextWidth) {
+NavButtonLayout leftToRight(const QSize& size, bool compact, int badgeTextWidth) {
   const bool withBadge = badgeTextWidth >= 0;
   NavButtonLayout layout = compact ? compactLayout(size, withBadge) : NavButtonLayout{};
   layout.marker = QRectF(0, kMarkerInset, kMarkerWidth, size.height() - 2 * kMarkerInset);
@@ -62,6 +60,16 @@ NavButtonLayout navButtonLayout(const QSize& size, bool compact, int badgeTextWi
     reserve = width + kBadgeGap;
   }
   layout.label = QRectF(kLabelX, 0, size.width() - kLabelLess - reserve, size.height());
+  return layout;
+}
+
+} // namespace
+
+NavButtonLayout navButtonLayout(const QSize& size, bool compact, int badgeTextWidth, Qt::LayoutDirection direction) {
+  NavButtonLayout layout = leftToRight(size, compact, badgeTextWidth);
+  const QRectF whole(0, 0, size.width(), size.height());
+  for (QRectF* rect : {&layout.marker, &layout.icon, &layout.label, &layout.badge})
+    *rect = paint::mirrored(*rect, whole, direction);
   return layout;
 }
 
@@ -96,7 +104,7 @@ void NavButton::paintEvent(QPaintEvent* /*event*/) {
   const Theme& theme = Theme::get();
   const QColor ink = isChecked() || isHovered() ? theme.text : theme.text2;
   const int badgeWidth = m_badge.isEmpty() ? -1 : QFontMetrics(badgeFont()).horizontalAdvance(m_badge);
-  const NavButtonLayout layout = navButtonLayout(size(), m_compact, badgeWidth);
+  const NavButtonLayout layout = navButtonLayout(size(), m_compact, badgeWidth, layoutDirection());
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   paintBody(&painter, layout);
@@ -106,7 +114,7 @@ void NavButton::paintEvent(QPaintEvent* /*event*/) {
     painter.setFont(labelFont());
     painter.setPen(ink);
     const QString shown = painter.fontMetrics().elidedText(text(), Qt::ElideRight, int(layout.label.width()));
-    painter.drawText(layout.label, Qt::AlignLeft | Qt::AlignVCenter, shown);
+    paint::text(&painter, layout.label, Qt::AlignLeft | Qt::AlignVCenter, shown);
   }
   paintFocus(&painter, kRadius);
 }
@@ -132,7 +140,7 @@ void NavButton::paintBadge(QPainter* painter, const NavButtonLayout& layout) con
   paint::roundedRect(painter, layout.badge, kBadgeRadius, paint::withAlphaF(theme.accent, kBadgeAlpha));
   painter->setFont(badgeFont());
   painter->setPen(theme.accent);
-  painter->drawText(layout.badge, Qt::AlignCenter, m_badge);
+  paint::text(painter, layout.badge, Qt::AlignCenter, m_badge);
 }
 
 } // namespace ui

@@ -10,13 +10,14 @@ class QPainter;
 namespace ui {
 
 struct NavButtonLayout {
-  QRectF marker; ///< the bar at the left edge of the checked button
+  QRectF marker; ///< the bar at the leading edge of the checked button
   QRectF icon;
   QRectF label; ///< null when compact
   QRectF badge; ///< null without a badge; when compact, the dot that stands for it
 };
 /// @param badgeTextWidth  in the badge's font; negative without a badge
-[[nodiscard]] NavButtonLayout navButtonLayout(const QSize& size, bool compact, int badgeTextWidth);
+[[nodiscard]] NavButtonLayout navButtonLayout(const QSize& size, bool compact, int badgeTextWidth,
+                                              Qt::LayoutDirection direction = Qt::LeftToRight);
 
 class NavButton : public PaintedButton {
   Q_OBJECT
@@ -24,7 +25,7 @@ class NavButton : public PaintedButton {
  public:
   explicit NavButton(const QString& icon, const QString& text, QWidget* parent = nullptr);
 
-  /// A short text at the right; empty takes it away. It belongs to the accessible name.
+  /// A short text at the far end; empty takes it away. It belongs to the accessible name.
   void setBadge(const QString& badge);
   [[nodiscard]] QString badge() const { return m_badge; }
   /// The icon alone, with a dot where there is a badge.

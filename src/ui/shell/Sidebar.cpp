@@ -6,6 +6,7 @@
 #include "ui/Theme.h"
 #include "ui/controls/factory.h"
 #include "ui/desktop.h"
+#include "ui/paint.h"
 #include "ui/shell/DriveCard.h"
 #include "ui/shell/NavButton.h"
 #include "ui/shell/SidebarToggle.h"
@@ -99,7 +100,7 @@ void Sidebar::buildEntries(QVBoxLayout* column, const QList<int>& pages) {
     column->addWidget(m_topRow);
   }
   m_heading = eyebrow(Words::tr("Clean"));
-  m_heading->setContentsMargins(kHeading);
+  m_heading->setContentsMargins(paint::mirrored(kHeading, layoutDirection()));
   column->addWidget(m_heading);
   for (const int page : kUpper)
     if (pages.contains(page)) column->addWidget(makeEntry(page));
@@ -227,7 +228,8 @@ void Sidebar::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void Sidebar::paintEvent(QPaintEvent* /*event*/) {
-  QPainter(this).fillRect(width() - 1, 0, 1, height(), Theme::get().line);
+  const int x = layoutDirection() == Qt::RightToLeft ? 0 : width() - 1; // towards the pages
+  QPainter(this).fillRect(x, 0, 1, height(), Theme::get().line);
 }
 
 } // namespace ui

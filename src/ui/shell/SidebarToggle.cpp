@@ -19,10 +19,11 @@ constexpr double kStroke = 1.2;
 
 } // namespace
 
-SidebarToggleLayout sidebarToggleLayout(const QSize& size) {
+SidebarToggleLayout sidebarToggleLayout(const QSize& size, Qt::LayoutDirection direction) {
   SidebarToggleLayout layout;
   layout.panel = QRectF((size.width() - kPanel) / 2, (size.height() - kPanel) / 2, kPanel, kPanel);
-  const double x = layout.panel.left() + kDividerX;
+  const bool mirrored = direction == Qt::RightToLeft; // as the sidebar itself
+  const double x = mirrored ? layout.panel.right() - kDividerX : layout.panel.left() + kDividerX;
   layout.divider = QLineF(x, layout.panel.top(), x, layout.panel.bottom());
   return layout;
 }
@@ -40,7 +41,7 @@ void SidebarToggle::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   if (lit) paint::roundedRect(&painter, rect(), kRadius, isDown() ? theme.press : theme.hover);
-  const SidebarToggleLayout layout = sidebarToggleLayout(size());
+  const SidebarToggleLayout layout = sidebarToggleLayout(size(), layoutDirection());
   const QPen ink = paint::pen(lit && !theme.mac ? theme.text : theme.text2, kStroke);
   paint::roundedRect(&painter, layout.panel, kPanelRadius, Qt::NoBrush, ink);
   painter.setPen(ink);

@@ -12,7 +12,8 @@ struct SidebarToggleLayout {
   QRectF panel;
   QLineF divider;
 };
-[[nodiscard]] SidebarToggleLayout sidebarToggleLayout(const QSize& size);
+[[nodiscard]] SidebarToggleLayout sidebarToggleLayout(const QSize& size,
+                                                      Qt::LayoutDirection direction = Qt::LeftToRight);
 
 /// A click of the mouse doesn't give it the focus, Tab does.
 class SidebarToggle : public PaintedButton {

@@ -4,6 +4,7 @@
 #include "ui/Theme.h"
 #include "ui/controls/factory.h"
 #include "ui/icons.h"
+#include "ui/paint.h"
 #include "ui/shell/CaptionButton.h"
 #include "ui/shell/words.h"
 
@@ -20,18 +21,20 @@ using Words = words::TitleBar;
 
 // Lengths in pixels.
 constexpr int kHeight = 40;
-constexpr int kLeft = 14;
-constexpr int kLogoRoom = 32;
+constexpr int kLogoRoom = 46; // from the edge to the name
 constexpr double kLogoX = 12;
 constexpr double kLogo = 22;
 
 } // namespace
 
-QRectF titleBarLogo(int height) { return {kLogoX, (height - kLogo) / 2, kLogo, kLogo}; }
+QRectF titleBarLogo(const QSize& bar, Qt::LayoutDirection direction) {
+  const QRectF logo(kLogoX, (bar.height() - kLogo) / 2, kLogo, kLogo);
+  return paint::mirrored(logo, QRectF(QPointF(), QSizeF(bar)), direction);
+}
 
 TitleBar::TitleBar(QWidget* window, QWidget* parent) : QWidget(parent), m_window(window) {
   setFixedHeight(kHeight);
-  QHBoxLayout* row = hbox(0, {kLeft, 0, 0, 0});
+  QHBoxLayout* row = hbox();
   setLayout(row);
   row->addSpacing(kLogoRoom);
   row->addWidget(label(identity::kName, "caption"));
@@ -74,7 +77,7 @@ void TitleBar::mouseDoubleClickEvent(QMouseEvent* event) {
 void TitleBar::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  icons::paintLogo(&painter, titleBarLogo(height()));
+  icons::paintLogo(&painter, titleBarLogo(size(), layoutDirection()));
 }
 
 } // namespace ui

@@ -8,8 +8,8 @@ namespace ui {
 
 class CaptionButton;
 
-/// Where the logo lies in a bar of this height.
-[[nodiscard]] QRectF titleBarLogo(int height);
+/// Where the logo lies in a bar of this size.
+[[nodiscard]] QRectF titleBarLogo(const QSize& bar, Qt::LayoutDirection direction = Qt::LeftToRight);
 
 /// Its empty parts move the window, and a double click there maximises it or brings it back.
 class TitleBar : public QWidget {

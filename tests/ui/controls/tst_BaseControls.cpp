@@ -282,6 +282,10 @@ void TestBaseControls::pillLayout() {
   QCOMPARE(layout.text.left(), 19.0);
   QCOMPARE(layout.text.center().y(), 15.0);
   QVERIFY(layout.text.width() >= 40);
+  const ui::PillLayout mirrored = ui::pillLayout({100, 30}, 40, Qt::RightToLeft);
+  QCOMPARE(mirrored.body, QRectF(33, 5, 67, 20));
+  QCOMPARE(mirrored.dot, QRectF(86, 12, 6, 6));
+  QCOMPARE(mirrored.text.right(), 81.0);
 }
 
 void TestBaseControls::pillColours_data() {

@@ -159,6 +159,9 @@ void TestButton::layoutCentresTheContent() {
   QCOMPARE(layout.radius, 10.0);
   QCOMPARE(layout.icon, QRectF(100.5 - 42, 15.5 - 8, 16, 16));
   QCOMPARE(layout.text, QRectF(100.5 - 42 + 24, 0.5, 62, 30));
+  const ui::ButtonLayout mirrored = ui::buttonLayout({201, 31}, 60, true, false, Qt::RightToLeft);
+  QCOMPARE(mirrored.icon, QRectF(100.5 + 42 - 16, 15.5 - 8, 16, 16));
+  QCOMPARE(mirrored.text, QRectF(100.5 + 42 - 24 - 62, 0.5, 62, 30));
 }
 
 void TestButton::layoutWithoutIcon() {

@@ -47,6 +47,7 @@ class TestChoices : public QObject {
 
   void segmentLayout();
   void segmentedSizes();
+  void arrowsFollowTheDirection();
   void segmentedWithoutItems();
   void segmentedPaints();
   void segmentedByMouse();
@@ -65,6 +66,8 @@ void TestChoices::switchLayout() {
   QCOMPARE(on.track, off.track);
   QCOMPARE(on.knob, QRectF(39.5 - 18, 3.5, 15, 15));
   QCOMPARE(ui::switchLayout({60, 32}, false).track, QRectF(0.5, 5.5, 39, 21));
+  QCOMPARE(ui::switchLayout({40, 22}, true, Qt::RightToLeft).knob, off.knob);
+  QCOMPARE(ui::switchLayout({40, 22}, false, Qt::RightToLeft).knob, on.knob);
 }
 
 void TestChoices::switchPaints() {
@@ -168,6 +171,8 @@ void TestChoices::switchIsReadOut() {
 void TestChoices::segmentLayout() {
   QCOMPARE(ui::segmentLayout({10, 30}, 34), QList<QRectF>({QRectF(2, 2, 34, 30), QRectF(36, 2, 54, 30)}));
   QVERIFY(ui::segmentLayout({}, 30).isEmpty());
+  const QList<QRectF> mirrored{QRectF(56, 2, 34, 30), QRectF(2, 2, 54, 30)};
+  QCOMPARE(ui::segmentLayout({10, 30}, 34, Qt::RightToLeft), mirrored);
 }
 
 void TestChoices::segmentedSizes() {
@@ -185,6 +190,28 @@ void TestChoices::segmentedSizes() {
   QCOMPARE(segments[0], QRectF(2, 2, textWidth(u"Small"_s) + 24, 30));
   QCOMPARE(segments[1].left(), segments[0].right());
   QCOMPARE(segments[2].right(), width - 2.0);
+}
+
+// The arrow towards a segment, or towards the side where the knob lies.
+void TestChoices::arrowsFollowTheDirection() {
+  Segmented segments(kItems);
+  segments.setLayoutDirection(Qt::RightToLeft);
+  QTest::keyClick(&segments, Qt::Key_Left);
+  QTest::keyClick(&segments, Qt::Key_Space);
+  QCOMPARE(segments.current(), 1);
+  QTest::keyClick(&segments, Qt::Key_Right);
+  QTest::keyClick(&segments, Qt::Key_Space);
+  QCOMPARE(segments.current(), 0);
+  Switch control;
+  control.setLayoutDirection(Qt::RightToLeft);
+  QTest::keyClick(&control, Qt::Key_Right);
+  QVERIFY(!control.isChecked());
+  QTest::keyClick(&control, Qt::Key_Left);
+  QVERIFY(control.isChecked());
+  QTest::keyClick(&control, Qt::Key_Left);
+  QVERIFY(control.isChecked());
+  QTest::keyClick(&control, Qt::Key_Right);
+  QVERIFY(!control.isChecked());
 }
 
 void TestChoices::segmentedWithoutItems() {

@@ -70,6 +70,7 @@ class TestHeadline : public QObject {
   void heightFollowsTheWidth();
   void neverLaidOutBelow80();
   void paintsInkAndShine();
+  void standsAtTheRightIfMirrored();
   void withoutAccentNothingShines();
   void wrapsWhereItIsPainted();
   void givesWayInALayout();
@@ -170,6 +171,17 @@ void TestHeadline::paintsInkAndShine() {
     QVERIFY2(first.green() > 190 && first.red() < 50 && first.blue() > 220, qPrintable(first.name()));
     QVERIFY2(last.red() > 120 && last.green() < 100 && last.blue() > 200, qPrintable(last.name()));
   }
+}
+
+void TestHeadline::standsAtTheRightIfMirrored() {
+  Headline headline(30);
+  headline.set(u"%1 free"_s, u"12 GB"_s);
+  headline.resize(600, 40);
+  QCOMPARE(ink(rendered(headline), 300, 600).alpha(), 0);
+  headline.setLayoutDirection(Qt::RightToLeft);
+  const QImage mirrored = rendered(headline);
+  QCOMPARE(ink(mirrored, 0, 300).alpha(), 0);
+  QVERIFY(isNear(ink(mirrored, 580, 600), Theme::get().text)); // the last word, in the text's own order
 }
 
 void TestHeadline::withoutAccentNothingShines() {

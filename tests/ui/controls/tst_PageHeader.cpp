@@ -86,6 +86,7 @@ class TestPageHeader : public QObject {
   void geometry();
   void toolbarGeometry_data();
   void toolbarGeometry();
+  void toolbarMirrored();
   void linesHaveTheirRoles();
   void emptyLinesLeaveNoGap();
   void actionsStandAtTheBottomRight();
@@ -150,6 +151,14 @@ void TestPageHeader::toolbarGeometry() {
   title->ensurePolished();
   QCOMPARE(title->font().pixelSize(), 15);
   QCOMPARE(int(title->font().weight()), 600);
+}
+
+void TestPageHeader::toolbarMirrored() {
+  PageHeader header(u"Title"_s);
+  header.setLayoutDirection(Qt::RightToLeft);
+  header.setToolbar(true, 124);
+  QCOMPARE(outer(header)->contentsMargins(), QMargins(28, 0, 124, 6));
+  QVERIFY(Lines(header).title->alignment() & Qt::AlignRight); // rich text knows its own direction alone
 }
 
 void TestPageHeader::linesHaveTheirRoles() {

@@ -96,6 +96,7 @@ class TestSelect : public QObject {
   void popupSizes();
   void popupPlaces_data();
   void popupPlaces();
+  void popupPlacesMirrored();
   void popupRows();
 
   void emptyOpensNothing();
@@ -144,6 +145,11 @@ void TestSelect::layout() {
   QCOMPARE(closed.chip, QRectF(141, 7.5, 16, 16));
   QCOMPARE(closed.chevron, QPointF(144, 15.5));
   QCOMPARE(ui::selectLayout({161, 31}, true).chevron, QPointF(144, 16));
+  const ui::SelectLayout mirrored = ui::selectLayout({161, 31}, false, Qt::RightToLeft);
+  QCOMPARE(mirrored.body, closed.body);
+  QCOMPARE(mirrored.text, QRectF(34.5, 0.5, 116, 30));
+  QCOMPARE(mirrored.chip, QRectF(4, 7.5, 16, 16));
+  QCOMPARE(mirrored.chevron, QPointF(17, 15.5));
 }
 
 void TestSelect::paints() {
@@ -242,6 +248,15 @@ void TestSelect::popupPlaces() {
   QFETCH(int, row);
   QFETCH(QPoint, place);
   QCOMPARE(SelectPopupLayout(mac).popupPlace(select, row, {200, 140}, QRect(QPoint(0, 30), QPoint(799, 599))), place);
+}
+
+// Its rows hang over by as much at the other side.
+void TestSelect::popupPlacesMirrored() {
+  const QRect select(300, 200, 150, 30);
+  const QRect screen(QPoint(0, 30), QPoint(799, 599));
+  const auto rtl = Qt::RightToLeft;
+  QCOMPARE(SelectPopupLayout(true).popupPlace(select, 0, {200, 140}, screen, rtl), QPoint(450 + 34 - 200, 184));
+  QCOMPARE(SelectPopupLayout(false).popupPlace(select, 0, {200, 140}, screen, rtl).x(), 450 + 14 - 200);
 }
 
 void TestSelect::popupRows() {

@@ -226,6 +226,10 @@ void TestFactory::scrollPageKeepsItsEdge() {
   content->setFixedHeight(50);
   QTRY_VERIFY(!area->verticalScrollBar()->isVisible());
   QTRY_COMPARE(edge(), 400 - 28);
+  area->setLayoutDirection(Qt::RightToLeft);
+  content->setFixedHeight(900);
+  QTRY_VERIFY(area->verticalScrollBar()->isVisible());
+  QTRY_COMPARE(content->mapTo(area.get(), QPoint()).x(), 28); // beside the bar, which is at the left then
 }
 
 void TestFactory::dragTakesTheLeftButtonOnly() {

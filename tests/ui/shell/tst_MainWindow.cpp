@@ -107,6 +107,7 @@ class TestMainWindow : public QObject {
   void messages();
   void collapsedInTheMacMetrics();
   void floatingToggleStandsAtTheEdge();
+  void floatingToggleMirrored();
   void noToggleOfItsOwnInTheOthers();
   void geometryComesBack();
   void refusedGeometryIsNone();
@@ -310,6 +311,15 @@ void TestMainWindow::floatingToggleStandsAtTheEdge() {
     if (one->isVisible()) QCOMPARE(one->pos(), QPoint(12, 8));
   for (const PageHeader* header : m_window->findChildren<PageHeader*>())
     QCOMPARE(header->layout()->contentsMargins().left(), 12 + 30 + 10);
+}
+
+void TestMainWindow::floatingToggleMirrored() {
+  m_window->setLayoutDirection(Qt::RightToLeft);
+  m_window->setSidebarCollapsed(true);
+  for (const SidebarToggle* one : m_window->findChildren<SidebarToggle*>())
+    if (one->isVisible()) QTRY_COMPARE(one->parentWidget()->width() - one->geometry().right() - 1, 12);
+  for (const PageHeader* header : m_window->findChildren<PageHeader*>())
+    QCOMPARE(header->layout()->contentsMargins().right(), 12 + 30 + 10);
 }
 
 void TestMainWindow::noToggleOfItsOwnInTheOthers() {

@@ -280,6 +280,11 @@ void TestSidebar::badgeLayout() {
   const NavButtonLayout badged = navButtonLayout({212, 34}, false, 30);
   QCOMPARE(badged.badge, QRectF(212 - 8 - 44, 7, 44, 20));
   QCOMPARE(badged.label.width(), 212.0 - 48 - 52);
+  const NavButtonLayout mirrored = navButtonLayout({212, 34}, false, 30, Qt::RightToLeft);
+  QCOMPARE(mirrored.marker, QRectF(209, 10, 3, 14));
+  QCOMPARE(mirrored.icon, QRectF(184, 9, 16, 16));
+  QCOMPARE(mirrored.label, QRectF(60, 0, 112, 34)); // its end as far from the icon as its start was
+  QCOMPARE(mirrored.badge, QRectF(8, 7, 44, 20));
 }
 
 void TestSidebar::compactLayout() {
@@ -288,6 +293,7 @@ void TestSidebar::compactLayout() {
   QCOMPARE(layout.badge.size(), QSizeF(7, 7));
   QCOMPARE(layout.badge.center(), QPointF(29, 12));
   QVERIFY(layout.label.isNull());
+  QCOMPARE(navButtonLayout({40, 38}, true, 30, Qt::RightToLeft).badge.center(), QPointF(11, 12));
   QVERIFY(navButtonLayout({40, 38}, true, -1).badge.isNull());
 }
 
@@ -311,6 +317,9 @@ void TestSidebar::lineAtTheRight() {
   sidebar->resize(sidebar->expandedWidth(), 600);
   QVERIFY(pixels::isNear(pixels::rendered(*sidebar).pixelColor(sidebar->width() - 1, 300), Theme::get().line));
   QCOMPARE(pixels::rendered(*sidebar).pixelColor(sidebar->width() - 2, 300).alpha(), 0);
+  sidebar->setLayoutDirection(Qt::RightToLeft); // the pages are at its left then
+  QVERIFY(pixels::isNear(pixels::rendered(*sidebar).pixelColor(0, 300), Theme::get().line));
+  QCOMPARE(pixels::rendered(*sidebar).pixelColor(sidebar->width() - 1, 300).alpha(), 0);
 }
 
 void TestSidebar::driveLayout() {
@@ -319,6 +328,11 @@ void TestSidebar::driveLayout() {
   QCOMPARE(wide.circle, QRectF(14.5, 16.5, 31, 31));
   QCOMPARE(wide.name, QRectF(60, 13, 142, 18));
   QCOMPARE(wide.free, QRectF(60, 32, 142, 18));
+  const DriveCardLayout mirrored = driveCardLayout({212, 64}, false, Qt::RightToLeft);
+  QCOMPARE(mirrored.body, wide.body);
+  QCOMPARE(mirrored.circle, QRectF(166.5, 16.5, 31, 31));
+  QCOMPARE(mirrored.name, QRectF(10, 13, 142, 18));
+  QCOMPARE(mirrored.free, QRectF(10, 32, 142, 18));
   const DriveCardLayout compact = driveCardLayout({40, 44}, true);
   QVERIFY(compact.body.isNull());
   QCOMPARE(compact.circle, QRectF(9, 11, 22, 22));
@@ -380,6 +394,7 @@ void TestSidebar::toggleLayout() {
   const SidebarToggleLayout layout = sidebarToggleLayout({30, 26});
   QCOMPARE(layout.panel, QRectF(8.5, 6.5, 13, 13));
   QCOMPARE(layout.divider, QLineF(13.7, 6.5, 13.7, 19.5));
+  QCOMPARE(sidebarToggleLayout({30, 26}, Qt::RightToLeft).divider, QLineF(16.3, 6.5, 16.3, 19.5));
   Theme::get().mac = false;
   QCOMPARE(SidebarToggle().size(), QSize(36, 36));
 }

@@ -78,7 +78,8 @@ void TestTitleBar::order() {
 }
 
 void TestTitleBar::logoPlace() {
-  QCOMPARE(titleBarLogo(40), QRectF(12, 9, 22, 22));
+  QCOMPARE(titleBarLogo({960, 40}), QRectF(12, 9, 22, 22));
+  QCOMPARE(titleBarLogo({960, 40}, Qt::RightToLeft), QRectF(926, 9, 22, 22)); // clear of the buttons at the left
   const QImage shown = pixels::rendered(*m_bar);
   QVERIFY(shown.pixelColor(23, 20).alpha() > 0);
   QCOMPARE(shown.pixelColor(8, 20).alpha(), 0);
