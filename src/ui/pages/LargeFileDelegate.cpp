@@ -79,7 +79,7 @@ void paintKind(QPainter* painter, const FileCellLayout& layout, const QString& k
 void paintText(QPainter* painter, const QRect& room, Qt::Alignment alignment, const QColor& colour,
                const QString& text) {
   painter->setPen(colour);
-  painter->drawText(room, int(alignment) | Qt::TextSingleLine, text);
+  paint::text(painter, room, int(alignment) | Qt::TextSingleLine, text);
 }
 
 void paintName(QPainter* painter, const QRect& room, const LargeFile& file) {
@@ -99,9 +99,23 @@ void paintAge(QPainter* painter, const QRect& room, const QDateTime& lastUsed, i
   paintText(painter, room, kRightMiddle, unused ? theme.warn : theme.text2, fmt::age(lastUsed));
 }
 
+/// Every piece at the other side of the cell, with its shape as it is.
+FileCellLayout mirrored(FileCellLayout layout, const QRect& cell) {
+  const auto turned = [&cell](const QRectF& rect) { return paint::mirrored(rect, cell, Qt::RightToLeft); };
+  const QPointF step = turned(layout.box).topLeft() - layout.box.topLeft();
+  layout.box.translate(step);
+  layout.boxBody.translate(step);
+  layout.tick.translate(step);
+  layout.tile = turned(layout.tile);
+  layout.icon = turned(layout.icon);
+  layout.name = turned(layout.name).toRect();
+  layout.text = turned(layout.text).toRect();
+  return layout;
+}
+
 } // namespace
 
-FileCellLayout fileCellLayout(const QRect& cell) {
+FileCellLayout fileCellLayout(const QRect& cell, Qt::LayoutDirection direction) {
   const int middle = cell.center().y();
   FileCellLayout layout;
   layout.line = QRect(cell.left(), cell.bottom(), cell.width(), 1);
@@ -114,7 +128,7 @@ FileCellLayout fileCellLayout(const QRect& cell) {
   layout.icon = layout.tile.adjusted(kIconInset, kIconInset, -kIconInset, -kIconInset);
   layout.name = cell.adjusted(kNameLeft, kNameInset, -kSide, -kNameInset);
   layout.text = cell.adjusted(kSide, 0, -kSide, 0);
-  return layout;
+  return direction == Qt::RightToLeft ? mirrored(layout, cell) : layout;
 }
 
 LargeFileDelegate::LargeFileDelegate(LargeFilesModel* model, QAbstractItemView* view)
@@ -152,7 +166,7 @@ void LargeFileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
 
 void LargeFileDelegate::paintCell(QPainter* painter, const QRect& cell, const QModelIndex& index) const {
   const Theme& theme = Theme::get();
-  const FileCellLayout layout = fileCellLayout(cell);
+  const FileCellLayout layout = fileCellLayout(cell, m_view->layoutDirection());
   const auto file = index.data(LargeFilesModel::FileRole).value<LargeFile>();
   painter->fillRect(layout.line, theme.line);
   switch (index.column()) {

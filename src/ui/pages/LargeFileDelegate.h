@@ -25,7 +25,7 @@ struct FileCellLayout {
   QRect name;  ///< the name at its top, the folder at its bottom
   QRect text;  ///< of the cells that hold one line
 };
-[[nodiscard]] FileCellLayout fileCellLayout(const QRect& cell);
+[[nodiscard]] FileCellLayout fileCellLayout(const QRect& cell, Qt::LayoutDirection direction = Qt::LeftToRight);
 
 /// Every cell by hand: nothing is left to the style. It follows the pointer over the list, whose rows move under a
 /// resting one when the list scrolls.

@@ -45,6 +45,7 @@ class TestLargeFileDelegate : public QObject {
 
   void layoutOfACell();
   void layoutMovesWithTheCell();
+  void layoutFromRightToLeft();
   void everyCellIsOneHeight();
   void lineUnderEveryCell();
   void emptyBox();
@@ -152,6 +153,18 @@ void TestLargeFileDelegate::layoutMovesWithTheCell() {
   QCOMPARE(there.tile, here.tile.translated(by));
   QCOMPARE(there.name, here.name.translated(by));
   QCOMPARE(there.text, here.text.translated(by));
+}
+
+void TestLargeFileDelegate::layoutFromRightToLeft() {
+  const ui::FileCellLayout layout = ui::fileCellLayout(QRect(40, 0, 300, 54), Qt::RightToLeft);
+  QCOMPARE(layout.line, QRect(40, 53, 300, 1));
+  QCOMPARE(layout.box, QRectF(310, 17, 18, 18));
+  QCOMPARE(layout.boxBody, QRectF(310.75, 17.75, 16.5, 16.5));
+  QCOMPARE(layout.tick, QPolygonF({{315, 26.5}, {318, 29.5}, {323.5, 23}})); // a tick has no direction
+  QCOMPARE(layout.tile, QRectF(300.5, 12.5, 27, 27));
+  QCOMPARE(layout.icon, QRectF(307, 19, 14, 14));
+  QCOMPARE(layout.name, QRect(52, 9, 236, 36)); // 52 from the right end, 12 from the left one
+  QCOMPARE(layout.text, QRect(52, 0, 276, 54));
 }
 
 void TestLargeFileDelegate::everyCellIsOneHeight() {
