@@ -81,8 +81,6 @@ void PageHeader::setToolbar(bool on, int reserve) {
   m_outer->setContentsMargins(on ? paint::mirrored(toolbar, layoutDirection()) : pageMargins());
   m_titleLabel->setStyleSheet(on ? u"font-size: 15px; font-weight: 600;"_s : QString());
   m_titleLabel->setMinimumHeight(on ? kToolbarHeight : 0);
-  const Qt::Alignment side = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight | Qt::AlignAbsolute : Qt::AlignLeft;
-  m_titleLabel->setAlignment(side | Qt::AlignVCenter);
   m_outer->setAlignment(m_actions, on ? Qt::AlignTop : Qt::AlignBottom);
   const int actionsTop = Theme::get().mac ? kToolbarActionsTopMac : kToolbarActionsTopWin;
   m_actions->setContentsMargins(0, on ? actionsTop : 0, 0, 0);
@@ -94,6 +92,8 @@ void PageHeader::refreshEyebrow() { m_eyebrowLabel->setVisible(!m_eyebrow.isEmpt
 
 // The format is named where the text is HTML for sure: by itself, the label takes "&amp;" for plain text.
 void PageHeader::refreshTitle() {
+  const Qt::Alignment side = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight | Qt::AlignAbsolute : Qt::AlignLeft;
+  m_titleLabel->setAlignment(side | Qt::AlignVCenter);
   m_titleLabel->setTextFormat(m_toolbar ? Qt::RichText : Qt::AutoText);
   if (!m_toolbar) {
     m_titleLabel->setText(m_title);

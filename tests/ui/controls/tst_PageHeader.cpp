@@ -156,6 +156,8 @@ void TestPageHeader::toolbarGeometry() {
 void TestPageHeader::toolbarMirrored() {
   PageHeader header(u"Title"_s);
   header.setLayoutDirection(Qt::RightToLeft);
+  header.setTitle(u"<b>12 GB</b> found"_s);
+  QVERIFY(Lines(header).title->alignment() & Qt::AlignRight);
   header.setToolbar(true, 124);
   QCOMPARE(outer(header)->contentsMargins(), QMargins(28, 0, 124, 6));
   QVERIFY(Lines(header).title->alignment() & Qt::AlignRight); // rich text knows its own direction alone
