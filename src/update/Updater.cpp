@@ -79,6 +79,8 @@ void Updater::check() {
 
 void Updater::askFeed(const QUrl& url) {
   m_reply = get(url, timeouts.feed);
+  m_reply->setReadBufferSize(
+      kMostWaiting); // not for a download: what is longer than this was seen to stall with Qt 6.4
   connect(m_reply, &QNetworkReply::readyRead, this, [this] {
     if (m_reply->bytesAvailable() > feed::kMostBytes) stop(unreadable());
   });
@@ -97,7 +99,6 @@ QNetworkReply* Updater::get(const QUrl& url, std::chrono::milliseconds timeout) 
   request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false); // it sends on to who doesn't read
   m_failure.clear();
   QNetworkReply* const reply = m_network->get(request);
-  reply->setReadBufferSize(kMostWaiting);
   connect(reply, &QNetworkReply::metaDataChanged, this, &Updater::onHead);
   return reply;
 }

@@ -53,7 +53,8 @@ bool readDownload(const QJsonObject& entry, const DownloadKeys& keys, const QStr
 
 bool readChanges(const QJsonValue& value, QStringList* out) {
   if (!value.isArray()) return false;
-  for (const QJsonValue& line : value.toArray()) {
+  const QJsonArray lines = value.toArray();
+  for (const auto& line : lines) {
     if (!line.isString()) return false;
     out->append(line.toString());
   }
