@@ -36,6 +36,7 @@ bool isOnTheReleaseDomain(const QUrl& url) {
   const auto ends = [](QChar c) { return c == u'/' || c == u'?' || c == u'#'; };
   const QString rest = text.mid(8);
   QString authority(rest.begin(), std::find_if(rest.begin(), rest.end(), ends) - rest.begin());
+  if (authority.startsWith(u'@')) authority.remove(0, 1);                        // a user without a name is none
   if (authority.contains(u':')) authority.truncate(authority.lastIndexOf(u':')); // a port
   return !authority.contains(u'@') &&
          (authority == deployment::domain() || authority.endsWith(u'.' + deployment::domain()));
