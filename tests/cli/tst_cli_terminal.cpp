@@ -15,6 +15,7 @@
 #include <csignal>
 
 #include <fcntl.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -140,10 +141,14 @@ void tst_cli_terminal::yesAndSignalAtOnce() {
   const auto before = wholeTree(*m_home);
   Pty pty({u"clean"_s, u"--delete"_s});
   QVERIFY(pty.shows(kQuestion));
-  ::kill(static_cast<pid_t>(pty.pid()), SIGSTOP); // so that it finds both when it goes on
+  const auto pid = static_cast<pid_t>(pty.pid());
+  ::kill(pid, SIGSTOP); // so that it finds both when it goes on
+  int status = 0;
+  QCOMPARE(::waitpid(pid, &status, WUNTRACED), pid); // it takes a while, and what is typed before may be read before
+  QVERIFY(WIFSTOPPED(status));
   pty.type("y\n");
-  ::kill(static_cast<pid_t>(pty.pid()), SIGINT);
-  ::kill(static_cast<pid_t>(pty.pid()), SIGCONT);
+  QCOMPARE(::tgkill(pid, pid, SIGINT), 0); // the thread that asks: an idle one could come late with it
+  ::kill(pid, SIGCONT);
   QCOMPARE(pty.finish(), 130);
   QCOMPARE(wholeTree(*m_home), before);
 }
