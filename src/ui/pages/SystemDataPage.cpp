@@ -21,8 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace ui {
 
-using Words = SystemDataWords;
-
 SystemDataPage::SystemDataPage(AppState* state, QWidget* parent)
     : QWidget(parent),
       m_state(state),
@@ -51,8 +49,8 @@ SystemDataPage::SystemDataPage(AppState* state, QWidget* parent)
 }
 
 QWidget* SystemDataPage::buildHeader() {
-  auto* header = new PageHeader(Words::tr("System Data"));
-  auto* rescan = new Button(Words::tr("Rescan"), nullptr, u"refresh"_s);
+  auto* header = new PageHeader(SystemDataWords::tr("System Data"));
+  auto* rescan = new Button(SystemDataWords::tr("Rescan"), nullptr, u"refresh"_s);
   connect(rescan, &Button::clicked, m_state, &AppState::startSystemDataScan);
   header->addAction(rescan);
   m_rescanButton = rescan;
@@ -60,11 +58,12 @@ QWidget* SystemDataPage::buildHeader() {
 }
 
 QWidget* SystemDataPage::buildStart() {
-  const StartView start = startView({.icon = u"drive"_s,
-                                     .title = Words::tr("See what's inside System Data"),
-                                     .text = Words::tr("Snapshots, backups, developer files, caches and more."),
-                                     .button = Words::tr("Scan System Data"),
-                                     .buttonIcon = u"sparkle"_s});
+  const StartView start =
+      startView({.icon = u"drive"_s,
+                 .title = SystemDataWords::tr("See what's inside System Data"),
+                 .text = SystemDataWords::tr("Snapshots, backups, developer files, caches and more."),
+                 .button = SystemDataWords::tr("Scan System Data"),
+                 .buttonIcon = u"sparkle"_s});
   connect(start.start, &Button::clicked, m_state, &AppState::startSystemDataScan);
   return start.view;
 }
@@ -104,7 +103,7 @@ void SystemDataPage::act(const QString& id) {
   if (item == items.end()) return;
   if (item->action == SystemDataItem::CleanInCleanup) return emit openCleanup();
   if (!item->destructive()) return m_state->runSystemDataAction(id);
-  const Words::Question question = Words::questionFor(*item);
+  const SystemDataWords::Question question = SystemDataWords::questionFor(*item);
   emit confirmAction(question.title, question.body, question.confirm, id);
 }
 

@@ -30,8 +30,6 @@ namespace ui {
 
 namespace {
 
-using Words = SystemDataWords;
-
 // Lengths in pixels.
 constexpr int kHeadlineSpacing = 12;
 constexpr QMargins kHeadlineMargins(20, 18, 20, 20);
@@ -66,8 +64,8 @@ qint64 sumOf(const QList<SystemDataItem>& items, bool actionableOnly) {
 class HeadlineCard : public Card, public AccessibleText {
  public:
   HeadlineCard(const QString& total, const QString& text) : m_shown(total + u' ' + plain(text)) {
-    setToolTip(Words::explanation());
-    setAccessibleDescription(plain(Words::explanation()));
+    setToolTip(SystemDataWords::explanation());
+    setAccessibleDescription(plain(SystemDataWords::explanation()));
   }
   [[nodiscard]] QString shownText() const override { return m_shown; }
 
@@ -79,7 +77,7 @@ class HeadlineCard : public Card, public AccessibleText {
 };
 
 QString headlineText(const QList<SystemDataItem>& items) {
-  return Words::tr("measured in System Data · <b style='color:%1'>%2</b> you can act on")
+  return SystemDataWords::tr("measured in System Data · <b style='color:%1'>%2</b> you can act on")
       .arg(Theme::get().text.name(), fmt::bytes(sumOf(items, true)));
 }
 
@@ -92,7 +90,8 @@ QLayout* headlineLine(const QString& total, const QString& html, SystemDataWork 
   line->addWidget(text, 1, Qt::AlignBottom);
   if (work == SystemDataWork::None) return line;
   line->addWidget(new Spinner(kSpinner));
-  line->addWidget(label(work == SystemDataWork::Acting ? Words::tr("Working…") : Words::tr("Updating…"), "caption"));
+  line->addWidget(label(
+      work == SystemDataWork::Acting ? SystemDataWords::tr("Working…") : SystemDataWords::tr("Updating…"), "caption"));
   return line;
 }
 
@@ -101,12 +100,13 @@ StackBar* shareBar(const QList<SystemDataItem>& items, qint64 total) {
   QList<StackBar::Segment> segments;
   for (const SystemDataItem& item : items) {
     if (item.bytes < 1) break;
-    segments << StackBar::Segment{
-        .bytes = item.bytes, .colour = item.color, .tip = Words::tr("%1 · %2").arg(item.title, fmt::bytes(item.bytes))};
+    segments << StackBar::Segment{.bytes = item.bytes,
+                                  .colour = item.color,
+                                  .tip = SystemDataWords::tr("%1 · %2").arg(item.title, fmt::bytes(item.bytes))};
   }
   auto* bar = new StackBar(kBarHeight);
   bar->setSegments(segments, std::max<qint64>(1, total));
-  bar->setAccessibleName(Words::tr("System Data"));
+  bar->setAccessibleName(SystemDataWords::tr("System Data"));
   return bar;
 }
 
@@ -166,8 +166,8 @@ void SystemDataResults::rebuild(const QList<SystemDataItem>& items, SystemDataWo
   const int column = systemDataColumn(items);
   addHeadline(items, work);
   if (std::ranges::any_of(items, &SystemDataItem::denied)) addNote();
-  addList(Words::tr("You can reclaim"), actionable, column, busy);
-  addList(Words::managed(), others, column, busy);
+  addList(SystemDataWords::tr("You can reclaim"), actionable, column, busy);
+  addList(SystemDataWords::managed(), others, column, busy);
 
   // Before the layout does: a page that is shorter for a moment would forget how far it is scrolled.
   for (QWidget* child : m_content->parentWidget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))

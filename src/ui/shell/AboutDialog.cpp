@@ -50,15 +50,15 @@ void AboutDialog::addIdentity(QVBoxLayout* column) {
   column->addWidget(logo, 0, Qt::AlignHCenter);
   column->addSpacing(kBelowLogo);
   column->addWidget(centred(identity::kName, "h2"));
-  column->addWidget(centred(words::Overlay::tr("Version %1").arg(identity::kVersion), "sub"));
+  column->addWidget(centred(OverlayWords::tr("Version %1").arg(identity::kVersion), "sub"));
   column->addSpacing(kBelowVersion);
-  column->addWidget(centred(words::Overlay::tr("© 2026 the Tarnwick authors"), "micro"));
+  column->addWidget(centred(OverlayWords::tr("© 2026 the Tarnwick authors"), "micro"));
   column->addSpacing(kAboveButtons);
 }
 
 void AboutDialog::addButtons(QVBoxLayout* column) {
-  auto* site = new Button(words::MenuBar::tr("Tarnwick Website"), nullptr, u"external"_s);
-  auto* done = new Button(words::Overlay::tr("Close"), "primary");
+  auto* site = new Button(MenuBarWords::tr("Tarnwick Website"), nullptr, u"external"_s);
+  auto* done = new Button(OverlayWords::tr("Close"), "primary");
   done->setDefault(true);
   connect(site, &QPushButton::clicked, this, [] { website::open(u"/tarnwick/"); });
   connect(done, &QPushButton::clicked, this, &QWidget::close);

@@ -13,8 +13,6 @@
 namespace ui {
 namespace {
 
-using Words = words::Overlay;
-
 // Lengths in pixels.
 constexpr int kWidth = 460;
 constexpr int kBodyGap = 6;
@@ -26,15 +24,16 @@ constexpr QMargins kRow(24, 16, 24, 16);
 } // namespace
 
 CloseDialog::CloseDialog(QWidget* parent)
-    : Overlay(parent), m_remember(new QCheckBox(Words::tr("Remember my choice"))) {
+    : Overlay(parent), m_remember(new QCheckBox(OverlayWords::tr("Remember my choice"))) {
   panel->setFixedWidth(kWidth);
-  const QString title = Words::tr("Keep Tarnwick running?");
+  const QString title = OverlayWords::tr("Keep Tarnwick running?");
   setAccessibleName(title);
-  QLabel* text = label(Words::tr("Tarnwick can stay in the system tray when you close the window, so scheduled scans "
-                                 "and low space alerts keep working. You can open it again from the tray icon."),
-                       "sub");
+  QLabel* text =
+      label(OverlayWords::tr("Tarnwick can stay in the system tray when you close the window, so scheduled scans "
+                             "and low space alerts keep working. You can open it again from the tray icon."),
+            "sub");
   text->setWordWrap(true);
-  QLabel* hint = label(Words::tr("You can change this in Settings."), "micro");
+  QLabel* hint = label(OverlayWords::tr("You can change this in Settings."), "micro");
   m_remember->setChecked(true);
   connect(m_remember, &QCheckBox::toggled, hint, &QWidget::setVisible);
 
@@ -45,9 +44,9 @@ CloseDialog::CloseDialog(QWidget* parent)
   body->addWidget(m_remember);
   body->addWidget(hint);
 
-  auto* keep = new Button(Words::tr("Keep in tray"), "primary");
+  auto* keep = new Button(OverlayWords::tr("Keep in tray"), "primary");
   keep->setDefault(true);
-  auto* quit = new Button(Words::tr("Quit"));
+  auto* quit = new Button(OverlayWords::tr("Quit"));
   connect(keep, &QPushButton::clicked, this, [this] { choose(true); });
   connect(quit, &QPushButton::clicked, this, [this] { choose(false); });
   QHBoxLayout* row = hbox(kButtonGap, kRow);

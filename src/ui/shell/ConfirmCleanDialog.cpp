@@ -22,8 +22,6 @@
 namespace ui {
 namespace {
 
-using Words = words::Overlay;
-
 // Lengths in pixels.
 constexpr int kAboveCard = 8;
 constexpr int kRowGap = 10;
@@ -37,9 +35,10 @@ QLabel* wrapped(const QString& text) {
 }
 
 QString message(bool toTrash, bool anyPermanent) {
-  if (!toTrash) return Words::tr("Permanent delete is on. These files can't be recovered.");
-  const QString text = anyPermanent ? Words::tr("Emptying the %1 can't be undone. Everything else goes to the %1.")
-                                    : Words::tr("Everything will be moved to the %1, so you can restore it later.");
+  if (!toTrash) return OverlayWords::tr("Permanent delete is on. These files can't be recovered.");
+  const QString text = anyPermanent
+                           ? OverlayWords::tr("Emptying the %1 can't be undone. Everything else goes to the %1.")
+                           : OverlayWords::tr("Everything will be moved to the %1, so you can restore it later.");
   return text.arg(platform::trashName());
 }
 
@@ -79,8 +78,8 @@ ConfirmCleanDialog::ConfirmCleanDialog(AppState* state, QWidget* parent) : Overl
   body->addSpacing(kAboveCard);
   addCategories(body);
   const bool danger = anyPermanent || !AppSettings::instance().moveToTrash();
-  Button* confirm =
-      dialogFooter(this, danger ? Words::tr("Clean and delete") : Words::tr("Clean"), danger ? "danger" : "primary");
+  Button* confirm = dialogFooter(this, danger ? OverlayWords::tr("Clean and delete") : OverlayWords::tr("Clean"),
+                                 danger ? "danger" : "primary");
   connect(confirm, &QPushButton::clicked, this, [this] {
     emit accepted();
     close();
@@ -88,7 +87,7 @@ ConfirmCleanDialog::ConfirmCleanDialog(AppState* state, QWidget* parent) : Overl
 }
 
 void ConfirmCleanDialog::addTexts(QVBoxLayout* body, bool anyPermanent) {
-  const QString title = Words::tr("Clean %1?").arg(fmt::bytes(m_state->selectedBytes()));
+  const QString title = OverlayWords::tr("Clean %1?").arg(fmt::bytes(m_state->selectedBytes()));
   setAccessibleName(title);
   body->addWidget(label(title, "h2"));
   body->addWidget(wrapped(message(AppSettings::instance().moveToTrash(), anyPermanent)));
@@ -98,11 +97,11 @@ void ConfirmCleanDialog::addTexts(QVBoxLayout* body, bool anyPermanent) {
 void ConfirmCleanDialog::addWhatStays(QVBoxLayout* body) {
   const qint64 noTrash = AppSettings::instance().moveToTrash() ? m_state->selectedBytesWithoutTrash() : 0;
   if (noTrash > 0)
-    body->addWidget(wrapped(Words::tr("%1 of it will stay: there is no %2 on its volume.")
+    body->addWidget(wrapped(OverlayWords::tr("%1 of it will stay: there is no %2 on its volume.")
                                 .arg(fmt::bytes(noTrash), platform::trashName())));
   const InUse used = inUse(m_state->selectedResults());
   if (!used.apps.isEmpty())
-    body->addWidget(wrapped(Words::tr("%1 of it will stay while these apps are open: %2.")
+    body->addWidget(wrapped(OverlayWords::tr("%1 of it will stay while these apps are open: %2.")
                                 .arg(fmt::bytes(used.bytes), used.apps.join(QStringLiteral(", ")))));
 }
 

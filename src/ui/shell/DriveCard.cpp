@@ -74,7 +74,7 @@ void DriveCard::setCompact(bool compact) {
 
 QString DriveCard::valueText() const {
   const platform::Volume& volume = m_state->volume;
-  return words::Sidebar::tr("%1 available of %2").arg(fmt::bytes(volume.availableBytes), fmt::bytes(volume.totalBytes));
+  return SidebarWords::tr("%1 available of %2").arg(fmt::bytes(volume.availableBytes), fmt::bytes(volume.totalBytes));
 }
 
 double DriveCard::valueFraction() const {
@@ -123,7 +123,7 @@ void DriveCard::paintTexts(QPainter* painter, const DriveCardLayout& layout) con
   const platform::Volume& volume = m_state->volume;
   line(layout.name, theme.font(kNamePx, kNameWeight), theme.text, volume.name);
   line(layout.free, theme.mono(kFreePx, kFreeWeight), theme.text3,
-       words::Sidebar::tr("%1 free").arg(fmt::bytes(volume.availableBytes)));
+       SidebarWords::tr("%1 free").arg(fmt::bytes(volume.availableBytes)));
 }
 
 } // namespace ui

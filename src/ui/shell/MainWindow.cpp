@@ -153,7 +153,7 @@ void MainWindow::addPage(int number, QWidget* page) {
 // While the sidebar is away, this stands in for its own toggle, and the headers become one compact line beside it.
 void MainWindow::buildFloatingToggle() {
   m_floatingToggle = new SidebarToggle(m_content);
-  const QString tip = words::Sidebar::tr("Expand sidebar");
+  const QString tip = SidebarWords::tr("Expand sidebar");
   m_floatingToggle->setToolTip(tip);
   m_floatingToggle->setAccessibleName(tip);
   m_floatingToggle->resize(m_floatingToggle->sizeHint());

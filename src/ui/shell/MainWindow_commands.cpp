@@ -23,8 +23,6 @@ namespace ui {
 namespace {
 
 using commands::Id;
-using Words = words::MenuBar;
-
 // From where a menu is opened to its corner, so that its card stands there in spite of the room around it; pixels.
 constexpr QPoint kCardShift(14, 10);
 
@@ -126,9 +124,9 @@ void MainWindow::showAppMenu(const QPoint& pos) {
     if (row.kind == Kind::Separator)
       menu->addSeparator();
     else if (row.kind == Kind::HelpMenu)
-      fillHelp(menu->addSubmenu(row.icon, Words::tr(row.text)));
+      fillHelp(menu->addSubmenu(row.icon, MenuBarWords::tr(row.text)));
     else if (commands::isOffered(*commands::entry(row.command)))
-      menu->setTrailingText(give(menu->addItem(row.icon, Words::tr(row.text)), row.command), row.trailing);
+      menu->setTrailingText(give(menu->addItem(row.icon, MenuBarWords::tr(row.text)), row.command), row.trailing);
   }
   connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
   menu->popup(pos - kCardShift);

@@ -14,8 +14,6 @@ namespace ui {
 namespace {
 
 using commands::Menu;
-using Words = words::Overlay;
-
 // Lengths in pixels.
 constexpr int kWidth = 640;
 constexpr QMargins kMargins(28, 24, 28, 22);
@@ -35,7 +33,7 @@ QString plainText(const QAction* action) {
 } // namespace
 
 ShortcutsOverlay::ShortcutsOverlay(const CommandSet& commands, QWidget* parent) : Overlay(parent) {
-  const QString title = Words::tr("Keyboard shortcuts");
+  const QString title = OverlayWords::tr("Keyboard shortcuts");
   setAccessibleName(title);
   panel->setFixedWidth(kWidth);
   QVBoxLayout* body = vbox(0, kMargins);
@@ -74,7 +72,7 @@ QGridLayout* ShortcutsOverlay::group(const CommandSet& commands, Menu menu) cons
 }
 
 void ShortcutsOverlay::addFooter(QVBoxLayout* body) {
-  auto* done = new Button(Words::tr("Close"), "primary");
+  auto* done = new Button(OverlayWords::tr("Close"), "primary");
   done->setDefault(true);
   connect(done, &QPushButton::clicked, this, &QWidget::close);
   QHBoxLayout* row = hbox();

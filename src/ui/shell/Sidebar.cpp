@@ -25,8 +25,6 @@ using namespace Qt::StringLiterals;
 namespace ui {
 namespace {
 
-using Words = words::Sidebar;
-
 const QString kCollapsedKey = u"ui/sidebarCollapsed"_s;
 constexpr int kSlideMs = 170;
 // Lengths in pixels.
@@ -99,7 +97,7 @@ void Sidebar::buildEntries(QVBoxLayout* column, const QList<int>& pages) {
     m_topRow->setLayout(row);
     column->addWidget(m_topRow);
   }
-  m_heading = eyebrow(Words::tr("Clean"));
+  m_heading = eyebrow(SidebarWords::tr("Clean"));
   m_heading->setContentsMargins(paint::mirrored(kHeading, layoutDirection()));
   column->addWidget(m_heading);
   for (const int page : kUpper)
@@ -124,7 +122,7 @@ void Sidebar::buildFoot(QVBoxLayout* column, const QList<int>& pages) {
 
 NavButton* Sidebar::makeEntry(int page) {
   const Entry& entry = kEntries[page];
-  auto* button = new NavButton(QString::fromUtf16(entry.icon), Words::tr(entry.text));
+  auto* button = new NavButton(QString::fromUtf16(entry.icon), SidebarWords::tr(entry.text));
   m_group->addButton(button, page);
   if (page == Cleanup) m_cleanup = button;
   return button;
@@ -153,7 +151,7 @@ void Sidebar::setCollapsed(bool collapsed, bool animate) {
   m_collapsed = collapsed;
   if (AppSettings::instance().isReadable()) QSettings().setValue(kCollapsedKey, collapsed); // else nothing is written
   emit collapsedChanged(collapsed);
-  const QString tip = collapsed ? Words::tr("Expand sidebar") : Words::tr("Collapse sidebar");
+  const QString tip = collapsed ? SidebarWords::tr("Expand sidebar") : SidebarWords::tr("Collapse sidebar");
   m_toggle->setToolTip(tip);
   m_toggle->setAccessibleName(tip);
   if (!collapsed) {

@@ -17,8 +17,6 @@
 namespace ui {
 namespace {
 
-using Words = words::TitleBar;
-
 // Lengths in pixels.
 constexpr int kHeight = 40;
 constexpr int kLogoRoom = 46; // from the edge to the name
@@ -39,15 +37,16 @@ TitleBar::TitleBar(QWidget* window, QWidget* parent) : QWidget(parent), m_window
   row->addSpacing(kLogoRoom);
   row->addWidget(label(identity::kName, "caption"));
   row->addStretch();
-  m_menu = addButton(CaptionButton::Menu, Words::tr("Menu"));
-  m_menu->setToolTip(Words::tr("Menu"));
+  m_menu = addButton(CaptionButton::Menu, TitleBarWords::tr("Menu"));
+  m_menu->setToolTip(TitleBarWords::tr("Menu"));
   connect(m_menu, &QAbstractButton::clicked, this, &TitleBar::requestMenu);
-  connect(addButton(CaptionButton::Minimize, Words::tr("Minimize")), &QAbstractButton::clicked, window,
+  connect(addButton(CaptionButton::Minimize, TitleBarWords::tr("Minimize")), &QAbstractButton::clicked, window,
           &QWidget::showMinimized);
-  m_maximize = addButton(CaptionButton::Maximize, Words::tr("Maximize"));
+  m_maximize = addButton(CaptionButton::Maximize, TitleBarWords::tr("Maximize"));
   connect(m_maximize, &QAbstractButton::clicked, window,
           [window] { window->isMaximized() ? window->showNormal() : window->showMaximized(); });
-  connect(addButton(CaptionButton::Close, Words::tr("Close")), &QAbstractButton::clicked, window, &QWidget::close);
+  connect(addButton(CaptionButton::Close, TitleBarWords::tr("Close")), &QAbstractButton::clicked, window,
+          &QWidget::close);
   window->installEventFilter(this);
   connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
 }

@@ -37,7 +37,7 @@ QString buttonStyle(const QColor& ink) {
 Toast::Toast(QWidget* parent)
     : QWidget(parent),
       m_text(label({})),
-      m_button(new QPushButton(words::Overlay::tr("Undo"))),
+      m_button(new QPushButton(OverlayWords::tr("Undo"))),
       m_timer(new QTimer(this)) {
   m_text->setTextFormat(Qt::PlainText); // names of files stand in it
   m_timer->setSingleShot(true);

@@ -72,45 +72,45 @@ struct Head {
 Head availableHead(const Updater& updater) {
   const UpdateRelease& release = updater.release;
   QString subtitle =
-      words::Overlay::tr("Version %1 is available. You have %2.").arg(release.version, updater.currentVersion);
+      OverlayWords::tr("Version %1 is available. You have %2.").arg(release.version, updater.currentVersion);
   QStringList facts;
   for (const QString& fact : {release.date.simplified(), release.size.simplified()}) // on one line
     if (!fact.isEmpty()) facts << shortened(fact, kMostOfFact);
   if (!facts.isEmpty()) subtitle += u'\n' + facts.join(u" · ");
-  return {words::Overlay::tr("An update is available"), subtitle};
+  return {OverlayWords::tr("An update is available"), subtitle};
 }
 
 Head downloadingHead(const Updater& updater) {
   const QString subtitle =
-      updater.total > 0 ? words::Overlay::tr("%1 of %2").arg(fmt::bytes(updater.received), fmt::bytes(updater.total))
-                        : words::Overlay::tr("Version %1").arg(updater.release.version);
-  return {words::Overlay::tr("Downloading the update…"), subtitle};
+      updater.total > 0 ? OverlayWords::tr("%1 of %2").arg(fmt::bytes(updater.received), fmt::bytes(updater.total))
+                        : OverlayWords::tr("Version %1").arg(updater.release.version);
+  return {OverlayWords::tr("Downloading the update…"), subtitle};
 }
 
 QString installingText() {
   return platform::host() == platform::Host::Mac
-             ? words::Overlay::tr("Drag Tarnwick to Applications in the window that opens to replace this version.")
-             : words::Overlay::tr("Your file manager opens the folder with the downloaded package. Install it the way "
-                                  "you install packages.");
+             ? OverlayWords::tr("Drag Tarnwick to Applications in the window that opens to replace this version.")
+             : OverlayWords::tr("Your file manager opens the folder with the downloaded package. Install it the way "
+                                "you install packages.");
 }
 
 Head headOf(const Updater& updater) {
   switch (updater.state) {
   case Updater::UpToDate:
-    return {words::Overlay::tr("Tarnwick is up to date"),
-            words::Overlay::tr("Version %1 is the latest version.").arg(updater.currentVersion)};
+    return {OverlayWords::tr("Tarnwick is up to date"),
+            OverlayWords::tr("Version %1 is the latest version.").arg(updater.currentVersion)};
   case Updater::Available:
     return availableHead(updater);
   case Updater::Failed:
-    return {words::Overlay::tr("Could not check for updates"),
-            words::Overlay::tr("Check your internet connection and try again.")};
+    return {OverlayWords::tr("Could not check for updates"),
+            OverlayWords::tr("Check your internet connection and try again.")};
   case Updater::Downloading:
     return downloadingHead(updater);
   case Updater::Installing:
-    return {words::Overlay::tr("Installing the update…"), installingText()};
+    return {OverlayWords::tr("Installing the update…"), installingText()};
   default:
-    return {words::Overlay::tr("Checking for updates…"),
-            words::Overlay::tr("Version %1 is installed.").arg(updater.currentVersion)};
+    return {OverlayWords::tr("Checking for updates…"),
+            OverlayWords::tr("Version %1 is installed.").arg(updater.currentVersion)};
   }
 }
 
@@ -136,9 +136,9 @@ UpdateDialog::UpdateDialog(Updater* updater, QWidget* parent, Wish wish)
       m_progress(new QProgressBar),
       m_warning(plainLabel("warn")),
       m_close(new Button({})),
-      m_cancel(new Button(words::Overlay::tr("Cancel"))),
-      m_retry(new Button(words::Overlay::tr("Retry"), "primary")),
-      m_install(new Button(words::Overlay::tr("Update now"), "primary")) {
+      m_cancel(new Button(OverlayWords::tr("Cancel"))),
+      m_retry(new Button(OverlayWords::tr("Retry"), "primary")),
+      m_install(new Button(OverlayWords::tr("Update now"), "primary")) {
   const bool mac = Theme::get().mac;
   panel->setFixedWidth(mac ? kWidthMac : kWidthWin);
   QVBoxLayout* column = vbox();
@@ -241,7 +241,7 @@ void UpdateDialog::refreshChanges() {
   const QStringList changes = m_updater->release.changes.mid(0, kMostChanges);
   const bool any = m_updater->state == Updater::Available && !changes.isEmpty();
   if (any) {
-    m_changeRows->addWidget(eyebrow(words::Overlay::tr("What's new")));
+    m_changeRows->addWidget(eyebrow(OverlayWords::tr("What's new")));
     for (const QString& change : changes) m_changeRows->addLayout(changeRow(change));
     fitChanges();
   }
@@ -289,7 +289,7 @@ void UpdateDialog::refreshButtons() {
   m_retry->setVisible(state == Updater::Failed);
   m_cancel->setVisible(state == Updater::Downloading);
   m_close->setVisible(state != Updater::Downloading && state != Updater::Installing);
-  m_close->setText(state == Updater::Available ? words::Overlay::tr("Later") : words::Overlay::tr("Close"));
+  m_close->setText(state == Updater::Available ? OverlayWords::tr("Later") : OverlayWords::tr("Close"));
   m_install->setDefault(state == Updater::Available && m_wish == Wish::Asked);
   m_retry->setDefault(state == Updater::Failed);
 }

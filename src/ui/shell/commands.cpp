@@ -12,8 +12,6 @@ namespace ui::commands {
 namespace {
 
 using enum Id;
-using Words = words::MenuBar;
-
 constexpr auto kNone = QKeySequence::UnknownKey;
 constexpr auto kNoRole = QAction::NoRole;
 constexpr auto kWorks = UnderDialog::Works;
@@ -88,14 +86,14 @@ QList<QKeySequence> keysOf(const Entry& entry) {
   return keys;
 }
 
-QString textOf(const Entry& entry) { return Words::tr(entry.text); }
+QString textOf(const Entry& entry) { return MenuBarWords::tr(entry.text); }
 
 QString textOf(const Entry& entry, const Situation& situation) {
-  if (entry.id == ToggleSidebar && situation.isSidebarCollapsed) return Words::tr("Show Sidebar");
-  if (entry.id == ToggleFullScreen && situation.isFullScreen) return Words::tr("Exit Full Screen");
+  if (entry.id == ToggleSidebar && situation.isSidebarCollapsed) return MenuBarWords::tr("Show Sidebar");
+  if (entry.id == ToggleFullScreen && situation.isFullScreen) return MenuBarWords::tr("Exit Full Screen");
   return textOf(entry);
 }
 
-QString titleOf(Menu menu) { return Words::tr(kTitles[int(menu)]); }
+QString titleOf(Menu menu) { return MenuBarWords::tr(kTitles[int(menu)]); }
 
 } // namespace ui::commands

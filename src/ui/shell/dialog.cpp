@@ -61,7 +61,7 @@ Button* dialogFooter(Overlay* dialog, const QString& confirmText, const char* ki
     footer->setAttribute(Qt::WA_StyledBackground);
     footer->setStyleSheet(u"background: transparent;"_s);
   }
-  auto* cancel = new Button(words::Overlay::tr("Cancel"));
+  auto* cancel = new Button(OverlayWords::tr("Cancel"));
   auto* confirm = new Button(confirmText, kind);
   confirm->setDefault(true);
   QHBoxLayout* row = hbox(kButtonGap, mac ? kRowMac : kRowWin);

@@ -3,19 +3,19 @@
 
 #include <QCoreApplication>
 
-namespace ui::words {
+namespace ui {
 
-struct Overlay {
+struct OverlayWords {
   Q_DECLARE_TR_FUNCTIONS(Overlay)
 };
-struct MenuBar {
+struct MenuBarWords {
   Q_DECLARE_TR_FUNCTIONS(MenuBar)
 };
-struct Sidebar {
+struct SidebarWords {
   Q_DECLARE_TR_FUNCTIONS(Sidebar)
 };
-struct TitleBar {
+struct TitleBarWords {
   Q_DECLARE_TR_FUNCTIONS(TitleBar)
 };
 
-} // namespace ui::words
+} // namespace ui
