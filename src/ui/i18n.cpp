@@ -67,9 +67,9 @@ QString i18n::effectiveLanguage() {
   return find(wish) ? wish : systemLanguage();
 }
 
-void i18n::install(QCoreApplication* app) {
+void i18n::install(QCoreApplication* app, const QString& catalogues) {
   const QString language = effectiveLanguage();
   auto translator = std::make_unique<QTranslator>(app);
-  if (translator->load(u":/i18n/tarnwick_%1.qm"_s.arg(language))) app->installTranslator(translator.release());
+  if (translator->load(u"%1/tarnwick_%2.qm"_s.arg(catalogues, language))) app->installTranslator(translator.release());
   QLocale::setDefault(QLocale(language == "en"_L1 ? u"en_US"_s : language));
 }

@@ -24,7 +24,10 @@ struct Language {
 [[nodiscard]] QString languageFor(const QStringList& uiLanguages);
 /// The code to use now: the environment variable TARNWICK_LANG, else the setting, else the system's.
 [[nodiscard]] QString effectiveLanguage();
-/// Loads the catalogue and sets the default locale. Once, before any text is shown.
-void install(QCoreApplication* app);
+/// Loads the catalogue of effectiveLanguage() and sets the default locale. Once, before any text is shown.
+/// Without a catalogue the texts stay English; the locale follows the language all the same.
+/// @param app  owns the catalogue from then on
+/// @param catalogues  the folder of the tarnwick_CODE.qm files; the program carries its own
+void install(QCoreApplication* app, const QString& catalogues = QStringLiteral(":/i18n"));
 
 } // namespace i18n

@@ -5,12 +5,21 @@
 #include "support/FixtureHome.h"
 #include "ui/i18n.h"
 
+#include <QFile>
 #include <QLocale>
-#include <QSignalSpy>
 #include <QTest>
 #include <QTranslator>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The test's own catalogues: a Korean one of one text, and no other.
+const QString kOwnCatalogues = u":/test/i18n"_s;
+
+QList<QTranslator*> installed() { return QCoreApplication::instance()->findChildren<QTranslator*>(); }
+
+} // namespace
 
 class tst_i18n : public QObject {
   Q_OBJECT
@@ -21,6 +30,7 @@ class tst_i18n : public QObject {
     qunsetenv("TARNWICK_LANG");
     AppSettings::instance().setLanguage(QString());
   }
+  void cleanup() { qDeleteAll(installed()); } // takes them off the application
   void cleanupTestCase() { QSettings().sync(); }
 
   void tenLanguagesInOrder();
@@ -32,6 +42,7 @@ class tst_i18n : public QObject {
   void effectiveLanguage();
   void defaultLocale_data();
   void defaultLocale();
+  void carriesTenCatalogues();
   void installsTheCatalogue();
   void englishPlurals();
   void missingCatalogueLeavesTheSourceTexts();
@@ -141,13 +152,25 @@ void tst_i18n::defaultLocale() {
   if (locale == u"en_US"_s) QCOMPARE(QLocale().territory(), QLocale::UnitedStates);
 }
 
+void tst_i18n::carriesTenCatalogues() {
+  for (const i18n::Language& one : i18n::languages()) {
+    QTranslator catalogue;
+    QVERIFY2(catalogue.load(u":/i18n/tarnwick_%1.qm"_s.arg(one.code)), qPrintable(one.code));
+    QCOMPARE(QLocale(catalogue.language()), QLocale(one.code));
+    qputenv("TARNWICK_LANG", one.code.toLatin1());
+    i18n::install(QCoreApplication::instance());
+    QCOMPARE(installed().size(), 1);
+    QCOMPARE(installed().constFirst()->filePath(), catalogue.filePath());
+    qDeleteAll(installed());
+  }
+}
+
 void tst_i18n::installsTheCatalogue() {
   qputenv("TARNWICK_LANG", "ko");
-  i18n::install(QCoreApplication::instance());
+  i18n::install(QCoreApplication::instance(), kOwnCatalogues);
   QCOMPARE(QCoreApplication::translate("TestOfLanguages", "Hello"), u"안녕"_s);
-  const QList<QTranslator*> ours = QCoreApplication::instance()->findChildren<QTranslator*>();
-  QVERIFY(!ours.isEmpty());
-  qDeleteAll(ours); // takes them off the application
+  QCOMPARE(installed().size(), 1);
+  qDeleteAll(installed());
   QCOMPARE(QCoreApplication::translate("TestOfLanguages", "Hello"), u"Hello"_s);
 }
 
@@ -176,17 +199,15 @@ void tst_i18n::englishPlurals() {
   };
   QCOMPARE(restored(1), u"Restored 1 file"_s);
   QCOMPARE(restored(0), u"Restored 0 files"_s);
-  qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>());
 }
 
 void tst_i18n::missingCatalogueLeavesTheSourceTexts() {
-  // No "xx" is ever in force, so the only way to a missing catalogue is a program that was built without it: this one.
   qputenv("TARNWICK_LANG", "ru");
-  const auto before = QCoreApplication::instance()->findChildren<QTranslator*>().size();
   QTest::failOnWarning(QRegularExpression(u".*"_s));
-  i18n::install(QCoreApplication::instance());
-  QCOMPARE(QCoreApplication::instance()->findChildren<QTranslator*>().size(), before);
+  i18n::install(QCoreApplication::instance(), kOwnCatalogues);
+  QCOMPARE(installed().size(), 0);
   QCOMPARE(QCoreApplication::translate("TestOfLanguages", "Hello"), u"Hello"_s);
+  QCOMPARE(QLocale(), QLocale(u"ru"_s));
 }
 
 QTEST_GUILESS_MAIN(tst_i18n)
