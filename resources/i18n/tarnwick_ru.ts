@@ -5,18 +5,18 @@
     <name>AppGuard</name>
     <message>
         <source>Password managers, input methods, security and device-management agents, VPNs</source>
-        <translation type="unfinished"></translation>
+        <translation>Менеджеры паролей, методы ввода, средства безопасности и управления устройствами, VPN</translation>
     </message>
 </context>
 <context>
     <name>AppState</name>
     <message>
         <source>The settings can&apos;t be read, so the rules on what to keep are unknown. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать настройки, поэтому исключения неизвестны. Ничего не очищено.</translation>
     </message>
     <message>
         <source>The settings have lost rules on what to keep. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Из настроек пропали правила исключений. Ничего не очищено.</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -28,164 +28,164 @@
     </message>
     <message>
         <source>%1 (%2) moved to the %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Перемещено в %3: %1 (%2)</translation>
     </message>
     <message>
         <source> · %1 in use, skipped</source>
-        <translation type="unfinished"></translation>
+        <translation> · занято и пропущено: %1</translation>
     </message>
     <message numerus="yes">
         <source>Restored %Ln file(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Восстановлен %Ln файл</numerusform>
+            <numerusform>Восстановлено %Ln файла</numerusform>
+            <numerusform>Восстановлено %Ln файлов</numerusform>
         </translation>
     </message>
     <message>
         <source>The settings can&apos;t be read, so the rules on what to keep are unknown. Nothing was moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать настройки, поэтому исключения неизвестны. Ничего не перемещено.</translation>
     </message>
 </context>
 <context>
     <name>Categories</name>
     <message>
         <source>Temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>Временные файлы</translation>
     </message>
     <message>
         <source>Scratch files that apps and the system create while working. They are not needed once the app closes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Рабочие файлы, которые создают приложения и система. После закрытия приложения они не нужны.</translation>
     </message>
     <message>
         <source>App caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Кэш приложений</translation>
     </message>
     <message>
         <source>Data apps keep to load faster. Apps rebuild these automatically the next time they need them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Данные, которые приложения хранят, чтобы быстрее загружаться. При необходимости приложения создают их заново сами.</translation>
     </message>
     <message>
         <source>Browser caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Кэш браузеров</translation>
     </message>
     <message>
         <source>Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранённые изображения, сценарии и страницы. Данные для входа, история, закладки и пароли не затрагиваются никогда.</translation>
     </message>
     <message>
         <source>Logs &amp; crash reports</source>
-        <translation type="unfinished"></translation>
+        <translation>Журналы и сбои</translation>
     </message>
     <message>
         <source>Diagnostic logs and crash reports. Useful only when troubleshooting a recent problem.</source>
-        <translation type="unfinished"></translation>
+        <translation>Диагностические журналы и отчёты о сбоях. Нужны только для разбора недавних неполадок.</translation>
     </message>
     <message>
         <source>Preview images of your files. They are regenerated the next time you open a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Изображения для предпросмотра файлов. Создаются заново при следующем открытии папки.</translation>
     </message>
     <message>
         <source>Old installers</source>
-        <translation type="unfinished"></translation>
+        <translation>Установщики</translation>
     </message>
     <message>
         <source>Developer caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Кэш разработчика</translation>
     </message>
     <message>
         <source>Package manager caches and build output. Removing them is safe, but the next build or install will be slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Кэш менеджеров пакетов и результаты сборки. Удалять их безопасно, но следующая сборка или установка займёт больше времени.</translation>
     </message>
     <message>
         <source>Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Корзина</translation>
     </message>
     <message>
         <source>Items you have already deleted. Emptying cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Объекты, которые вы уже удалили. Очистку Корзины отменить нельзя.</translation>
     </message>
     <message>
         <source>QuickLook cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Кэш QuickLook</translation>
     </message>
     <message>
         <source>Thumbnail cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Кэш миниатюр</translation>
     </message>
     <message>
         <source>Disk images and installer packages in your Downloads folder. Review in case you still need an installer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Образы дисков и установочные пакеты в папке загрузок. Проверьте, не нужны ли вам ещё какие-нибудь из них.</translation>
     </message>
     <message>
         <source>Software packages and disc images in your Downloads folder. Review in case you still need one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Пакеты программ и образы дисков в папке загрузок. Проверьте, не нужны ли вам ещё какие-нибудь из них.</translation>
     </message>
     <message>
         <source>Safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Безопасно</translation>
     </message>
     <message>
         <source>Review</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверить</translation>
     </message>
     <message>
         <source>Permanent</source>
-        <translation type="unfinished"></translation>
+        <translation>Безвозвратно</translation>
     </message>
     <message>
         <source>Thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>Миниатюры</translation>
     </message>
     <message>
         <source>QuickLook thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>Миниатюры QuickLook</translation>
     </message>
     <message>
         <source>Simulator caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Кэш симуляторов</translation>
     </message>
 </context>
 <context>
     <name>Cleaner</name>
     <message>
         <source>delete permanently</source>
-        <translation type="unfinished"></translation>
+        <translation>безвозвратное удаление</translation>
     </message>
     <message>
         <source>The home folder belongs to another user. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Домашняя папка принадлежит другому пользователю. Ничего не очищено.</translation>
     </message>
     <message>
         <source>Another cleanup is already running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Другая очистка уже выполняется.</translation>
     </message>
     <message>
         <source>There is no telling whether another cleanup is running. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось узнать, не выполняется ли другая очистка. Ничего не очищено.</translation>
     </message>
 </context>
 <context>
     <name>CleanupPage</name>
     <message>
         <source>SAFE TO CLEAN</source>
-        <translation type="unfinished"></translation>
+        <translation>Безопасно очистить</translation>
     </message>
     <message>
         <source>REVIEW BEFORE CLEANING</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверить перед очисткой</translation>
     </message>
     <message>
         <source>CANNOT BE UNDONE</source>
-        <translation type="unfinished"></translation>
+        <translation>Нельзя отменить</translation>
     </message>
     <message>
         <source>Details shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Подробности показаны</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрать всё</translation>
     </message>
     <message>
         <source>%1 items</source>
@@ -193,23 +193,23 @@
     </message>
     <message>
         <source>%1 is running</source>
-        <translation type="unfinished"></translation>
+        <translation>Работает %1</translation>
     </message>
     <message>
         <source>Nothing left to clean. Rescan any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Очищать больше нечего. Анализ можно повторить в любой момент.</translation>
     </message>
     <message>
         <source>Largest items</source>
-        <translation type="unfinished"></translation>
+        <translation>Самые большие</translation>
     </message>
     <message>
         <source>Show in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать в %1</translation>
     </message>
     <message>
         <source>Show %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать ещё %1</translation>
     </message>
     <message>
         <source>and %1 more items</source>
@@ -217,346 +217,346 @@
     </message>
     <message numerus="yes">
         <source>&lt;b&gt;%Ln file(s) skipped&lt;/b&gt; because they were in use or protected. Quit the apps using them and rescan to remove them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&lt;b&gt;Пропущен %Ln файл&lt;/b&gt;: занятые и защищённые файлы не удаляются. Завершите приложения, которые используют файлы, и повторите анализ.</numerusform>
+            <numerusform>&lt;b&gt;Пропущено %Ln файла&lt;/b&gt;: занятые и защищённые файлы не удаляются. Завершите приложения, которые используют файлы, и повторите анализ.</numerusform>
+            <numerusform>&lt;b&gt;Пропущено %Ln файлов&lt;/b&gt;: занятые и защищённые файлы не удаляются. Завершите приложения, которые используют файлы, и повторите анализ.</numerusform>
         </translation>
     </message>
     <message>
         <source>For example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Например: %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Left caches of running apps alone:&lt;/b&gt; %1. Quit them and clean again to include them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Не тронут кэш работающих приложений:&lt;/b&gt; %1. Чтобы удалить и его, завершите их и повторите очистку.</translation>
     </message>
     <message>
         <source>Cleanup complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистка завершена</translation>
     </message>
     <message>
         <source>Available before</source>
-        <translation type="unfinished"></translation>
+        <translation>Было доступно</translation>
     </message>
     <message>
         <source>Available now</source>
-        <translation type="unfinished"></translation>
+        <translation>Доступно сейчас</translation>
     </message>
     <message>
         <source>View log</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть журнал</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Готово</translation>
     </message>
     <message>
         <source>Moved to the %1. You can still restore anything.</source>
-        <translation type="unfinished"></translation>
+        <translation>Всё перемещено в %1. Любой объект ещё можно восстановить.</translation>
     </message>
     <message>
         <source>Items were deleted permanently.</source>
-        <translation type="unfinished"></translation>
+        <translation>Объекты удалены безвозвратно.</translation>
     </message>
     <message>
         <source>Restart as admin</source>
-        <translation type="unfinished"></translation>
+        <translation>Перезапустить с правами</translation>
     </message>
     <message>
         <source>Some folders need Full Disk Access.</source>
-        <translation type="unfinished"></translation>
+        <translation>Для некоторых папок нужен полный доступ к диску.</translation>
     </message>
     <message>
         <source>Some folders may need Full Disk Access.</source>
-        <translation type="unfinished"></translation>
+        <translation>Для некоторых папок может понадобиться полный доступ к диску.</translation>
     </message>
     <message>
         <source>Open System Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Системные настройки</translation>
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Некоторые файлы принадлежат системе и не тронуты.</translation>
     </message>
     <message>
         <source>These files need administrator rights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Для этих файлов нужны права администратора.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Some files need administrator rights.&lt;/b&gt; Restart Tarnwick as administrator and clean again to remove them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Для некоторых файлов нужны права администратора.&lt;/b&gt; Чтобы удалить их, перезапустите Tarnwick с этими правами и повторите очистку.</translation>
     </message>
     <message>
         <source>You have no permission to read some of these folders.</source>
-        <translation type="unfinished"></translation>
+        <translation>У вас нет прав на чтение некоторых из этих папок.</translation>
     </message>
     <message>
         <source>%1 is open. Quit it to include its cache.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сейчас работает %1. Чтобы очистить и кэш этого приложения, завершите его.</translation>
     </message>
     <message>
         <source>%1 are open. Quit them to include their caches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сейчас работают: %1. Чтобы очистить и кэш этих приложений, завершите их.</translation>
     </message>
     <message>
         <source>Nothing scanned yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Анализа ещё не было</translation>
     </message>
     <message>
         <source>Find caches, temporary files and leftovers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Найдите кэш, временные файлы и другие остатки.</translation>
     </message>
     <message>
         <source>Start Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Начать умный анализ</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистка</translation>
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистка</translation>
     </message>
     <message>
         <source>In progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполняется</translation>
     </message>
     <message>
         <source>of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>из %1</translation>
     </message>
     <message>
         <source>Select recommended</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрать рекомендуемое</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый анализ</translation>
     </message>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбранное</translation>
     </message>
     <message>
         <source>Show the rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать правила</translation>
     </message>
     <message>
         <source>%1 can be cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>Можно очистить %1</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected%3</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрано &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt;%3</translation>
     </message>
     <message>
         <source> · some need admin</source>
-        <translation type="unfinished"></translation>
+        <translation> · не на всё хватает прав</translation>
     </message>
     <message>
         <source>moved to the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>перемещение в %1</translation>
     </message>
     <message>
         <source>deleted permanently</source>
-        <translation type="unfinished"></translation>
+        <translation>безвозвратное удаление</translation>
     </message>
     <message>
         <source>Clean %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистить %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Rules on what to keep have gone from the settings.&lt;/b&gt; Nothing is cleaned until you have looked at them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Из настроек пропали правила исключений.&lt;/b&gt; Пока вы их не проверите, ничего не очищается.</translation>
     </message>
     <message>
         <source>&lt;b&gt;The settings can&apos;t be read.&lt;/b&gt; Nothing is cleaned until you have looked at the rules on what to keep.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Не удалось прочитать настройки.&lt;/b&gt; Пока вы не проверите правила исключений, ничего не очищается.</translation>
     </message>
     <message>
         <source>Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>Анализ</translation>
     </message>
     <message>
         <source>Items checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверено</translation>
     </message>
     <message>
         <source>Elapsed</source>
-        <translation type="unfinished"></translation>
+        <translation>Прошло</translation>
     </message>
     <message>
         <source>Remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Осталось</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Остановить</translation>
     </message>
     <message>
         <source>found</source>
-        <translation type="unfinished"></translation>
+        <translation>найдено</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Нужен доступ к диску</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет прав на чтение</translation>
     </message>
 </context>
 <context>
     <name>Cli</name>
     <message>
         <source>Measures what could be cleaned, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Считает, сколько можно очистить, и ничего не меняет.</translation>
     </message>
     <message>
         <source>Scans, shows what would go, asks, and cleans it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Проводит анализ, показывает, что будет удалено, спрашивает и очищает.</translation>
     </message>
     <message>
         <source>Searches the home folder for large files, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ищет большие файлы в домашней папке и ничего не меняет.</translation>
     </message>
     <message>
         <source>Measures what makes up the system&apos;s share of the disk, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Считает, чем система занимает диск, и ничего не меняет.</translation>
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
-        <translation type="unfinished"></translation>
+        <translation>рассматривать только эти категории; тогда очищаются все они, даже те, которые без прямого указания не очищаются</translation>
     </message>
     <message>
         <source>never touch what this rule names, beside the rules in the settings; repeatable</source>
-        <translation type="unfinished"></translation>
+        <translation>никогда не трогать то, что задаёт это правило, в дополнение к правилам из настроек; можно повторять</translation>
     </message>
     <message>
         <source>delete for good, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>удалять безвозвратно независимо от настроек</translation>
     </message>
     <message>
         <source>move to the Trash, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>перемещать в Корзину независимо от настроек</translation>
     </message>
     <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
-        <translation type="unfinished"></translation>
+        <translation>ничего не трогать; показать, что было бы удалено, что осталось бы и почему</translation>
     </message>
     <message>
         <source>don&apos;t ask</source>
-        <translation type="unfinished"></translation>
+        <translation>не спрашивать</translation>
     </message>
     <message>
         <source>look for files that take at least so many megabytes on the disk, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>искать файлы, которые занимают на диске не меньше стольких мегабайт, независимо от настроек</translation>
     </message>
     <message>
         <source>one JSON object on standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>один объект JSON в стандартном выводе</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 и %2</translation>
     </message>
     <message>
         <source>show this help</source>
-        <translation type="unfinished"></translation>
+        <translation>показать эту справку</translation>
     </message>
     <message>
         <source>show the version</source>
-        <translation type="unfinished"></translation>
+        <translation>показать версию</translation>
     </message>
     <message>
         <source>Usage: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Использование: %1</translation>
     </message>
     <message>
         <source>Commands:</source>
-        <translation type="unfinished"></translation>
+        <translation>Команды:</translation>
     </message>
     <message>
         <source>Options:</source>
-        <translation type="unfinished"></translation>
+        <translation>Параметры:</translation>
     </message>
     <message>
         <source>Say &quot;%1&quot; to learn about one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Справка по команде: «%1».</translation>
     </message>
     <message>
         <source>Categories: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Категории: %1</translation>
     </message>
     <message>
         <source>there is no option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>нет параметра %1</translation>
     </message>
     <message>
         <source>there is no command %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>нет команды %1, есть только %2</translation>
     </message>
     <message>
         <source>%1 is one word too many</source>
-        <translation type="unfinished"></translation>
+        <translation>лишнее слово: %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no --%2</source>
-        <translation type="unfinished"></translation>
+        <translation>команда «%1» не принимает --%2</translation>
     </message>
     <message>
         <source>--delete and --trash exclude each other</source>
-        <translation type="unfinished"></translation>
+        <translation>--delete и --trash исключают друг друга</translation>
     </message>
     <message>
         <source>--only wants ids of categories: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>для --only нужны идентификаторы категорий: %1</translation>
     </message>
     <message>
         <source>there is no category %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>нет категории %1, есть только %2</translation>
     </message>
     <message>
         <source>--exclude wants a rule</source>
-        <translation type="unfinished"></translation>
+        <translation>для --exclude нужно правило</translation>
     </message>
     <message>
         <source>the rule %1 matches nothing: a path begins with / or ~/ and lies below /, a name has no slash</source>
-        <translation type="unfinished"></translation>
+        <translation>правило %1 ничему не соответствует: путь начинается с / или ~/ и лежит ниже /, а в имени нет косой черты</translation>
     </message>
     <message>
         <source>--min-mb wants a number of megabytes, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>для --min-mb нужно число мегабайт, а не %1</translation>
     </message>
     <message>
         <source>Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ничего не очищено.</translation>
     </message>
     <message>
         <source>Look at the rules in the settings of Tarnwick; or mend %1, or remove it together with %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверьте правила в настройках Tarnwick либо исправьте %1 или удалите этот файл вместе с %2.</translation>
     </message>
     <message>
         <source>the scan was cancelled, and nothing was cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>анализ отменён, ничего не очищено</translation>
     </message>
     <message>
         <source>there is no terminal to ask on, so nothing is cleaned without --yes</source>
-        <translation type="unfinished"></translation>
+        <translation>спросить не у кого: нет терминала, поэтому без --yes ничего не очищается</translation>
     </message>
     <message>
         <source>the search was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>поиск отменён</translation>
     </message>
     <message>
         <source>the output could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>не удалось записать вывод: %1</translation>
     </message>
     <message>
         <source>Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>Анализ</translation>
     </message>
     <message>
         <source>%1 files</source>
@@ -564,11 +564,11 @@
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистка</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 из %2</translation>
     </message>
     <message>
         <source>%1 of %2 files</source>
@@ -576,19 +576,19 @@
     </message>
     <message>
         <source>Searching</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск</translation>
     </message>
     <message>
         <source>the scan was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>анализ отменён</translation>
     </message>
     <message>
         <source>cancelling…</source>
-        <translation type="unfinished"></translation>
+        <translation>отмена…</translation>
     </message>
     <message>
         <source>finishing this item, then stopping…</source>
-        <translation type="unfinished"></translation>
+        <translation>остановка после этого объекта…</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -596,268 +596,268 @@
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 мс</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 с</translation>
     </message>
     <message>
         <source>Not everything could be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалось прочитать не всё: %1.</translation>
     </message>
     <message>
         <source>the measuring was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>подсчёт отменён</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Категория</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Размер</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы</translation>
     </message>
     <message>
         <source>Rating</source>
-        <translation type="unfinished"></translation>
+        <translation>Оценка</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Где</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Всего</translation>
     </message>
     <message>
         <source>%1 of it is safe to clean: tarnwick-cli clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Из этого можно безопасно очистить %1: tarnwick-cli clean</translation>
     </message>
     <message>
         <source>%1 is running, so %2 of its data will stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сейчас работает %1, поэтому данные этого приложения останутся (%2).</translation>
     </message>
     <message>
         <source>Left alone unless you name it: %1. To clean it: --only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Без прямого указания не очищается: %1. Чтобы очистить: --only %2</translation>
     </message>
     <message>
         <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Из этого %1 лежит на томе без Корзины и без --delete останется.</translation>
     </message>
     <message>
         <source>deleted for good</source>
-        <translation type="unfinished"></translation>
+        <translation>удаляется безвозвратно</translation>
     </message>
     <message>
         <source>moved to the Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>перемещается в Корзину</translation>
     </message>
     <message>
         <source>Skipped, %1 in all; the log tells why:</source>
-        <translation type="unfinished"></translation>
+        <translation>Пропущено, всего %1; причины указаны в журнале:</translation>
     </message>
     <message>
         <source>Left alone, because they are running: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не тронуты, потому что сейчас работают: %1.</translation>
     </message>
     <message>
         <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Перемещённое в Корзину занимает место, пока вы её не очистите.</translation>
     </message>
     <message>
         <source>Scanned in %1. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Анализ занял %1. Ничего не изменено.</translation>
     </message>
     <message>
         <source>There is nothing to clean.</source>
-        <translation type="unfinished"></translation>
+        <translation>Очищать нечего.</translation>
     </message>
     <message>
         <source>Delete %1 for good?</source>
-        <translation type="unfinished"></translation>
+        <translation>Безвозвратно удалить %1?</translation>
     </message>
     <message>
         <source>Move %2 to the Trash?</source>
-        <translation type="unfinished"></translation>
+        <translation>Переместить %2 в Корзину?</translation>
     </message>
     <message>
         <source>Delete %1 for good and move %2 to the Trash?</source>
-        <translation type="unfinished"></translation>
+        <translation>Безвозвратно удалить %1 и переместить %2 в Корзину?</translation>
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Это был пробный запуск: ничего не тронуто.</translation>
     </message>
     <message>
         <source>Freed %1, removed %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Освобождено: %1, удалено: %2.</translation>
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Некоторые файлы принадлежат системе и не тронуты.</translation>
     </message>
     <message>
         <source>Log: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Журнал: %1</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Тип</translation>
     </message>
     <message>
         <source>Last used</source>
-        <translation type="unfinished"></translation>
+        <translation>Использован</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл</translation>
     </message>
     <message>
         <source>The largest %1 of %2 files are listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Показаны самые большие файлы: %1 из %2.</translation>
     </message>
     <message>
         <source>No file in the home folder takes %1 or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>В домашней папке нет файлов размером от %1.</translation>
     </message>
     <message>
         <source>Searched %1 in %2. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Просмотрено: %1 за %2. Ничего не изменено.</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>минимум %1</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Нужен доступ к диску</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет прав на чтение</translation>
     </message>
     <message>
         <source>Largest: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Крупнейшие: %1</translation>
     </message>
     <message>
         <source>You can reclaim</source>
-        <translation type="unfinished"></translation>
+        <translation>Можно освободить</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
-        <translation type="unfinished"></translation>
+        <translation>Под управлением macOS</translation>
     </message>
     <message>
         <source>Managed by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Под управлением системы</translation>
     </message>
     <message>
         <source>%1 of it you can act on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Из этого можно освободить %1.</translation>
     </message>
     <message>
         <source>Measured in %1. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Подсчёт занял %1. Ничего не изменено.</translation>
     </message>
 </context>
 <context>
     <name>DiskOrb</name>
     <message>
         <source>%1% used</source>
-        <translation type="unfinished"></translation>
+        <translation>занято %1&#xa0;%</translation>
     </message>
     <message>
         <source>%1 can be cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>можно очистить %1</translation>
     </message>
 </context>
 <context>
     <name>Gauge</name>
     <message>
         <source>%1 used</source>
-        <translation type="unfinished"></translation>
+        <translation>занято %1</translation>
     </message>
     <message>
         <source>used</source>
-        <translation type="unfinished"></translation>
+        <translation>занято</translation>
     </message>
 </context>
 <context>
     <name>LargeFilesPage</name>
     <message>
         <source>Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрано</translation>
     </message>
     <message>
         <source>ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>по возрастанию</translation>
     </message>
     <message>
         <source>descending</source>
-        <translation type="unfinished"></translation>
+        <translation>по убыванию</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Карта диска</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый поиск</translation>
     </message>
     <message>
         <source>Find what&apos;s taking up space</source>
-        <translation type="unfinished"></translation>
+        <translation>Узнайте, что занимает место</translation>
     </message>
     <message>
         <source>Big files in your home folder. You decide what goes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Большие файлы в вашей домашней папке. Что удалить, решаете вы.</translation>
     </message>
     <message>
         <source>Find large files</source>
-        <translation type="unfinished"></translation>
+        <translation>Найти большие файлы</translation>
     </message>
     <message>
         <source>Home folder · over %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Домашняя папка · больше %1</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Все</translation>
     </message>
     <message>
         <source>Unused</source>
-        <translation type="unfinished"></translation>
+        <translation>Не открывались</translation>
     </message>
     <message>
         <source>Show in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать в %1</translation>
     </message>
     <message>
         <source>Move to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Переместить в %1</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Показывать</translation>
     </message>
     <message>
         <source>Search files</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск файлов</translation>
     </message>
     <message>
         <source>Largest files</source>
-        <translation type="unfinished"></translation>
+        <translation>Самые большие файлы</translation>
     </message>
     <message>
         <source>Unused %1+ months</source>
-        <translation type="unfinished"></translation>
+        <translation>Не открывались %1+ мес.</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
@@ -865,382 +865,382 @@
     </message>
     <message>
         <source>Looking for large files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск больших файлов…</translation>
     </message>
     <message>
         <source>Large files</source>
-        <translation type="unfinished"></translation>
+        <translation>Большие файлы</translation>
     </message>
     <message>
         <source>Largest so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Самые большие из найденных</translation>
     </message>
     <message>
         <source>Sort by</source>
-        <translation type="unfinished"></translation>
+        <translation>Сортировка</translation>
     </message>
 </context>
 <context>
     <name>LoginEntry</name>
     <message>
         <source>%1 is not from Tarnwick and was left as it is. Remove it to open Tarnwick at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл %1 создан не Tarnwick и оставлен как есть. Удалите его, чтобы открывать Tarnwick при входе.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written, so Tarnwick does not open at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось записать %1, поэтому Tarnwick не будет открываться при входе.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be removed, so Tarnwick still opens at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось удалить %1, поэтому Tarnwick по-прежнему будет открываться при входе.</translation>
     </message>
 </context>
 <context>
     <name>Main</name>
     <message>
         <source>Tarnwick was updated to version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick обновлён до версии %1.</translation>
     </message>
     <message>
         <source>%1 is almost full. Run Smart Scan to free up space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Том «%1» почти заполнен. Чтобы освободить место, запустите умный анализ.</translation>
     </message>
 </context>
 <context>
     <name>MenuBar</name>
     <message>
         <source>Tarnwick Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Сайт Tarnwick</translation>
     </message>
     <message>
         <source>About Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>О программе Tarnwick</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверить обновления…</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки…</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Завершить Tarnwick</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Умный анализ</translation>
     </message>
     <message>
         <source>Find Large Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Найти большие файлы</translation>
     </message>
     <message>
         <source>Close Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть окно</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Отменить</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторить</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Вырезать</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Скопировать</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Вставить</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрать всё</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистка</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Карта диска</translation>
     </message>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Системные данные</translation>
     </message>
     <message>
         <source>Hide Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрыть боковое меню</translation>
     </message>
     <message>
         <source>Enter Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Перейти в полноэкранный режим</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Свернуть</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить масштаб</translation>
     </message>
     <message>
         <source>Bring All to Front</source>
-        <translation type="unfinished"></translation>
+        <translation>Все окна&#xa0;— на передний план</translation>
     </message>
     <message>
         <source>Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Руководство</translation>
     </message>
     <message>
         <source>FAQ</source>
-        <translation type="unfinished"></translation>
+        <translation>Вопросы и ответы</translation>
     </message>
     <message>
         <source>Open Log Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть папку журналов</translation>
     </message>
     <message>
         <source>Open Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть меню</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Сочетания клавиш</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Вид</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Окно</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Справка</translation>
     </message>
     <message>
         <source>Show Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать боковое меню</translation>
     </message>
     <message>
         <source>Exit Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Выйти из полноэкранного режима</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки</translation>
     </message>
     <message>
         <source>Check for Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверить обновления</translation>
     </message>
 </context>
 <context>
     <name>Overlay</name>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Версия %1</translation>
     </message>
     <message>
         <source>© 2026 the Tarnwick authors</source>
-        <translation type="unfinished"></translation>
+        <translation>© 2026 авторы Tarnwick</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>Remember my choice</source>
-        <translation type="unfinished"></translation>
+        <translation>Запомнить мой выбор</translation>
     </message>
     <message>
         <source>Keep Tarnwick running?</source>
-        <translation type="unfinished"></translation>
+        <translation>Оставить Tarnwick в фоне?</translation>
     </message>
     <message>
         <source>Tarnwick can stay in the system tray when you close the window, so scheduled scans and low space alerts keep working. You can open it again from the tray icon.</source>
-        <translation type="unfinished"></translation>
+        <translation>После закрытия окна Tarnwick может остаться в системном трее, чтобы плановый анализ и предупреждения о нехватке места не прекращались. Снова открыть окно можно через значок в трее.</translation>
     </message>
     <message>
         <source>You can change this in Settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Это можно изменить в настройках.</translation>
     </message>
     <message>
         <source>Keep in tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Оставить в трее</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Завершить</translation>
     </message>
     <message>
         <source>Permanent delete is on. These files can&apos;t be recovered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Включено безвозвратное удаление. Восстановить эти файлы будет нельзя.</translation>
     </message>
     <message>
         <source>Emptying the %1 can&apos;t be undone. Everything else goes to the %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Если очистить %1, отменить это будет нельзя. Всё остальное будет перемещено в %1.</translation>
     </message>
     <message>
         <source>Everything will be moved to the %1, so you can restore it later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Всё будет перемещено в %1, откуда это можно восстановить.</translation>
     </message>
     <message>
         <source>Clean and delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистить и удалить</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистить</translation>
     </message>
     <message>
         <source>Clean %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистить %1?</translation>
     </message>
     <message>
         <source>%1 of it will stay: there is no %2 on its volume.</source>
-        <translation type="unfinished"></translation>
+        <translation>Из этого объёма останется %1: том с этими файлами не поддерживает %2.</translation>
     </message>
     <message>
         <source>%1 of it will stay while these apps are open: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Из этого объёма останется %1, пока открыты приложения: %2.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отменить</translation>
     </message>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Сочетания клавиш</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Отменить</translation>
     </message>
     <message>
         <source>Version %1 is available. You have %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Доступна версия %1. У вас установлена %2.</translation>
     </message>
     <message>
         <source>An update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Доступно обновление</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 из %2</translation>
     </message>
     <message>
         <source>Downloading the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузка обновления…</translation>
     </message>
     <message>
         <source>Drag Tarnwick to Applications in the window that opens to replace this version.</source>
-        <translation type="unfinished"></translation>
+        <translation>В открывшемся окне перетяните Tarnwick в папку «Программы», чтобы заменить эту версию.</translation>
     </message>
     <message>
         <source>Your file manager opens the folder with the downloaded package. Install it the way you install packages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файловый менеджер откроет папку с загруженным пакетом. Установите его так, как обычно устанавливаете пакеты.</translation>
     </message>
     <message>
         <source>Tarnwick is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Обновлений для Tarnwick нет</translation>
     </message>
     <message>
         <source>Version %1 is the latest version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Версия %1&#xa0;— последняя.</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось проверить обновления</translation>
     </message>
     <message>
         <source>Check your internet connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверьте подключение к интернету и повторите попытку.</translation>
     </message>
     <message>
         <source>Installing the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>Установка обновления…</translation>
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверка обновлений…</translation>
     </message>
     <message>
         <source>Version %1 is installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Установлена версия %1.</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторить</translation>
     </message>
     <message>
         <source>Update now</source>
-        <translation type="unfinished"></translation>
+        <translation>Обновить</translation>
     </message>
     <message>
         <source>What&apos;s new</source>
-        <translation type="unfinished"></translation>
+        <translation>Что нового</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Позже</translation>
     </message>
 </context>
 <context>
     <name>OverviewPage</name>
     <message>
         <source>Scanned %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Анализ был %1</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Выкл.</translation>
     </message>
     <message>
         <source>Weekly</source>
-        <translation type="unfinished"></translation>
+        <translation>Еженедельно</translation>
     </message>
     <message>
         <source>Monthly</source>
-        <translation type="unfinished"></translation>
+        <translation>Ежемесячно</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Умный анализ</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Обзор</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый анализ</translation>
     </message>
     <message>
         <source>Disk health</source>
-        <translation type="unfinished"></translation>
+        <translation>Состояние диска</translation>
     </message>
     <message>
         <source>System files protected</source>
-        <translation type="unfinished"></translation>
+        <translation>Системные файлы защищены</translation>
     </message>
     <message>
         <source>Freed in the last %1 months</source>
@@ -1248,486 +1248,486 @@
     </message>
     <message>
         <source>See all</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать всё</translation>
     </message>
     <message>
         <source>Scheduled scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Плановый анализ</translation>
     </message>
     <message>
         <source>free of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>свободно из %1</translation>
     </message>
     <message>
         <source>Review</source>
-        <translation type="unfinished"></translation>
+        <translation>Просмотр</translation>
     </message>
     <message>
         <source>Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Анализ</translation>
     </message>
     <message>
         <source>%1 ready to clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Можно очистить %1</translation>
     </message>
     <message>
         <source>Your startup disk is almost full</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузочный диск почти заполнен</translation>
     </message>
     <message>
         <source>Keep your disk in shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Держите диск в порядке</translation>
     </message>
     <message>
         <source>%1 purgeable</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 очищаемого места</translation>
     </message>
     <message>
         <source>Apps, documents &amp; system</source>
-        <translation type="unfinished"></translation>
+        <translation>Программы, файлы, система</translation>
     </message>
     <message>
         <source>Reclaimable</source>
-        <translation type="unfinished"></translation>
+        <translation>К очистке</translation>
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>Доступно</translation>
     </message>
     <message>
         <source>Never scanned</source>
-        <translation type="unfinished"></translation>
+        <translation>Анализа не было</translation>
     </message>
     <message>
         <source>Last scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Последний анализ</translation>
     </message>
     <message>
         <source>Freed this month</source>
-        <translation type="unfinished"></translation>
+        <translation>Освобождено за месяц</translation>
     </message>
     <message>
         <source>Top recommendations</source>
-        <translation type="unfinished"></translation>
+        <translation>Главные рекомендации</translation>
     </message>
     <message>
         <source>What Smart Scan looks at</source>
-        <translation type="unfinished"></translation>
+        <translation>Что проверяет умный анализ</translation>
     </message>
 </context>
 <context>
     <name>Platform</name>
     <message>
         <source>System disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Системный диск</translation>
     </message>
     <message>
         <source>Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Корзину</translation>
     </message>
     <message>
         <source>Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Finder</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлах</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Защищено</translation>
     </message>
     <message>
         <source>Administrator access</source>
-        <translation type="unfinished"></translation>
+        <translation>Права администратора</translation>
     </message>
     <message>
         <source>Tarnwick is running as administrator and can clean Windows Update files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick работает с правами администратора и может очищать файлы Центра обновления Windows.</translation>
     </message>
     <message>
         <source>Granted</source>
-        <translation type="unfinished"></translation>
+        <translation>Есть</translation>
     </message>
     <message>
         <source>Only needed to clean Windows Update leftovers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Нужны только для очистки остатков Центра обновления Windows.</translation>
     </message>
     <message>
         <source>Restart as admin</source>
-        <translation type="unfinished"></translation>
+        <translation>Перезапустить с правами</translation>
     </message>
     <message>
         <source>Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Полный доступ к диску</translation>
     </message>
     <message>
         <source>Needed to clean Safari&apos;s cache and the Trash.</source>
-        <translation type="unfinished"></translation>
+        <translation>Нужен, чтобы очищать кэш Safari и Корзину.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть настройки</translation>
     </message>
     <message>
         <source>System default (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Как в системе (%1)</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки</translation>
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистка</translation>
     </message>
     <message>
         <source>Automation</source>
-        <translation type="unfinished"></translation>
+        <translation>Автоматизация</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Оформление</translation>
     </message>
     <message>
         <source>Exclusions</source>
-        <translation type="unfinished"></translation>
+        <translation>Исключения</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>О программе</translation>
     </message>
     <message>
         <source>Permissions &amp; about</source>
-        <translation type="unfinished"></translation>
+        <translation>Разрешения и сведения</translation>
     </message>
     <message>
         <source>Move items to the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Перемещать объекты в %1</translation>
     </message>
     <message>
         <source>Recommended. Turn off to delete files permanently.</source>
-        <translation type="unfinished"></translation>
+        <translation>Рекомендуется. Выключите, чтобы удалять файлы безвозвратно.</translation>
     </message>
     <message>
         <source>Large file size</source>
-        <translation type="unfinished"></translation>
+        <translation>Размер больших файлов</translation>
     </message>
     <message>
         <source>Files bigger than this appear in Large &amp; Old Files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы больше этого размера показываются среди больших и старых.</translation>
     </message>
     <message>
         <source>100 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>100 МБ</translation>
     </message>
     <message>
         <source>250 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>250 МБ</translation>
     </message>
     <message>
         <source>500 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>500 МБ</translation>
     </message>
     <message>
         <source>1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ГБ</translation>
     </message>
     <message>
         <source>Consider files old after</source>
-        <translation type="unfinished"></translation>
+        <translation>Считать файлы старыми через</translation>
     </message>
     <message>
         <source>Used by the “Unused” filter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Используется фильтром «Не открывались».</translation>
     </message>
     <message>
         <source>3 months</source>
-        <translation type="unfinished"></translation>
+        <translation>3 месяца</translation>
     </message>
     <message>
         <source>6 months</source>
-        <translation type="unfinished"></translation>
+        <translation>6 месяцев</translation>
     </message>
     <message>
         <source>12 months</source>
-        <translation type="unfinished"></translation>
+        <translation>12 месяцев</translation>
     </message>
     <message>
         <source>24 months</source>
-        <translation type="unfinished"></translation>
+        <translation>24 месяца</translation>
     </message>
     <message>
         <source>Scheduled scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Плановый анализ</translation>
     </message>
     <message>
         <source>Scans when Tarnwick starts if the last scan is older than this. Never cleans on its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполняется при запуске Tarnwick, если последний анализ был раньше этого срока. Сам никогда ничего не очищает.</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Выкл.</translation>
     </message>
     <message>
         <source>Weekly</source>
-        <translation type="unfinished"></translation>
+        <translation>Еженедельно</translation>
     </message>
     <message>
         <source>Monthly</source>
-        <translation type="unfinished"></translation>
+        <translation>Ежемесячно</translation>
     </message>
     <message>
         <source>Low space alerts</source>
-        <translation type="unfinished"></translation>
+        <translation>Предупреждения о нехватке места</translation>
     </message>
     <message>
         <source>Warn when free space drops below 10%.</source>
-        <translation type="unfinished"></translation>
+        <translation>Предупреждать, когда свободно меньше 10&#xa0;%.</translation>
     </message>
     <message>
         <source>Open at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Открывать при входе</translation>
     </message>
     <message>
         <source>Start with Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Запускать вместе с Windows</translation>
     </message>
     <message>
         <source>Starts Tarnwick in the background so scheduled scans can run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Запускает Tarnwick в фоне, чтобы мог выполняться плановый анализ.</translation>
     </message>
     <message>
         <source>Show Tarnwick in the system tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Показывать Tarnwick в системном трее</translation>
     </message>
     <message>
         <source>Show Tarnwick in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Показывать Tarnwick в строке меню</translation>
     </message>
     <message>
         <source>Closing the window keeps Tarnwick running there, so scheduled scans and low space alerts keep working.</source>
-        <translation type="unfinished"></translation>
+        <translation>После закрытия окна Tarnwick остаётся там, поэтому плановый анализ и предупреждения о нехватке места не прекращаются.</translation>
     </message>
     <message>
         <source>Ask every time</source>
-        <translation type="unfinished"></translation>
+        <translation>Спрашивать каждый раз</translation>
     </message>
     <message>
         <source>Keep running in the tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Оставлять в трее</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Завершать Tarnwick</translation>
     </message>
     <message>
         <source>When closing the window</source>
-        <translation type="unfinished"></translation>
+        <translation>При закрытии окна</translation>
     </message>
     <message>
         <source>In the tray, Tarnwick keeps running so scheduled scans and low space alerts keep working.</source>
-        <translation type="unfinished"></translation>
+        <translation>В трее Tarnwick продолжает работать, поэтому плановый анализ и предупреждения о нехватке места не прекращаются.</translation>
     </message>
     <message>
         <source>Theme</source>
-        <translation type="unfinished"></translation>
+        <translation>Тема</translation>
     </message>
     <message>
         <source>Follow the system, or always use light or dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Как в системе, всегда светлая или всегда тёмная.</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Системная</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Светлая</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Тёмная</translation>
     </message>
     <message>
         <source>Restart now</source>
-        <translation type="unfinished"></translation>
+        <translation>Перезапустить</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Язык</translation>
     </message>
     <message>
         <source>Tarnwick restarts to switch languages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Чтобы сменить язык, Tarnwick перезапустится.</translation>
     </message>
     <message>
         <source>Protected system locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Защищённые системные папки</translation>
     </message>
     <message>
         <source> — always skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation> — всегда пропускаются.</translation>
     </message>
     <message>
         <source>Protected apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Защищённые приложения</translation>
     </message>
     <message>
         <source> — their data is never cleaned. Caches of running apps and open files are skipped too.</source>
-        <translation type="unfinished"></translation>
+        <translation> — их данные никогда не очищаются. Кэш работающих приложений и открытые файлы тоже пропускаются.</translation>
     </message>
     <message>
         <source>Open logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть журналы</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверить обновления</translation>
     </message>
     <message>
         <source>Every cleanup writes a log you can review. Tarnwick checks for updates when it starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>После каждой очистки остаётся журнал, который можно просмотреть. При запуске Tarnwick проверяет обновления.</translation>
     </message>
     <message>
         <source>Every cleanup writes a log you can review.</source>
-        <translation type="unfinished"></translation>
+        <translation>После каждой очистки остаётся журнал, который можно просмотреть.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Rules have gone from the settings.&lt;/b&gt; Check that these are all of yours, and put back what is missing. Nothing is cleaned until then.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Из настроек пропали правила.&lt;/b&gt; Проверьте, все ли ваши правила здесь, и верните недостающие. До этого ничего не очищается.</translation>
     </message>
     <message>
         <source>&lt;b&gt;The settings can&apos;t be read.&lt;/b&gt; Check that these are all of your rules, and put back what is missing. Nothing is cleaned until then, and the damaged file stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Не удалось прочитать настройки.&lt;/b&gt; Проверьте, все ли ваши правила здесь, и верните недостающие. До этого ничего не очищается, а повреждённый файл сохраняется.</translation>
     </message>
     <message>
         <source>Add folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить папку</translation>
     </message>
     <message>
         <source>Never touch these</source>
-        <translation type="unfinished"></translation>
+        <translation>Никогда не трогать</translation>
     </message>
     <message>
         <source>Folders and patterns Tarnwick always skips.</source>
-        <translation type="unfinished"></translation>
+        <translation>Папки и шаблоны, которые Tarnwick всегда пропускает.</translation>
     </message>
     <message>
         <source>These are my rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Это мои правила</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Choose a folder to exclude</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите папку для исключения</translation>
     </message>
     <message>
         <source>The rules are kept. The damaged settings file stays beside the new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Правила сохранены. Повреждённый файл настроек остаётся рядом с новым.</translation>
     </message>
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось записать настройки, поэтому они остались прежними.</translation>
     </message>
 </context>
 <context>
     <name>Sidebar</name>
     <message>
         <source>%1 available of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Доступно %1 из %2</translation>
     </message>
     <message>
         <source>%1 free</source>
-        <translation type="unfinished"></translation>
+        <translation>Свободно %1</translation>
     </message>
     <message>
         <source>Expand sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Развернуть боковое меню</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Умный анализ</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистка</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Карта диска</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки</translation>
     </message>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Системные данные</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Уход за диском</translation>
     </message>
     <message>
         <source>Collapse sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Свернуть боковое меню</translation>
     </message>
 </context>
 <context>
     <name>StepBar</name>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>Ожидание</translation>
     </message>
     <message>
         <source>In progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполняется</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Готово</translation>
     </message>
 </context>
 <context>
     <name>SystemData</name>
     <message>
         <source>Review in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Просмотреть в Finder</translation>
     </message>
     <message>
         <source>Show in Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать в Файлах</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Переместить в Корзину</translation>
     </message>
     <message>
         <source>Remove snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить снимки</translation>
     </message>
     <message>
         <source>Delete unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить недоступные</translation>
     </message>
     <message>
         <source>Clean in Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Перейти к очистке</translation>
     </message>
     <message>
         <source>Open Xcode</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть Xcode</translation>
     </message>
     <message>
         <source>Couldn&apos;t open %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть %1</translation>
     </message>
     <message>
         <source>1 item</source>
@@ -1739,23 +1739,23 @@
     </message>
     <message>
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
-        <translation type="unfinished"></translation>
+        <translation>Перемещено в Корзину: %1, не удалось переместить: %2</translation>
     </message>
     <message>
         <source>Nothing to move</source>
-        <translation type="unfinished"></translation>
+        <translation>Перемещать нечего</translation>
     </message>
     <message>
         <source>Moved %1 to the Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Перемещено в Корзину: %1</translation>
     </message>
     <message>
         <source>There are no local snapshots to remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Локальных снимков для удаления нет</translation>
     </message>
     <message>
         <source>Snapshots were not removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Снимки не удалены</translation>
     </message>
     <message>
         <source>Removed %1 of %2 snapshots</source>
@@ -1763,11 +1763,11 @@
     </message>
     <message>
         <source>Simulator cleanup failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось очистить симуляторы: %1</translation>
     </message>
     <message>
         <source>No unavailable simulator devices — nothing to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Недоступных устройств симулятора нет&#xa0;— удалять нечего</translation>
     </message>
     <message>
         <source>Deleted 1 unavailable simulator device</source>
@@ -1779,287 +1779,287 @@
     </message>
     <message>
         <source>Xcode isn&apos;t installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Xcode не установлен</translation>
     </message>
     <message>
         <source>Your app caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Кэш ваших приложений</translation>
     </message>
     <message>
         <source>Caches that apps keep in your cache folder. The safe ones can be cleaned from Cleanup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Кэш, который приложения хранят в вашей папке кэша. То, что безопасно удалить, можно очистить на странице «Очистка».</translation>
     </message>
     <message>
         <source>Hidden folders in your home folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрытые папки в домашней папке</translation>
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .npm, .cargo and .nvm. Caches are safe to clear; keep tool installs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Кэш, настройки и установленные инструменты, которые средства разработки и приложения хранят в скрытых папках, таких как .npm, .cargo и .nvm. Кэш удалять безопасно, а установленные инструменты лучше оставить.</translation>
     </message>
     <message>
         <source>Flatpak app data</source>
-        <translation type="unfinished"></translation>
+        <translation>Данные приложений Flatpak</translation>
     </message>
     <message>
         <source>Settings, files and caches of your Flatpak apps, which each keep their own. “flatpak uninstall --delete-data” removes those of apps that are gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки, файлы и кэш ваших приложений Flatpak: у каждого они свои. Данные уже удалённых приложений убирает «flatpak uninstall --delete-data».</translation>
     </message>
     <message>
         <source>Your Flatpak apps and runtimes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ваши приложения и среды Flatpak</translation>
     </message>
     <message>
         <source>Apps that Flatpak installed for you alone, and the runtimes that they need. “flatpak uninstall --user --unused” removes runtimes that no app needs any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Приложения, которые Flatpak установил только для вас, и нужные им среды выполнения. Среды, которые больше не нужны ни одному приложению, удаляет «flatpak uninstall --user --unused».</translation>
     </message>
     <message>
         <source>Containers and images</source>
-        <translation type="unfinished"></translation>
+        <translation>Контейнеры и образы</translation>
     </message>
     <message>
         <source>Images, containers and volumes that Docker and Podman keep. “docker system prune” and “podman system prune” remove what no container uses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Образы, контейнеры и тома, которые хранят Docker и Podman. То, что не использует ни один контейнер, удаляют «docker system prune» и «podman system prune».</translation>
     </message>
     <message>
         <source>Virtual machines</source>
-        <translation type="unfinished"></translation>
+        <translation>Виртуальные машины</translation>
     </message>
     <message>
         <source>Disk images of virtual machines, kept by the program that made them. Delete a machine there, or with “virsh undefine --remove-all-storage”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Образы дисков виртуальных машин, которые хранит создавшая их программа. Удаляйте машину в ней или командой «virsh undefine --remove-all-storage».</translation>
     </message>
     <message>
         <source>Game libraries</source>
-        <translation type="unfinished"></translation>
+        <translation>Библиотеки игр</translation>
     </message>
     <message>
         <source>Games, kept by Steam and other launchers. Uninstall a game in its launcher.</source>
-        <translation type="unfinished"></translation>
+        <translation>Игры, которые хранят Steam и другие программы запуска. Удаляйте игру там, откуда её запускаете.</translation>
     </message>
     <message>
         <source>App data</source>
-        <translation type="unfinished"></translation>
+        <translation>Данные приложений</translation>
     </message>
     <message>
         <source>Databases and files that apps keep for you, and your Trash. Remove an app&apos;s data from within the app, or after uninstalling it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Базы данных и файлы, которые приложения хранят для вас, и ваша Корзина. Удаляйте данные приложения в нём самом или после его удаления.</translation>
     </message>
     <message>
         <source>Settings of your apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки ваших приложений</translation>
     </message>
     <message>
         <source>Settings that apps keep for you; some keep profiles and caches beside them. An app without its settings starts afresh.</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки, которые приложения хранят для вас; некоторые держат рядом с ними профили и кэш. Приложение без настроек запускается как в первый раз.</translation>
     </message>
     <message>
         <source>System journal</source>
-        <translation type="unfinished"></translation>
+        <translation>Системный журнал</translation>
     </message>
     <message>
         <source>The log of the system and its services, which journald keeps within a limit. “journalctl --vacuum-size=200M” trims it at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Журнал системы и её служб, размер которого ограничивает journald. Сократить его сразу позволяет «journalctl --vacuum-size=200M».</translation>
     </message>
     <message>
         <source>System logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы системных журналов</translation>
     </message>
     <message>
         <source>Log files of services and of the package manager. logrotate compresses and deletes old ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы журналов служб и менеджера пакетов. Старые сжимает и удаляет logrotate.</translation>
     </message>
     <message>
         <source>Crash dumps</source>
-        <translation type="unfinished"></translation>
+        <translation>Дампы сбоев</translation>
     </message>
     <message>
         <source>What was in the memory of programs that crashed, kept for reports. The system deletes old ones; “coredumpctl” lists them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Содержимое памяти программ в момент сбоя, сохранённое для отчётов. Старые дампы удаляет система; их список выводит «coredumpctl».</translation>
     </message>
     <message>
         <source>Package downloads</source>
-        <translation type="unfinished"></translation>
+        <translation>Загруженные пакеты</translation>
     </message>
     <message>
         <source>Packages that the package manager downloaded and has installed since. “apt-get clean”, “dnf clean packages”, “pacman -Sc” or “zypper clean” removes them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Пакеты, которые менеджер пакетов загрузил и уже установил. Их удаляет «apt-get clean», «dnf clean packages», «pacman -Sc» или «zypper clean».</translation>
     </message>
     <message>
         <source>Snap packages and old revisions</source>
-        <translation type="unfinished"></translation>
+        <translation>Пакеты Snap и старые ревизии</translation>
     </message>
     <message>
         <source>Snap packages, with earlier revisions that snapd keeps to go back to. “snap set system refresh.retain=2” keeps fewer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Пакеты Snap и их прежние ревизии, которые snapd хранит для отката. Уменьшить их число позволяет «snap set system refresh.retain=2».</translation>
     </message>
     <message>
         <source>Flatpak apps and runtimes of the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Системные приложения и среды Flatpak</translation>
     </message>
     <message>
         <source>Apps that Flatpak installed for all users, and the runtimes that they need. “flatpak uninstall --unused” removes runtimes that no app needs any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Приложения, которые Flatpak установил для всех пользователей, и нужные им среды выполнения. Среды, которые больше не нужны ни одному приложению, удаляет «flatpak uninstall --unused».</translation>
     </message>
     <message>
         <source>Kernels and their modules</source>
-        <translation type="unfinished"></translation>
+        <translation>Ядра и их модули</translation>
     </message>
     <message>
         <source>The kernels that the system can start, with their drivers. The package manager keeps the newest; “apt-get autoremove” removes older ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ядра, которые может запустить система, и их драйверы. Новейшие сохраняет менеджер пакетов; старые удаляет «apt-get autoremove».</translation>
     </message>
     <message>
         <source>Swap and hibernation files</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы подкачки и гибернации</translation>
     </message>
     <message>
         <source>Room on the disk for what doesn&apos;t fit into memory, and for memory itself during hibernation. The system&apos;s settings fix its size; “swapon --show” lists it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Место на диске для того, что не помещается в память, и для самой памяти на время гибернации. Его размер задан настройками системы; посмотреть его можно командой «swapon --show».</translation>
     </message>
     <message>
         <source>System snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Снимки системы</translation>
     </message>
     <message>
         <source>Earlier states of the system, which Timeshift or Snapper keeps. They share what didn&apos;t change, so they have no size of their own; “timeshift --delete” or “snapper delete” removes one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Прежние состояния системы, которые хранит Timeshift или Snapper. Неизменившиеся данные у них общие, поэтому собственного размера у снимков нет; удалить снимок можно командой «timeshift --delete» или «snapper delete».</translation>
     </message>
     <message>
         <source>Time Machine local snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Локальные снимки Time Machine</translation>
     </message>
     <message>
         <source>Hourly snapshots macOS keeps on this disk until Time Machine can reach its backup drive. macOS frees them when space runs low; removing them now is safe, but you lose those restore points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ежечасные снимки, которые macOS хранит на этом диске, пока Time Machine недоступен диск резервного копирования. Когда места становится мало, macOS удаляет их сама; удалить их сейчас безопасно, но вернуться к этим точкам восстановления уже не получится.</translation>
     </message>
     <message>
         <source>iPhone &amp; iPad backups</source>
-        <translation type="unfinished"></translation>
+        <translation>Резервные копии iPhone и iPad</translation>
     </message>
     <message>
         <source>Device backups made by Finder. Delete old ones from Finder (General → Manage Backups) once a newer or iCloud backup exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Резервные копии устройств, созданные Finder. Удаляйте старые в Finder («Основные» → «Управлять резервными копиями»), когда есть более новая копия или копия в iCloud.</translation>
     </message>
     <message>
         <source>Xcode device support</source>
-        <translation type="unfinished"></translation>
+        <translation>Поддержка устройств Xcode</translation>
     </message>
     <message>
         <source>Debug symbols Xcode copies from every iOS, watchOS and tvOS version you&apos;ve connected. Xcode copies them again the next time you connect that device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Отладочные символы, которые Xcode копирует для каждой версии iOS, watchOS и tvOS на подключённых вами устройствах. При следующем подключении устройства Xcode скопирует их снова.</translation>
     </message>
     <message>
         <source>iOS Simulator devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Устройства симулятора iOS</translation>
     </message>
     <message>
         <source>Simulator devices and their app data. Removing unavailable devices (for runtimes you no longer have) is safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Устройства симулятора и данные их приложений. Удалять недоступные устройства (для сред выполнения, которых у вас больше нет) безопасно.</translation>
     </message>
     <message>
         <source>Simulator runtimes &amp; caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Среды и кэш симулятора</translation>
     </message>
     <message>
         <source>iOS, watchOS and visionOS simulator runtimes Xcode downloaded, plus their shared caches. Remove runtimes you don&apos;t use in Xcode › Settings › Components.</source>
-        <translation type="unfinished"></translation>
+        <translation>Загруженные Xcode среды выполнения симулятора для iOS, watchOS и visionOS и их общий кэш. Ненужные среды удаляйте в Xcode › Settings › Components.</translation>
     </message>
     <message>
         <source>Caches apps keep in your Library folder. The safe ones can be cleaned from Cleanup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Кэш, который приложения хранят в вашей папке «Библиотеки». То, что безопасно удалить, можно очистить на странице «Очистка».</translation>
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .cache, .npm and .nvm. Caches are safe to clear; keep tool installs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Кэш, настройки и установленные инструменты, которые средства разработки и приложения хранят в скрытых папках, таких как .cache, .npm и .nvm. Кэш удалять безопасно, а установленные инструменты лучше оставить.</translation>
     </message>
     <message>
         <source>Xcode archives</source>
-        <translation type="unfinished"></translation>
+        <translation>Архивы Xcode</translation>
     </message>
     <message>
         <source>Builds you archived for distribution. Keep the ones you may need to symbolicate crash reports for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сборки, которые вы заархивировали для распространения. Сохраните те, которые могут понадобиться для символизации отчётов о сбоях.</translation>
     </message>
     <message>
         <source>Docker disk image</source>
-        <translation type="unfinished"></translation>
+        <translation>Образ диска Docker</translation>
     </message>
     <message>
         <source>The virtual disk holding Docker&apos;s images and containers. Shrink it with “docker system prune” or Docker Desktop&apos;s settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Виртуальный диск с образами и контейнерами Docker. Уменьшить его можно командой «docker system prune» или в настройках Docker Desktop.</translation>
     </message>
     <message>
         <source>Mail attachments</source>
-        <translation type="unfinished"></translation>
+        <translation>Вложения «Почты»</translation>
     </message>
     <message>
         <source>Attachments Mail saved after you opened them. The originals stay in your mailbox.</source>
-        <translation type="unfinished"></translation>
+        <translation>Вложения, которые приложение «Почта» сохранило, когда вы их открыли. Оригиналы остаются в почтовом ящике.</translation>
     </message>
     <message>
         <source>Messages attachments</source>
-        <translation type="unfinished"></translation>
+        <translation>Вложения «Сообщений»</translation>
     </message>
     <message>
         <source>Photos, videos and files from your conversations. Remove large ones from Messages (Settings → General → Storage) to keep chats consistent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Фото, видео и файлы из ваших разговоров. Чтобы не нарушить переписку, удаляйте большие вложения приложения «Сообщения» через «Настройки» → «Основные» → «Хранилище».</translation>
     </message>
     <message>
         <source>System caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Системный кэш</translation>
     </message>
     <message>
         <source>Caches shared by all users and system services. macOS trims these itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Кэш, общий для всех пользователей и системных служб. macOS сокращает его сама.</translation>
     </message>
     <message>
         <source>System logs &amp; diagnostics</source>
-        <translation type="unfinished"></translation>
+        <translation>Системные журналы и диагностика</translation>
     </message>
     <message>
         <source>Unified logs and diagnostic reports. macOS rotates and deletes them automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Единый журнал и отчёты о диагностике. macOS обновляет и удаляет их автоматически.</translation>
     </message>
     <message>
         <source>Virtual memory &amp; sleep image</source>
-        <translation type="unfinished"></translation>
+        <translation>Виртуальная память и образ сна</translation>
     </message>
     <message>
         <source>Swap files and the hibernation image. They grow and shrink with memory use and reset when you restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы подкачки и образ гибернации. Их размер меняется вместе с расходом памяти и сбрасывается при перезагрузке.</translation>
     </message>
     <message>
         <source>macOS assets &amp; updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Ресурсы и обновления macOS</translation>
     </message>
     <message>
         <source>Downloaded system assets (fonts, dictionaries, language and AI models) and staged software updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Загруженные ресурсы системы (шрифты, словари, языковые модели и модели ИИ) и подготовленные обновления ПО.</translation>
     </message>
     <message>
         <source>Other Library data</source>
-        <translation type="unfinished"></translation>
+        <translation>Другие данные Библиотек</translation>
     </message>
     <message>
         <source>Everything else in your Library folder: preferences, keychains, logs, and data for system services.</source>
-        <translation type="unfinished"></translation>
+        <translation>Всё остальное в вашей папке «Библиотеки»: настройки, связки ключей, журналы и данные системных служб.</translation>
     </message>
     <message>
         <source>System databases &amp; temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>Системные базы и временные файлы</translation>
     </message>
     <message>
         <source>Databases and per-app temporary folders used by macOS services. macOS manages these.</source>
-        <translation type="unfinished"></translation>
+        <translation>Базы данных и временные папки приложений, которыми пользуются службы macOS. Ими управляет macOS.</translation>
     </message>
     <message>
         <source>App data &amp; containers</source>
-        <translation type="unfinished"></translation>
+        <translation>Данные и контейнеры приложений</translation>
     </message>
     <message>
         <source>Settings, databases and files apps keep for you. Remove an app&apos;s data by uninstalling the app or from within the app.</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки, базы данных и файлы, которые приложения хранят для вас. Чтобы убрать данные приложения, удалите его или сделайте это в нём самом.</translation>
     </message>
     <message>
         <source>1 snapshot</source>
@@ -2071,11 +2071,11 @@
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет прав на чтение</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>минимум %1</translation>
     </message>
     <message>
         <source>1 device</source>
@@ -2090,258 +2090,258 @@
     <name>SystemDataPage</name>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Системные данные</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый анализ</translation>
     </message>
     <message>
         <source>See what&apos;s inside System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Узнайте, что входит в системные данные</translation>
     </message>
     <message>
         <source>Snapshots, backups, developer files, caches and more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Снимки, резервные копии, файлы разработки, кэш и другое.</translation>
     </message>
     <message>
         <source>Scan System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Начать анализ</translation>
     </message>
     <message>
         <source>measured in System Data · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; you can act on</source>
-        <translation type="unfinished"></translation>
+        <translation>занимают системные данные · из них &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; можно освободить</translation>
     </message>
     <message>
         <source>Working…</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполняется…</translation>
     </message>
     <message>
         <source>Updating…</source>
-        <translation type="unfinished"></translation>
+        <translation>Обновление…</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>You can reclaim</source>
-        <translation type="unfinished"></translation>
+        <translation>Можно освободить</translation>
     </message>
     <message>
         <source>Measuring System Data…</source>
-        <translation type="unfinished"></translation>
+        <translation>Подсчёт системных данных…</translation>
     </message>
     <message>
         <source>measured</source>
-        <translation type="unfinished"></translation>
+        <translation>подсчитано</translation>
     </message>
     <message>
         <source>macOS will remove its local Time Machine snapshots on this disk. Your Time Machine backups on other drives aren&apos;t affected. macOS will ask for your administrator password.</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS удалит свои локальные снимки Time Machine на этом диске. Резервные копии Time Machine на других дисках не затрагиваются. macOS запросит пароль администратора.</translation>
     </message>
     <message>
         <source>Simulator devices whose iOS runtime is no longer installed will be deleted, with their apps and data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Устройства симулятора, среда выполнения iOS которых больше не установлена, будут удалены вместе с приложениями и данными.</translation>
     </message>
     <message>
         <source>%1 will be moved to the Trash. Xcode recreates it when you connect a device again.</source>
-        <translation type="unfinished"></translation>
+        <translation>В Корзину будет перемещено %1. При следующем подключении устройства Xcode создаст эти данные заново.</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Нужен доступ к диску</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет прав на чтение</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>минимум %1</translation>
     </message>
     <message>
         <source>Largest: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Крупнейшие: %1</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
-        <translation type="unfinished"></translation>
+        <translation>Под управлением macOS</translation>
     </message>
     <message>
         <source>Managed by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Под управлением системы</translation>
     </message>
     <message>
         <source>Only what you may read is counted. Folders that belong to the system or to other users are left out, and folders shared by several rows are counted once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Учитывается только то, что вы вправе читать. Папки системы и других пользователей не входят в сумму, а папки, относящиеся к нескольким строкам, учтены один раз.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Why Storage settings shows a bigger number&lt;/b&gt;&lt;br&gt;macOS works out System Data as whatever is left on the disk after Apps, Documents, Photos and its other categories. That remainder also includes things no app can measure: the Spotlight index, APFS snapshots, purgeable space and root-only system files. Without Full Disk Access, Tarnwick also can&apos;t see protected folders, so its total is lower than what macOS reports.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Почему в настройках хранилища число больше&lt;/b&gt;&lt;br&gt;К системным данным macOS относит всё, что остаётся на диске за вычетом приложений, документов, фото и других её категорий. В этот остаток входит и то, что не может измерить ни одно приложение: индекс Spotlight, снимки APFS, очищаемое место и системные файлы, доступные только суперпользователю. Без полного доступа к диску Tarnwick к тому же не видит защищённых папок, поэтому его сумма меньше той, которую сообщает macOS.</translation>
     </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Меню</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Свернуть</translation>
     </message>
     <message>
         <source>Maximize</source>
-        <translation type="unfinished"></translation>
+        <translation>Развернуть</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
 </context>
 <context>
     <name>Tray</name>
     <message>
         <source>Open Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть Tarnwick</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Умный анализ</translation>
     </message>
     <message>
         <source>Find Large Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Найти большие файлы</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки</translation>
     </message>
     <message>
         <source>Check for Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверить обновления</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Завершить Tarnwick</translation>
     </message>
     <message>
         <source>%1 · %2 free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · свободно %2</translation>
     </message>
 </context>
 <context>
     <name>Updater</name>
     <message>
         <source>Could not open the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть обновление.</translation>
     </message>
     <message>
         <source>The server took too long to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сервер слишком долго не отвечал.</translation>
     </message>
     <message>
         <source>The update information could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать сведения об обновлении.</translation>
     </message>
     <message>
         <source>The server redirected to an address that is not safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сервер перенаправил на небезопасный адрес.</translation>
     </message>
     <message>
         <source>Too many redirects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Слишком много перенаправлений.</translation>
     </message>
     <message>
         <source>The update is not on Tarnwick&apos;s server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Обновление находится не на сервере Tarnwick.</translation>
     </message>
     <message>
         <source>The update has an unexpected size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Размер обновления не совпадает с ожидаемым.</translation>
     </message>
     <message>
         <source>Could not save the update: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сохранить обновление: %1</translation>
     </message>
     <message>
         <source>The update could not be downloaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось загрузить обновление: %1</translation>
     </message>
     <message>
         <source>Could not read the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать обновление.</translation>
     </message>
     <message>
         <source>The update does not match the published checksum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Контрольная сумма обновления не совпадает с опубликованной.</translation>
     </message>
     <message>
         <source>The update is not signed by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Обновление не подписано издателем «%1».</translation>
     </message>
 </context>
 <context>
     <name>fmt</name>
     <message>
         <source>TB</source>
-        <translation type="unfinished"></translation>
+        <translation>ТБ</translation>
     </message>
     <message>
         <source>GB</source>
-        <translation type="unfinished"></translation>
+        <translation>ГБ</translation>
     </message>
     <message>
         <source>MB</source>
-        <translation type="unfinished"></translation>
+        <translation>МБ</translation>
     </message>
     <message>
         <source>KB</source>
-        <translation type="unfinished"></translation>
+        <translation>КБ</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Сегодня</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>Вчера</translation>
     </message>
     <message numerus="yes">
         <source>%n day(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n день назад</numerusform>
+            <numerusform>%n дня назад</numerusform>
+            <numerusform>%n дней назад</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n week(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n нед. назад</numerusform>
+            <numerusform>%n нед. назад</numerusform>
+            <numerusform>%n нед. назад</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n month(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n мес. назад</numerusform>
+            <numerusform>%n мес. назад</numerusform>
+            <numerusform>%n мес. назад</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n year(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n год назад</numerusform>
+            <numerusform>%n года назад</numerusform>
+            <numerusform>%n лет назад</numerusform>
         </translation>
     </message>
 </context>
