@@ -5,18 +5,18 @@
     <name>AppGuard</name>
     <message>
         <source>Password managers, input methods, security and device-management agents, VPNs</source>
-        <translation type="unfinished"></translation>
+        <translation>密码管理器、输入法、安全与设备管理程序、VPN</translation>
     </message>
 </context>
 <context>
     <name>AppState</name>
     <message>
         <source>The settings can&apos;t be read, so the rules on what to keep are unknown. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取设置，因此不清楚有哪些排除规则。未清理任何内容。</translation>
     </message>
     <message>
         <source>The settings have lost rules on what to keep. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>设置中有排除规则丢失。未清理任何内容。</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -28,162 +28,162 @@
     </message>
     <message>
         <source>%1 (%2) moved to the %3</source>
-        <translation type="unfinished"></translation>
+        <translation>已将 %1（%2）移到%3</translation>
     </message>
     <message>
         <source> · %1 in use, skipped</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 个正在使用，已跳过</translation>
     </message>
     <message numerus="yes">
         <source>Restored %Ln file(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已恢复 %Ln 个文件</numerusform>
         </translation>
     </message>
     <message>
         <source>The settings can&apos;t be read, so the rules on what to keep are unknown. Nothing was moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取设置，因此不清楚有哪些排除规则。未移动任何内容。</translation>
     </message>
 </context>
 <context>
     <name>Categories</name>
     <message>
         <source>Temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>临时文件</translation>
     </message>
     <message>
         <source>Scratch files that apps and the system create while working. They are not needed once the app closes.</source>
-        <translation type="unfinished"></translation>
+        <translation>应用和系统在运行过程中产生的临时文件。应用关闭后便不再需要。</translation>
     </message>
     <message>
         <source>App caches</source>
-        <translation type="unfinished"></translation>
+        <translation>应用缓存</translation>
     </message>
     <message>
         <source>Data apps keep to load faster. Apps rebuild these automatically the next time they need them.</source>
-        <translation type="unfinished"></translation>
+        <translation>应用为加快加载而保存的数据。下次需要时，应用会自动重新生成。</translation>
     </message>
     <message>
         <source>Browser caches</source>
-        <translation type="unfinished"></translation>
+        <translation>浏览器缓存</translation>
     </message>
     <message>
         <source>Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched.</source>
-        <translation type="unfinished"></translation>
+        <translation>缓存的图像、脚本和网页。登录状态、历史记录、书签和密码绝不会受影响。</translation>
     </message>
     <message>
         <source>Logs &amp; crash reports</source>
-        <translation type="unfinished"></translation>
+        <translation>日志与崩溃报告</translation>
     </message>
     <message>
         <source>Diagnostic logs and crash reports. Useful only when troubleshooting a recent problem.</source>
-        <translation type="unfinished"></translation>
+        <translation>诊断日志和崩溃报告。仅在排查近期问题时有用。</translation>
     </message>
     <message>
         <source>Preview images of your files. They are regenerated the next time you open a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件的预览图像。下次打开文件夹时会重新生成。</translation>
     </message>
     <message>
         <source>Old installers</source>
-        <translation type="unfinished"></translation>
+        <translation>旧安装包</translation>
     </message>
     <message>
         <source>Developer caches</source>
-        <translation type="unfinished"></translation>
+        <translation>开发者缓存</translation>
     </message>
     <message>
         <source>Package manager caches and build output. Removing them is safe, but the next build or install will be slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>软件包管理器的缓存和构建产物。可以安全移除，但下次构建或安装会变慢。</translation>
     </message>
     <message>
         <source>Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>废纸篓</translation>
     </message>
     <message>
         <source>Items you have already deleted. Emptying cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>你已删除的项目。清倒后无法撤销。</translation>
     </message>
     <message>
         <source>QuickLook cache</source>
-        <translation type="unfinished"></translation>
+        <translation>“快速查看”缓存</translation>
     </message>
     <message>
         <source>Thumbnail cache</source>
-        <translation type="unfinished"></translation>
+        <translation>缩略图缓存</translation>
     </message>
     <message>
         <source>Disk images and installer packages in your Downloads folder. Review in case you still need an installer.</source>
-        <translation type="unfinished"></translation>
+        <translation>“下载”文件夹中的磁盘映像和安装包。请检查是否还需要其中的安装程序。</translation>
     </message>
     <message>
         <source>Software packages and disc images in your Downloads folder. Review in case you still need one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>“下载”文件夹中的软件包和光盘映像。请检查是否还需要其中的文件。</translation>
     </message>
     <message>
         <source>Safe</source>
-        <translation type="unfinished"></translation>
+        <translation>安全</translation>
     </message>
     <message>
         <source>Review</source>
-        <translation type="unfinished"></translation>
+        <translation>需检查</translation>
     </message>
     <message>
         <source>Permanent</source>
-        <translation type="unfinished"></translation>
+        <translation>永久删除</translation>
     </message>
     <message>
         <source>Thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>缩略图</translation>
     </message>
     <message>
         <source>QuickLook thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>“快速查看”缩略图</translation>
     </message>
     <message>
         <source>Simulator caches</source>
-        <translation type="unfinished"></translation>
+        <translation>模拟器缓存</translation>
     </message>
 </context>
 <context>
     <name>Cleaner</name>
     <message>
         <source>delete permanently</source>
-        <translation type="unfinished"></translation>
+        <translation>永久删除</translation>
     </message>
     <message>
         <source>The home folder belongs to another user. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>个人文件夹属于其他用户。未清理任何内容。</translation>
     </message>
     <message>
         <source>Another cleanup is already running.</source>
-        <translation type="unfinished"></translation>
+        <translation>已有另一项清理正在进行。</translation>
     </message>
     <message>
         <source>There is no telling whether another cleanup is running. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法确定是否有另一项清理正在进行。未清理任何内容。</translation>
     </message>
 </context>
 <context>
     <name>CleanupPage</name>
     <message>
         <source>SAFE TO CLEAN</source>
-        <translation type="unfinished"></translation>
+        <translation>可安全清理</translation>
     </message>
     <message>
         <source>REVIEW BEFORE CLEANING</source>
-        <translation type="unfinished"></translation>
+        <translation>清理前请检查</translation>
     </message>
     <message>
         <source>CANNOT BE UNDONE</source>
-        <translation type="unfinished"></translation>
+        <translation>无法撤销</translation>
     </message>
     <message>
         <source>Details shown</source>
-        <translation type="unfinished"></translation>
+        <translation>已显示详细信息</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>全选</translation>
     </message>
     <message>
         <source>%1 items</source>
@@ -191,19 +191,19 @@
     </message>
     <message>
         <source>%1 is running</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 正在运行</translation>
     </message>
     <message>
         <source>Nothing left to clean. Rescan any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可清理的内容了。可随时重新扫描。</translation>
     </message>
     <message>
         <source>Largest items</source>
-        <translation type="unfinished"></translation>
+        <translation>最大的项目</translation>
     </message>
     <message>
         <source>Show in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>在“%1”中显示</translation>
     </message>
     <message>
         <source>Show %1 more</source>
@@ -215,344 +215,344 @@
     </message>
     <message numerus="yes">
         <source>&lt;b&gt;%Ln file(s) skipped&lt;/b&gt; because they were in use or protected. Quit the apps using them and rescan to remove them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&lt;b&gt;已跳过 %Ln 个文件&lt;/b&gt;，因为文件正在使用或受到保护。如需移除，请退出正在使用这些文件的应用，然后重新扫描。</numerusform>
         </translation>
     </message>
     <message>
         <source>For example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>例如：%1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Left caches of running apps alone:&lt;/b&gt; %1. Quit them and clean again to include them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;未清理正在运行的应用的缓存：&lt;/b&gt;%1。如需一并清理，请退出这些应用，然后再次清理。</translation>
     </message>
     <message>
         <source>Cleanup complete</source>
-        <translation type="unfinished"></translation>
+        <translation>清理完成</translation>
     </message>
     <message>
         <source>Available before</source>
-        <translation type="unfinished"></translation>
+        <translation>清理前可用</translation>
     </message>
     <message>
         <source>Available now</source>
-        <translation type="unfinished"></translation>
+        <translation>现在可用</translation>
     </message>
     <message>
         <source>View log</source>
-        <translation type="unfinished"></translation>
+        <translation>查看日志</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>完成</translation>
     </message>
     <message>
         <source>Moved to the %1. You can still restore anything.</source>
-        <translation type="unfinished"></translation>
+        <translation>已移到%1。所有项目仍可恢复。</translation>
     </message>
     <message>
         <source>Items were deleted permanently.</source>
-        <translation type="unfinished"></translation>
+        <translation>项目已永久删除。</translation>
     </message>
     <message>
         <source>Restart as admin</source>
-        <translation type="unfinished"></translation>
+        <translation>以管理员身份重启</translation>
     </message>
     <message>
         <source>Some folders need Full Disk Access.</source>
-        <translation type="unfinished"></translation>
+        <translation>部分文件夹需要“完全磁盘访问权限”。</translation>
     </message>
     <message>
         <source>Some folders may need Full Disk Access.</source>
-        <translation type="unfinished"></translation>
+        <translation>部分文件夹可能需要“完全磁盘访问权限”。</translation>
     </message>
     <message>
         <source>Open System Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>打开系统设置</translation>
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>部分文件属于系统，未作处理。</translation>
     </message>
     <message>
         <source>These files need administrator rights.</source>
-        <translation type="unfinished"></translation>
+        <translation>清理这些文件需要管理员权限。</translation>
     </message>
     <message>
         <source>&lt;b&gt;Some files need administrator rights.&lt;/b&gt; Restart Tarnwick as administrator and clean again to remove them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;部分文件需要管理员权限。&lt;/b&gt;如需移除，请以管理员身份重启 Tarnwick，然后再次清理。</translation>
     </message>
     <message>
         <source>You have no permission to read some of these folders.</source>
-        <translation type="unfinished"></translation>
+        <translation>你没有权限读取其中部分文件夹。</translation>
     </message>
     <message>
         <source>%1 is open. Quit it to include its cache.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已打开。如需一并清理其缓存，请退出该应用。</translation>
     </message>
     <message>
         <source>%1 are open. Quit them to include their caches.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已打开。如需一并清理其缓存，请退出这些应用。</translation>
     </message>
     <message>
         <source>Nothing scanned yet</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未扫描</translation>
     </message>
     <message>
         <source>Find caches, temporary files and leftovers.</source>
-        <translation type="unfinished"></translation>
+        <translation>查找缓存、临时文件和残留文件。</translation>
     </message>
     <message>
         <source>Start Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>开始智能扫描</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>清理</translation>
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>正在清理</translation>
     </message>
     <message>
         <source>In progress</source>
-        <translation type="unfinished"></translation>
+        <translation>进行中</translation>
     </message>
     <message>
         <source>of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>共 %1</translation>
     </message>
     <message>
         <source>Select recommended</source>
-        <translation type="unfinished"></translation>
+        <translation>选择推荐项目</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>重新扫描</translation>
     </message>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>所选内容</translation>
     </message>
     <message>
         <source>Show the rules</source>
-        <translation type="unfinished"></translation>
+        <translation>显示规则</translation>
     </message>
     <message>
         <source>%1 can be cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>可清理 %1</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected%3</source>
-        <translation type="unfinished"></translation>
+        <translation>已选择 &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt;%3</translation>
     </message>
     <message>
         <source> · some need admin</source>
-        <translation type="unfinished"></translation>
+        <translation> · 部分需要管理员权限</translation>
     </message>
     <message>
         <source>moved to the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>移到%1</translation>
     </message>
     <message>
         <source>deleted permanently</source>
-        <translation type="unfinished"></translation>
+        <translation>永久删除</translation>
     </message>
     <message>
         <source>Clean %1</source>
-        <translation type="unfinished"></translation>
+        <translation>清理 %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Rules on what to keep have gone from the settings.&lt;/b&gt; Nothing is cleaned until you have looked at them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;设置中有排除规则丢失。&lt;/b&gt;在你检查规则之前，不会清理任何内容。</translation>
     </message>
     <message>
         <source>&lt;b&gt;The settings can&apos;t be read.&lt;/b&gt; Nothing is cleaned until you have looked at the rules on what to keep.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;无法读取设置。&lt;/b&gt;在你检查排除规则之前，不会清理任何内容。</translation>
     </message>
     <message>
         <source>Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>正在扫描</translation>
     </message>
     <message>
         <source>Items checked</source>
-        <translation type="unfinished"></translation>
+        <translation>已检查项目</translation>
     </message>
     <message>
         <source>Elapsed</source>
-        <translation type="unfinished"></translation>
+        <translation>已用时间</translation>
     </message>
     <message>
         <source>Remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>剩余时间</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>停止</translation>
     </message>
     <message>
         <source>found</source>
-        <translation type="unfinished"></translation>
+        <translation>已找到</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>需要完全磁盘访问权限</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>没有读取权限</translation>
     </message>
 </context>
 <context>
     <name>Cli</name>
     <message>
         <source>Measures what could be cleaned, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>计算可清理的内容，不作任何更改。</translation>
     </message>
     <message>
         <source>Scans, shows what would go, asks, and cleans it.</source>
-        <translation type="unfinished"></translation>
+        <translation>扫描并列出将清理的内容，询问后再清理。</translation>
     </message>
     <message>
         <source>Searches the home folder for large files, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>在个人文件夹中查找大文件，不作任何更改。</translation>
     </message>
     <message>
         <source>Measures what makes up the system&apos;s share of the disk, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>计算系统所占磁盘空间的构成，不作任何更改。</translation>
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
-        <translation type="unfinished"></translation>
+        <translation>仅限这些类别；清理时全部处理，包括未经指定绝不清理的类别</translation>
     </message>
     <message>
         <source>never touch what this rule names, beside the rules in the settings; repeatable</source>
-        <translation type="unfinished"></translation>
+        <translation>除设置中的规则外，也绝不改动此规则所指的内容；可重复使用</translation>
     </message>
     <message>
         <source>delete for good, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>永久删除，无论设置如何</translation>
     </message>
     <message>
         <source>move to the Trash, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>移到废纸篓，无论设置如何</translation>
     </message>
     <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
-        <translation type="unfinished"></translation>
+        <translation>不作任何改动；列出将移除和将保留的内容及其原因</translation>
     </message>
     <message>
         <source>don&apos;t ask</source>
-        <translation type="unfinished"></translation>
+        <translation>不询问</translation>
     </message>
     <message>
         <source>look for files that take at least so many megabytes on the disk, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>查找占用磁盘至少 N MB 的文件，无论设置如何</translation>
     </message>
     <message>
         <source>one JSON object on standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>向标准输出写入一个 JSON 对象</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 和 %2</translation>
     </message>
     <message>
         <source>show this help</source>
-        <translation type="unfinished"></translation>
+        <translation>显示此帮助</translation>
     </message>
     <message>
         <source>show the version</source>
-        <translation type="unfinished"></translation>
+        <translation>显示版本</translation>
     </message>
     <message>
         <source>Usage: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>用法：%1</translation>
     </message>
     <message>
         <source>Commands:</source>
-        <translation type="unfinished"></translation>
+        <translation>命令：</translation>
     </message>
     <message>
         <source>Options:</source>
-        <translation type="unfinished"></translation>
+        <translation>选项：</translation>
     </message>
     <message>
         <source>Say &quot;%1&quot; to learn about one.</source>
-        <translation type="unfinished"></translation>
+        <translation>使用“%1”了解某个命令。</translation>
     </message>
     <message>
         <source>Categories: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>类别：%1</translation>
     </message>
     <message>
         <source>there is no option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>没有选项 %1</translation>
     </message>
     <message>
         <source>there is no command %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有命令 %1，只有 %2</translation>
     </message>
     <message>
         <source>%1 is one word too many</source>
-        <translation type="unfinished"></translation>
+        <translation>多出了一个参数 %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no --%2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不接受 --%2</translation>
     </message>
     <message>
         <source>--delete and --trash exclude each other</source>
-        <translation type="unfinished"></translation>
+        <translation>--delete 和 --trash 不能同时使用</translation>
     </message>
     <message>
         <source>--only wants ids of categories: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>--only 需要类别的 ID：%1</translation>
     </message>
     <message>
         <source>there is no category %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有类别 %1，只有 %2</translation>
     </message>
     <message>
         <source>--exclude wants a rule</source>
-        <translation type="unfinished"></translation>
+        <translation>--exclude 需要一条规则</translation>
     </message>
     <message>
         <source>the rule %1 matches nothing: a path begins with / or ~/ and lies below /, a name has no slash</source>
-        <translation type="unfinished"></translation>
+        <translation>规则 %1 不匹配任何内容：路径须以 / 或 ~/ 开头并位于 / 之下，名称不能含有斜杠</translation>
     </message>
     <message>
         <source>--min-mb wants a number of megabytes, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>--min-mb 需要以 MB 为单位的数字，而不是 %1</translation>
     </message>
     <message>
         <source>Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>未清理任何内容。</translation>
     </message>
     <message>
         <source>Look at the rules in the settings of Tarnwick; or mend %1, or remove it together with %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>请在 Tarnwick 的设置中检查规则；或者修复 %1，或者将其连同 %2 一并移除。</translation>
     </message>
     <message>
         <source>the scan was cancelled, and nothing was cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>扫描已取消，未清理任何内容</translation>
     </message>
     <message>
         <source>there is no terminal to ask on, so nothing is cleaned without --yes</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可供询问的终端，因此不加 --yes 就不会清理任何内容</translation>
     </message>
     <message>
         <source>the search was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>查找已取消</translation>
     </message>
     <message>
         <source>the output could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入输出：%1</translation>
     </message>
     <message>
         <source>Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>正在扫描</translation>
     </message>
     <message>
         <source>%1 files</source>
@@ -560,11 +560,11 @@
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>正在清理</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>%1 of %2 files</source>
@@ -572,19 +572,19 @@
     </message>
     <message>
         <source>Searching</source>
-        <translation type="unfinished"></translation>
+        <translation>正在查找</translation>
     </message>
     <message>
         <source>the scan was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>扫描已取消</translation>
     </message>
     <message>
         <source>cancelling…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在取消…</translation>
     </message>
     <message>
         <source>finishing this item, then stopping…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在完成当前项目，然后停止…</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -592,127 +592,127 @@
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 毫秒</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 秒</translation>
     </message>
     <message>
         <source>Not everything could be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>部分内容无法读取：%1。</translation>
     </message>
     <message>
         <source>the measuring was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>计算已取消</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>类别</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>大小</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>文件数</translation>
     </message>
     <message>
         <source>Rating</source>
-        <translation type="unfinished"></translation>
+        <translation>评级</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>位置</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>总计</translation>
     </message>
     <message>
         <source>%1 of it is safe to clean: tarnwick-cli clean</source>
-        <translation type="unfinished"></translation>
+        <translation>其中 %1 可安全清理：tarnwick-cli clean</translation>
     </message>
     <message>
         <source>%1 is running, so %2 of its data will stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 正在运行，因此将保留其 %2 数据。</translation>
     </message>
     <message>
         <source>Left alone unless you name it: %1. To clean it: --only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>除非指定，否则不清理：%1。如需清理：--only %2</translation>
     </message>
     <message>
         <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
-        <translation type="unfinished"></translation>
+        <translation>其中 %1 位于没有废纸篓的卷上，除非使用 --delete，否则将会保留。</translation>
     </message>
     <message>
         <source>deleted for good</source>
-        <translation type="unfinished"></translation>
+        <translation>永久删除</translation>
     </message>
     <message>
         <source>moved to the Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>移到废纸篓</translation>
     </message>
     <message>
         <source>Skipped, %1 in all; the log tells why:</source>
-        <translation type="unfinished"></translation>
+        <translation>共跳过 %1 项，原因见日志：</translation>
     </message>
     <message>
         <source>Left alone, because they are running: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>因正在运行而未清理：%1。</translation>
     </message>
     <message>
         <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation type="unfinished"></translation>
+        <translation>移到废纸篓的内容在清倒之前仍会占用空间。</translation>
     </message>
     <message>
         <source>Scanned in %1. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>扫描用时 %1。未作任何更改。</translation>
     </message>
     <message>
         <source>There is nothing to clean.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可清理的内容。</translation>
     </message>
     <message>
         <source>Delete %1 for good?</source>
-        <translation type="unfinished"></translation>
+        <translation>要永久删除 %1 吗？</translation>
     </message>
     <message>
         <source>Move %2 to the Trash?</source>
-        <translation type="unfinished"></translation>
+        <translation>要将 %2 移到废纸篓吗？</translation>
     </message>
     <message>
         <source>Delete %1 for good and move %2 to the Trash?</source>
-        <translation type="unfinished"></translation>
+        <translation>要永久删除 %1，并将 %2 移到废纸篓吗？</translation>
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
-        <translation type="unfinished"></translation>
+        <translation>这是试运行：未作任何改动。</translation>
     </message>
     <message>
         <source>Freed %1, removed %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>已释放 %1，移除 %2。</translation>
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>部分文件属于系统，未作处理。</translation>
     </message>
     <message>
         <source>Log: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>日志：%1</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>种类</translation>
     </message>
     <message>
         <source>Last used</source>
-        <translation type="unfinished"></translation>
+        <translation>上次使用</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>文件</translation>
     </message>
     <message>
         <source>The largest %1 of %2 files are listed.</source>
@@ -720,136 +720,136 @@
     </message>
     <message>
         <source>No file in the home folder takes %1 or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>个人文件夹中没有占用 %1 或更多空间的文件。</translation>
     </message>
     <message>
         <source>Searched %1 in %2. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>已检查 %1，用时 %2。未作任何更改。</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>至少 %1</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>需要完全磁盘访问权限</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>没有读取权限</translation>
     </message>
     <message>
         <source>Largest: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>最大：%1</translation>
     </message>
     <message>
         <source>You can reclaim</source>
-        <translation type="unfinished"></translation>
+        <translation>可释放的空间</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
-        <translation type="unfinished"></translation>
+        <translation>由 macOS 管理</translation>
     </message>
     <message>
         <source>Managed by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>由系统管理</translation>
     </message>
     <message>
         <source>%1 of it you can act on.</source>
-        <translation type="unfinished"></translation>
+        <translation>其中 %1 可由你处理。</translation>
     </message>
     <message>
         <source>Measured in %1. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>计算用时 %1。未作任何更改。</translation>
     </message>
 </context>
 <context>
     <name>DiskOrb</name>
     <message>
         <source>%1% used</source>
-        <translation type="unfinished"></translation>
+        <translation>已用 %1%</translation>
     </message>
     <message>
         <source>%1 can be cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>可清理 %1</translation>
     </message>
 </context>
 <context>
     <name>Gauge</name>
     <message>
         <source>%1 used</source>
-        <translation type="unfinished"></translation>
+        <translation>已用 %1</translation>
     </message>
     <message>
         <source>used</source>
-        <translation type="unfinished"></translation>
+        <translation>已用</translation>
     </message>
 </context>
 <context>
     <name>LargeFilesPage</name>
     <message>
         <source>Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>已选择</translation>
     </message>
     <message>
         <source>ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>升序</translation>
     </message>
     <message>
         <source>descending</source>
-        <translation type="unfinished"></translation>
+        <translation>降序</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>空间地图</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>重新扫描</translation>
     </message>
     <message>
         <source>Find what&apos;s taking up space</source>
-        <translation type="unfinished"></translation>
+        <translation>找出占用空间的文件</translation>
     </message>
     <message>
         <source>Big files in your home folder. You decide what goes.</source>
-        <translation type="unfinished"></translation>
+        <translation>个人文件夹中的大文件。去留由你决定。</translation>
     </message>
     <message>
         <source>Find large files</source>
-        <translation type="unfinished"></translation>
+        <translation>查找大文件</translation>
     </message>
     <message>
         <source>Home folder · over %1</source>
-        <translation type="unfinished"></translation>
+        <translation>个人文件夹 · 超过 %1</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>全部</translation>
     </message>
     <message>
         <source>Unused</source>
-        <translation type="unfinished"></translation>
+        <translation>未使用</translation>
     </message>
     <message>
         <source>Show in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>在“%1”中显示</translation>
     </message>
     <message>
         <source>Move to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>移到%1</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>显示</translation>
     </message>
     <message>
         <source>Search files</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索文件</translation>
     </message>
     <message>
         <source>Largest files</source>
-        <translation type="unfinished"></translation>
+        <translation>最大的文件</translation>
     </message>
     <message>
         <source>Unused %1+ months</source>
@@ -861,382 +861,382 @@
     </message>
     <message>
         <source>Looking for large files…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在查找大文件…</translation>
     </message>
     <message>
         <source>Large files</source>
-        <translation type="unfinished"></translation>
+        <translation>大文件</translation>
     </message>
     <message>
         <source>Largest so far</source>
-        <translation type="unfinished"></translation>
+        <translation>目前最大的文件</translation>
     </message>
     <message>
         <source>Sort by</source>
-        <translation type="unfinished"></translation>
+        <translation>排序方式</translation>
     </message>
 </context>
 <context>
     <name>LoginEntry</name>
     <message>
         <source>%1 is not from Tarnwick and was left as it is. Remove it to open Tarnwick at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不是由 Tarnwick 创建的，因此未作改动。如需在登录时打开 Tarnwick，请将其移除。</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written, so Tarnwick does not open at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入 %1，因此 Tarnwick 不会在登录时打开。</translation>
     </message>
     <message>
         <source>%1 can&apos;t be removed, so Tarnwick still opens at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法移除 %1，因此 Tarnwick 仍会在登录时打开。</translation>
     </message>
 </context>
 <context>
     <name>Main</name>
     <message>
         <source>Tarnwick was updated to version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick 已更新到版本 %1。</translation>
     </message>
     <message>
         <source>%1 is almost full. Run Smart Scan to free up space.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”几乎已满。运行智能扫描即可释放空间。</translation>
     </message>
 </context>
 <context>
     <name>MenuBar</name>
     <message>
         <source>Tarnwick Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick 网站</translation>
     </message>
     <message>
         <source>About Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>关于 Tarnwick</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>检查更新…</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>设置…</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>退出 Tarnwick</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>智能扫描</translation>
     </message>
     <message>
         <source>Find Large Files</source>
-        <translation type="unfinished"></translation>
+        <translation>查找大文件</translation>
     </message>
     <message>
         <source>Close Window</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭窗口</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>撤销</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>重做</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>剪切</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>拷贝</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>粘贴</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>全选</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>清理</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>空间地图</translation>
     </message>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>系统数据</translation>
     </message>
     <message>
         <source>Hide Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>隐藏边栏</translation>
     </message>
     <message>
         <source>Enter Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>进入全屏幕</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>最小化</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>缩放</translation>
     </message>
     <message>
         <source>Bring All to Front</source>
-        <translation type="unfinished"></translation>
+        <translation>前置全部窗口</translation>
     </message>
     <message>
         <source>Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>使用指南</translation>
     </message>
     <message>
         <source>FAQ</source>
-        <translation type="unfinished"></translation>
+        <translation>常见问题</translation>
     </message>
     <message>
         <source>Open Log Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>打开日志文件夹</translation>
     </message>
     <message>
         <source>Open Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>打开菜单</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>键盘快捷键</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>文件</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>显示</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>窗口</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>帮助</translation>
     </message>
     <message>
         <source>Show Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>显示边栏</translation>
     </message>
     <message>
         <source>Exit Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>退出全屏幕</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>设置</translation>
     </message>
     <message>
         <source>Check for Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>检查更新</translation>
     </message>
 </context>
 <context>
     <name>Overlay</name>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>版本 %1</translation>
     </message>
     <message>
         <source>© 2026 the Tarnwick authors</source>
-        <translation type="unfinished"></translation>
+        <translation>© 2026 Tarnwick 作者</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭</translation>
     </message>
     <message>
         <source>Remember my choice</source>
-        <translation type="unfinished"></translation>
+        <translation>记住我的选择</translation>
     </message>
     <message>
         <source>Keep Tarnwick running?</source>
-        <translation type="unfinished"></translation>
+        <translation>让 Tarnwick 继续运行？</translation>
     </message>
     <message>
         <source>Tarnwick can stay in the system tray when you close the window, so scheduled scans and low space alerts keep working. You can open it again from the tray icon.</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭窗口后，Tarnwick 可以留在系统托盘中，让定时扫描和空间不足提醒继续有效。你可以通过托盘图标再次打开它。</translation>
     </message>
     <message>
         <source>You can change this in Settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>你可以在设置中更改此选项。</translation>
     </message>
     <message>
         <source>Keep in tray</source>
-        <translation type="unfinished"></translation>
+        <translation>留在托盘中</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>退出</translation>
     </message>
     <message>
         <source>Permanent delete is on. These files can&apos;t be recovered.</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开永久删除。这些文件将无法恢复。</translation>
     </message>
     <message>
         <source>Emptying the %1 can&apos;t be undone. Everything else goes to the %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>清倒%1的操作无法撤销。其他内容会移到%1。</translation>
     </message>
     <message>
         <source>Everything will be moved to the %1, so you can restore it later.</source>
-        <translation type="unfinished"></translation>
+        <translation>所有内容都会移到%1，以后仍可恢复。</translation>
     </message>
     <message>
         <source>Clean and delete</source>
-        <translation type="unfinished"></translation>
+        <translation>清理并删除</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>清理</translation>
     </message>
     <message>
         <source>Clean %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>要清理 %1 吗？</translation>
     </message>
     <message>
         <source>%1 of it will stay: there is no %2 on its volume.</source>
-        <translation type="unfinished"></translation>
+        <translation>其中 %1 将会保留：所在的卷上没有%2。</translation>
     </message>
     <message>
         <source>%1 of it will stay while these apps are open: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>其中 %1 在这些应用打开期间将会保留：%2。</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>键盘快捷键</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>撤销</translation>
     </message>
     <message>
         <source>Version %1 is available. You have %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>版本 %1 现已推出。你当前的版本是 %2。</translation>
     </message>
     <message>
         <source>An update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>有可用的更新</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，共 %2</translation>
     </message>
     <message>
         <source>Downloading the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在下载更新…</translation>
     </message>
     <message>
         <source>Drag Tarnwick to Applications in the window that opens to replace this version.</source>
-        <translation type="unfinished"></translation>
+        <translation>在打开的窗口中将 Tarnwick 拖到“应用程序”，即可替换此版本。</translation>
     </message>
     <message>
         <source>Your file manager opens the folder with the downloaded package. Install it the way you install packages.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件管理器会打开已下载软件包所在的文件夹。请按你平时安装软件包的方式安装。</translation>
     </message>
     <message>
         <source>Tarnwick is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick 已是最新版本</translation>
     </message>
     <message>
         <source>Version %1 is the latest version.</source>
-        <translation type="unfinished"></translation>
+        <translation>版本 %1 是最新版本。</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>无法检查更新</translation>
     </message>
     <message>
         <source>Check your internet connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>请检查互联网连接，然后重试。</translation>
     </message>
     <message>
         <source>Installing the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在安装更新…</translation>
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在检查更新…</translation>
     </message>
     <message>
         <source>Version %1 is installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>已安装版本 %1。</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>重试</translation>
     </message>
     <message>
         <source>Update now</source>
-        <translation type="unfinished"></translation>
+        <translation>立即更新</translation>
     </message>
     <message>
         <source>What&apos;s new</source>
-        <translation type="unfinished"></translation>
+        <translation>新功能</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>以后</translation>
     </message>
 </context>
 <context>
     <name>OverviewPage</name>
     <message>
         <source>Scanned %1</source>
-        <translation type="unfinished"></translation>
+        <translation>上次扫描：%1</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭</translation>
     </message>
     <message>
         <source>Weekly</source>
-        <translation type="unfinished"></translation>
+        <translation>每周</translation>
     </message>
     <message>
         <source>Monthly</source>
-        <translation type="unfinished"></translation>
+        <translation>每月</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>智能扫描</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>概览</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>重新扫描</translation>
     </message>
     <message>
         <source>Disk health</source>
-        <translation type="unfinished"></translation>
+        <translation>磁盘状况</translation>
     </message>
     <message>
         <source>System files protected</source>
-        <translation type="unfinished"></translation>
+        <translation>系统文件受保护</translation>
     </message>
     <message>
         <source>Freed in the last %1 months</source>
@@ -1244,201 +1244,201 @@
     </message>
     <message>
         <source>See all</source>
-        <translation type="unfinished"></translation>
+        <translation>查看全部</translation>
     </message>
     <message>
         <source>Scheduled scan</source>
-        <translation type="unfinished"></translation>
+        <translation>定时扫描</translation>
     </message>
     <message>
         <source>free of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>可用，共 %1</translation>
     </message>
     <message>
         <source>Review</source>
-        <translation type="unfinished"></translation>
+        <translation>查看</translation>
     </message>
     <message>
         <source>Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>扫描</translation>
     </message>
     <message>
         <source>%1 ready to clean</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 可以清理</translation>
     </message>
     <message>
         <source>Your startup disk is almost full</source>
-        <translation type="unfinished"></translation>
+        <translation>启动磁盘几乎已满</translation>
     </message>
     <message>
         <source>Keep your disk in shape</source>
-        <translation type="unfinished"></translation>
+        <translation>让磁盘保持最佳状态</translation>
     </message>
     <message>
         <source>%1 purgeable</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 可清除</translation>
     </message>
     <message>
         <source>Apps, documents &amp; system</source>
-        <translation type="unfinished"></translation>
+        <translation>应用、文档与系统</translation>
     </message>
     <message>
         <source>Reclaimable</source>
-        <translation type="unfinished"></translation>
+        <translation>可释放</translation>
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>可用</translation>
     </message>
     <message>
         <source>Never scanned</source>
-        <translation type="unfinished"></translation>
+        <translation>从未扫描</translation>
     </message>
     <message>
         <source>Last scan</source>
-        <translation type="unfinished"></translation>
+        <translation>上次扫描</translation>
     </message>
     <message>
         <source>Freed this month</source>
-        <translation type="unfinished"></translation>
+        <translation>本月已释放</translation>
     </message>
     <message>
         <source>Top recommendations</source>
-        <translation type="unfinished"></translation>
+        <translation>首要建议</translation>
     </message>
     <message>
         <source>What Smart Scan looks at</source>
-        <translation type="unfinished"></translation>
+        <translation>智能扫描的检查范围</translation>
     </message>
 </context>
 <context>
     <name>Platform</name>
     <message>
         <source>System disk</source>
-        <translation type="unfinished"></translation>
+        <translation>系统磁盘</translation>
     </message>
     <message>
         <source>Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>废纸篓</translation>
     </message>
     <message>
         <source>Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>访达</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>文件</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>已锁定</translation>
     </message>
     <message>
         <source>Administrator access</source>
-        <translation type="unfinished"></translation>
+        <translation>管理员权限</translation>
     </message>
     <message>
         <source>Tarnwick is running as administrator and can clean Windows Update files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick 正以管理员身份运行，可以清理 Windows 更新文件。</translation>
     </message>
     <message>
         <source>Granted</source>
-        <translation type="unfinished"></translation>
+        <translation>已授予</translation>
     </message>
     <message>
         <source>Only needed to clean Windows Update leftovers.</source>
-        <translation type="unfinished"></translation>
+        <translation>仅在清理 Windows 更新残留文件时需要。</translation>
     </message>
     <message>
         <source>Restart as admin</source>
-        <translation type="unfinished"></translation>
+        <translation>以管理员身份重启</translation>
     </message>
     <message>
         <source>Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>完全磁盘访问权限</translation>
     </message>
     <message>
         <source>Needed to clean Safari&apos;s cache and the Trash.</source>
-        <translation type="unfinished"></translation>
+        <translation>清理 Safari 浏览器的缓存和废纸篓时需要。</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>打开设置</translation>
     </message>
     <message>
         <source>System default (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>系统默认（%1）</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>设置</translation>
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>清理</translation>
     </message>
     <message>
         <source>Automation</source>
-        <translation type="unfinished"></translation>
+        <translation>自动化</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>外观</translation>
     </message>
     <message>
         <source>Exclusions</source>
-        <translation type="unfinished"></translation>
+        <translation>排除项</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>关于</translation>
     </message>
     <message>
         <source>Permissions &amp; about</source>
-        <translation type="unfinished"></translation>
+        <translation>权限与关于</translation>
     </message>
     <message>
         <source>Move items to the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>将项目移到%1</translation>
     </message>
     <message>
         <source>Recommended. Turn off to delete files permanently.</source>
-        <translation type="unfinished"></translation>
+        <translation>推荐打开。关闭后，文件将被永久删除。</translation>
     </message>
     <message>
         <source>Large file size</source>
-        <translation type="unfinished"></translation>
+        <translation>大文件标准</translation>
     </message>
     <message>
         <source>Files bigger than this appear in Large &amp; Old Files.</source>
-        <translation type="unfinished"></translation>
+        <translation>大于此值的文件会显示在“空间地图”中。</translation>
     </message>
     <message>
         <source>100 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>100 MB</translation>
     </message>
     <message>
         <source>250 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>250 MB</translation>
     </message>
     <message>
         <source>500 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>500 MB</translation>
     </message>
     <message>
         <source>1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>1 GB</translation>
     </message>
     <message>
         <source>Consider files old after</source>
-        <translation type="unfinished"></translation>
+        <translation>超过多久视为旧文件</translation>
     </message>
     <message>
         <source>Used by the “Unused” filter.</source>
-        <translation type="unfinished"></translation>
+        <translation>用于“未使用”筛选条件。</translation>
     </message>
     <message>
         <source>3 months</source>
@@ -1458,272 +1458,272 @@
     </message>
     <message>
         <source>Scheduled scan</source>
-        <translation type="unfinished"></translation>
+        <translation>定时扫描</translation>
     </message>
     <message>
         <source>Scans when Tarnwick starts if the last scan is older than this. Never cleans on its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>如果上次扫描早于此间隔，Tarnwick 会在启动时扫描。绝不会自行清理。</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭</translation>
     </message>
     <message>
         <source>Weekly</source>
-        <translation type="unfinished"></translation>
+        <translation>每周</translation>
     </message>
     <message>
         <source>Monthly</source>
-        <translation type="unfinished"></translation>
+        <translation>每月</translation>
     </message>
     <message>
         <source>Low space alerts</source>
-        <translation type="unfinished"></translation>
+        <translation>空间不足提醒</translation>
     </message>
     <message>
         <source>Warn when free space drops below 10%.</source>
-        <translation type="unfinished"></translation>
+        <translation>可用空间低于 10% 时发出提醒。</translation>
     </message>
     <message>
         <source>Open at login</source>
-        <translation type="unfinished"></translation>
+        <translation>登录时打开</translation>
     </message>
     <message>
         <source>Start with Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>随 Windows 启动</translation>
     </message>
     <message>
         <source>Starts Tarnwick in the background so scheduled scans can run.</source>
-        <translation type="unfinished"></translation>
+        <translation>在后台启动 Tarnwick，以便运行定时扫描。</translation>
     </message>
     <message>
         <source>Show Tarnwick in the system tray</source>
-        <translation type="unfinished"></translation>
+        <translation>在系统托盘中显示 Tarnwick</translation>
     </message>
     <message>
         <source>Show Tarnwick in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>在菜单栏中显示 Tarnwick</translation>
     </message>
     <message>
         <source>Closing the window keeps Tarnwick running there, so scheduled scans and low space alerts keep working.</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭窗口后，Tarnwick 会在那里继续运行，让定时扫描和空间不足提醒继续有效。</translation>
     </message>
     <message>
         <source>Ask every time</source>
-        <translation type="unfinished"></translation>
+        <translation>每次询问</translation>
     </message>
     <message>
         <source>Keep running in the tray</source>
-        <translation type="unfinished"></translation>
+        <translation>在托盘中继续运行</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>退出 Tarnwick</translation>
     </message>
     <message>
         <source>When closing the window</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭窗口时</translation>
     </message>
     <message>
         <source>In the tray, Tarnwick keeps running so scheduled scans and low space alerts keep working.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick 会在托盘中继续运行，让定时扫描和空间不足提醒继续有效。</translation>
     </message>
     <message>
         <source>Theme</source>
-        <translation type="unfinished"></translation>
+        <translation>主题</translation>
     </message>
     <message>
         <source>Follow the system, or always use light or dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>跟随系统，或始终使用浅色或深色。</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>跟随系统</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>浅色</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>深色</translation>
     </message>
     <message>
         <source>Restart now</source>
-        <translation type="unfinished"></translation>
+        <translation>立即重启</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>语言</translation>
     </message>
     <message>
         <source>Tarnwick restarts to switch languages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick 会重新启动以切换语言。</translation>
     </message>
     <message>
         <source>Protected system locations</source>
-        <translation type="unfinished"></translation>
+        <translation>受保护的系统位置</translation>
     </message>
     <message>
         <source> — always skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>：始终跳过。</translation>
     </message>
     <message>
         <source>Protected apps</source>
-        <translation type="unfinished"></translation>
+        <translation>受保护的应用</translation>
     </message>
     <message>
         <source> — their data is never cleaned. Caches of running apps and open files are skipped too.</source>
-        <translation type="unfinished"></translation>
+        <translation>：绝不清理其数据。正在运行的应用的缓存和打开的文件也会跳过。</translation>
     </message>
     <message>
         <source>Open logs</source>
-        <translation type="unfinished"></translation>
+        <translation>打开日志</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>检查更新</translation>
     </message>
     <message>
         <source>Every cleanup writes a log you can review. Tarnwick checks for updates when it starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>每次清理都会写入日志供你查看。Tarnwick 启动时会检查更新。</translation>
     </message>
     <message>
         <source>Every cleanup writes a log you can review.</source>
-        <translation type="unfinished"></translation>
+        <translation>每次清理都会写入日志供你查看。</translation>
     </message>
     <message>
         <source>&lt;b&gt;Rules have gone from the settings.&lt;/b&gt; Check that these are all of yours, and put back what is missing. Nothing is cleaned until then.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;设置中有规则丢失。&lt;/b&gt;请检查这里是否包含你的全部规则，并补上缺少的规则。在此之前不会清理任何内容。</translation>
     </message>
     <message>
         <source>&lt;b&gt;The settings can&apos;t be read.&lt;/b&gt; Check that these are all of your rules, and put back what is missing. Nothing is cleaned until then, and the damaged file stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;无法读取设置。&lt;/b&gt;请检查这里是否包含你的全部规则，并补上缺少的规则。在此之前不会清理任何内容，损坏的文件也会保留。</translation>
     </message>
     <message>
         <source>Add folder</source>
-        <translation type="unfinished"></translation>
+        <translation>添加文件夹</translation>
     </message>
     <message>
         <source>Never touch these</source>
-        <translation type="unfinished"></translation>
+        <translation>绝不触碰的内容</translation>
     </message>
     <message>
         <source>Folders and patterns Tarnwick always skips.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick 始终跳过的文件夹和匹配模式。</translation>
     </message>
     <message>
         <source>These are my rules</source>
-        <translation type="unfinished"></translation>
+        <translation>这些是我的规则</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>移除</translation>
     </message>
     <message>
         <source>Choose a folder to exclude</source>
-        <translation type="unfinished"></translation>
+        <translation>选择要排除的文件夹</translation>
     </message>
     <message>
         <source>The rules are kept. The damaged settings file stays beside the new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>规则已保存。损坏的设置文件仍保留在新文件旁。</translation>
     </message>
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入设置，因此设置保持不变。</translation>
     </message>
 </context>
 <context>
     <name>Sidebar</name>
     <message>
         <source>%1 available of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 可用，共 %2</translation>
     </message>
     <message>
         <source>%1 free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 可用</translation>
     </message>
     <message>
         <source>Expand sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>展开边栏</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>智能扫描</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>清理</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>空间地图</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>设置</translation>
     </message>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>系统数据</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>清理工具</translation>
     </message>
     <message>
         <source>Collapse sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>折叠边栏</translation>
     </message>
 </context>
 <context>
     <name>StepBar</name>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>等待中</translation>
     </message>
     <message>
         <source>In progress</source>
-        <translation type="unfinished"></translation>
+        <translation>进行中</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>完成</translation>
     </message>
 </context>
 <context>
     <name>SystemData</name>
     <message>
         <source>Review in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>在“访达”中查看</translation>
     </message>
     <message>
         <source>Show in Files</source>
-        <translation type="unfinished"></translation>
+        <translation>在“文件”中显示</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>移到废纸篓</translation>
     </message>
     <message>
         <source>Remove snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>移除快照</translation>
     </message>
     <message>
         <source>Delete unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>删除不可用的设备</translation>
     </message>
     <message>
         <source>Clean in Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>前往“清理”页面</translation>
     </message>
     <message>
         <source>Open Xcode</source>
-        <translation type="unfinished"></translation>
+        <translation>打开 Xcode</translation>
     </message>
     <message>
         <source>Couldn&apos;t open %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法打开 %1</translation>
     </message>
     <message>
         <source>1 item</source>
@@ -1739,19 +1739,19 @@
     </message>
     <message>
         <source>Nothing to move</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可移动的内容</translation>
     </message>
     <message>
         <source>Moved %1 to the Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>已将 %1移到废纸篓</translation>
     </message>
     <message>
         <source>There are no local snapshots to remove</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可移除的本地快照</translation>
     </message>
     <message>
         <source>Snapshots were not removed</source>
-        <translation type="unfinished"></translation>
+        <translation>未移除快照</translation>
     </message>
     <message>
         <source>Removed %1 of %2 snapshots</source>
@@ -1759,11 +1759,11 @@
     </message>
     <message>
         <source>Simulator cleanup failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>清理模拟器失败：%1</translation>
     </message>
     <message>
         <source>No unavailable simulator devices — nothing to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>没有不可用的模拟器设备，无需删除</translation>
     </message>
     <message>
         <source>Deleted 1 unavailable simulator device</source>
@@ -1775,287 +1775,287 @@
     </message>
     <message>
         <source>Xcode isn&apos;t installed</source>
-        <translation type="unfinished"></translation>
+        <translation>未安装 Xcode</translation>
     </message>
     <message>
         <source>Your app caches</source>
-        <translation type="unfinished"></translation>
+        <translation>你的应用缓存</translation>
     </message>
     <message>
         <source>Caches that apps keep in your cache folder. The safe ones can be cleaned from Cleanup.</source>
-        <translation type="unfinished"></translation>
+        <translation>应用保存在缓存文件夹中的缓存。可安全清理的部分可在“清理”页面中清理。</translation>
     </message>
     <message>
         <source>Hidden folders in your home folder</source>
-        <translation type="unfinished"></translation>
+        <translation>个人文件夹中的隐藏文件夹</translation>
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .npm, .cargo and .nvm. Caches are safe to clear; keep tool installs.</source>
-        <translation type="unfinished"></translation>
+        <translation>开发者工具和应用保存在 .npm、.cargo 和 .nvm 等隐藏文件夹中的缓存、设置和已安装的工具。缓存可以安全清除；请保留已安装的工具。</translation>
     </message>
     <message>
         <source>Flatpak app data</source>
-        <translation type="unfinished"></translation>
+        <translation>Flatpak 应用数据</translation>
     </message>
     <message>
         <source>Settings, files and caches of your Flatpak apps, which each keep their own. “flatpak uninstall --delete-data” removes those of apps that are gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>各个 Flatpak 应用分别保存的设置、文件和缓存。“flatpak uninstall --delete-data”可移除已卸载应用的数据。</translation>
     </message>
     <message>
         <source>Your Flatpak apps and runtimes</source>
-        <translation type="unfinished"></translation>
+        <translation>你的 Flatpak 应用和运行时</translation>
     </message>
     <message>
         <source>Apps that Flatpak installed for you alone, and the runtimes that they need. “flatpak uninstall --user --unused” removes runtimes that no app needs any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Flatpak 仅为你安装的应用，以及它们所需的运行时。“flatpak uninstall --user --unused”可移除不再有应用需要的运行时。</translation>
     </message>
     <message>
         <source>Containers and images</source>
-        <translation type="unfinished"></translation>
+        <translation>容器和镜像</translation>
     </message>
     <message>
         <source>Images, containers and volumes that Docker and Podman keep. “docker system prune” and “podman system prune” remove what no container uses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Docker 和 Podman 保存的镜像、容器和卷。“docker system prune”和“podman system prune”可移除没有容器使用的内容。</translation>
     </message>
     <message>
         <source>Virtual machines</source>
-        <translation type="unfinished"></translation>
+        <translation>虚拟机</translation>
     </message>
     <message>
         <source>Disk images of virtual machines, kept by the program that made them. Delete a machine there, or with “virsh undefine --remove-all-storage”.</source>
-        <translation type="unfinished"></translation>
+        <translation>虚拟机的磁盘映像，由创建它们的程序管理。请在该程序中删除虚拟机，或使用“virsh undefine --remove-all-storage”。</translation>
     </message>
     <message>
         <source>Game libraries</source>
-        <translation type="unfinished"></translation>
+        <translation>游戏库</translation>
     </message>
     <message>
         <source>Games, kept by Steam and other launchers. Uninstall a game in its launcher.</source>
-        <translation type="unfinished"></translation>
+        <translation>由 Steam 和其他启动器管理的游戏。请在相应的启动器中卸载游戏。</translation>
     </message>
     <message>
         <source>App data</source>
-        <translation type="unfinished"></translation>
+        <translation>应用数据</translation>
     </message>
     <message>
         <source>Databases and files that apps keep for you, and your Trash. Remove an app&apos;s data from within the app, or after uninstalling it.</source>
-        <translation type="unfinished"></translation>
+        <translation>应用为你保存的数据库和文件，以及你的废纸篓。请在应用内移除其数据，或在卸载应用后移除。</translation>
     </message>
     <message>
         <source>Settings of your apps</source>
-        <translation type="unfinished"></translation>
+        <translation>应用的设置</translation>
     </message>
     <message>
         <source>Settings that apps keep for you; some keep profiles and caches beside them. An app without its settings starts afresh.</source>
-        <translation type="unfinished"></translation>
+        <translation>应用为你保存的设置；有些应用还会同时保存个人资料和缓存。没有设置的应用会从头开始。</translation>
     </message>
     <message>
         <source>System journal</source>
-        <translation type="unfinished"></translation>
+        <translation>系统日志（journal）</translation>
     </message>
     <message>
         <source>The log of the system and its services, which journald keeps within a limit. “journalctl --vacuum-size=200M” trims it at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>系统及其服务的日志，由 journald 控制在限额之内。“journalctl --vacuum-size=200M”可立即缩减其大小。</translation>
     </message>
     <message>
         <source>System logs</source>
-        <translation type="unfinished"></translation>
+        <translation>系统日志文件</translation>
     </message>
     <message>
         <source>Log files of services and of the package manager. logrotate compresses and deletes old ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>服务和软件包管理器的日志文件。logrotate 会压缩并删除旧文件。</translation>
     </message>
     <message>
         <source>Crash dumps</source>
-        <translation type="unfinished"></translation>
+        <translation>崩溃转储</translation>
     </message>
     <message>
         <source>What was in the memory of programs that crashed, kept for reports. The system deletes old ones; “coredumpctl” lists them.</source>
-        <translation type="unfinished"></translation>
+        <translation>程序崩溃时内存中的内容，保留供报告使用。系统会删除旧的转储；“coredumpctl”可将其列出。</translation>
     </message>
     <message>
         <source>Package downloads</source>
-        <translation type="unfinished"></translation>
+        <translation>已下载的软件包</translation>
     </message>
     <message>
         <source>Packages that the package manager downloaded and has installed since. “apt-get clean”, “dnf clean packages”, “pacman -Sc” or “zypper clean” removes them.</source>
-        <translation type="unfinished"></translation>
+        <translation>软件包管理器下载且已安装的软件包。“apt-get clean”、“dnf clean packages”、“pacman -Sc”或“zypper clean”可将其移除。</translation>
     </message>
     <message>
         <source>Snap packages and old revisions</source>
-        <translation type="unfinished"></translation>
+        <translation>Snap 软件包和旧修订版</translation>
     </message>
     <message>
         <source>Snap packages, with earlier revisions that snapd keeps to go back to. “snap set system refresh.retain=2” keeps fewer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Snap 软件包，以及 snapd 为便于回退而保留的旧修订版。“snap set system refresh.retain=2”可减少保留的数量。</translation>
     </message>
     <message>
         <source>Flatpak apps and runtimes of the system</source>
-        <translation type="unfinished"></translation>
+        <translation>系统的 Flatpak 应用和运行时</translation>
     </message>
     <message>
         <source>Apps that Flatpak installed for all users, and the runtimes that they need. “flatpak uninstall --unused” removes runtimes that no app needs any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Flatpak 为所有用户安装的应用，以及它们所需的运行时。“flatpak uninstall --unused”可移除不再有应用需要的运行时。</translation>
     </message>
     <message>
         <source>Kernels and their modules</source>
-        <translation type="unfinished"></translation>
+        <translation>内核及其模块</translation>
     </message>
     <message>
         <source>The kernels that the system can start, with their drivers. The package manager keeps the newest; “apt-get autoremove” removes older ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>系统可以启动的内核及其驱动程序。软件包管理器会保留最新的内核；“apt-get autoremove”可移除旧内核。</translation>
     </message>
     <message>
         <source>Swap and hibernation files</source>
-        <translation type="unfinished"></translation>
+        <translation>交换文件和休眠文件</translation>
     </message>
     <message>
         <source>Room on the disk for what doesn&apos;t fit into memory, and for memory itself during hibernation. The system&apos;s settings fix its size; “swapon --show” lists it.</source>
-        <translation type="unfinished"></translation>
+        <translation>磁盘上的空间，用于存放内存容纳不下的数据，并在休眠时存放内存内容。其大小由系统设置决定；“swapon --show”可将其列出。</translation>
     </message>
     <message>
         <source>System snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>系统快照</translation>
     </message>
     <message>
         <source>Earlier states of the system, which Timeshift or Snapper keeps. They share what didn&apos;t change, so they have no size of their own; “timeshift --delete” or “snapper delete” removes one.</source>
-        <translation type="unfinished"></translation>
+        <translation>由 Timeshift 或 Snapper 保存的系统先前状态。快照共享未更改的内容，因此没有单独的大小；“timeshift --delete”或“snapper delete”可移除一个快照。</translation>
     </message>
     <message>
         <source>Time Machine local snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>“时间机器”本地快照</translation>
     </message>
     <message>
         <source>Hourly snapshots macOS keeps on this disk until Time Machine can reach its backup drive. macOS frees them when space runs low; removing them now is safe, but you lose those restore points.</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS 每小时在此磁盘上保存的快照，直到“时间机器”可以访问其备份磁盘。空间不足时，macOS 会释放这些快照；现在移除是安全的，但你会失去这些恢复点。</translation>
     </message>
     <message>
         <source>iPhone &amp; iPad backups</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone 和 iPad 备份</translation>
     </message>
     <message>
         <source>Device backups made by Finder. Delete old ones from Finder (General → Manage Backups) once a newer or iCloud backup exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>由“访达”创建的设备备份。有了较新的备份或 iCloud 备份后，可在“访达”中删除旧备份（“通用”→“管理备份”）。</translation>
     </message>
     <message>
         <source>Xcode device support</source>
-        <translation type="unfinished"></translation>
+        <translation>Xcode 设备支持文件</translation>
     </message>
     <message>
         <source>Debug symbols Xcode copies from every iOS, watchOS and tvOS version you&apos;ve connected. Xcode copies them again the next time you connect that device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Xcode 从你连接过的每个 iOS、watchOS 和 tvOS 版本中拷贝的调试符号。下次连接该设备时，Xcode 会再次拷贝。</translation>
     </message>
     <message>
         <source>iOS Simulator devices</source>
-        <translation type="unfinished"></translation>
+        <translation>iOS 模拟器设备</translation>
     </message>
     <message>
         <source>Simulator devices and their app data. Removing unavailable devices (for runtimes you no longer have) is safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>模拟器设备及其应用数据。移除不可用的设备（其运行时已不存在）是安全的。</translation>
     </message>
     <message>
         <source>Simulator runtimes &amp; caches</source>
-        <translation type="unfinished"></translation>
+        <translation>模拟器运行时与缓存</translation>
     </message>
     <message>
         <source>iOS, watchOS and visionOS simulator runtimes Xcode downloaded, plus their shared caches. Remove runtimes you don&apos;t use in Xcode › Settings › Components.</source>
-        <translation type="unfinished"></translation>
+        <translation>Xcode 下载的 iOS、watchOS 和 visionOS 模拟器运行时及其共享缓存。不使用的运行时可在 Xcode › Settings › Components 中移除。</translation>
     </message>
     <message>
         <source>Caches apps keep in your Library folder. The safe ones can be cleaned from Cleanup.</source>
-        <translation type="unfinished"></translation>
+        <translation>应用保存在“资源库”文件夹中的缓存。可安全清理的部分可在“清理”页面中清理。</translation>
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .cache, .npm and .nvm. Caches are safe to clear; keep tool installs.</source>
-        <translation type="unfinished"></translation>
+        <translation>开发者工具和应用保存在 .cache、.npm 和 .nvm 等隐藏文件夹中的缓存、设置和已安装的工具。缓存可以安全清除；请保留已安装的工具。</translation>
     </message>
     <message>
         <source>Xcode archives</source>
-        <translation type="unfinished"></translation>
+        <translation>Xcode 归档</translation>
     </message>
     <message>
         <source>Builds you archived for distribution. Keep the ones you may need to symbolicate crash reports for.</source>
-        <translation type="unfinished"></translation>
+        <translation>你为分发而归档的构建版本。如果可能需要为其符号化崩溃报告，请予以保留。</translation>
     </message>
     <message>
         <source>Docker disk image</source>
-        <translation type="unfinished"></translation>
+        <translation>Docker 磁盘映像</translation>
     </message>
     <message>
         <source>The virtual disk holding Docker&apos;s images and containers. Shrink it with “docker system prune” or Docker Desktop&apos;s settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>存放 Docker 镜像和容器的虚拟磁盘。可使用“docker system prune”或在 Docker Desktop 的设置中缩减其大小。</translation>
     </message>
     <message>
         <source>Mail attachments</source>
-        <translation type="unfinished"></translation>
+        <translation>“邮件”附件</translation>
     </message>
     <message>
         <source>Attachments Mail saved after you opened them. The originals stay in your mailbox.</source>
-        <translation type="unfinished"></translation>
+        <translation>你打开后由“邮件”保存的附件。原始附件仍保留在你的邮箱中。</translation>
     </message>
     <message>
         <source>Messages attachments</source>
-        <translation type="unfinished"></translation>
+        <translation>“信息”附件</translation>
     </message>
     <message>
         <source>Photos, videos and files from your conversations. Remove large ones from Messages (Settings → General → Storage) to keep chats consistent.</source>
-        <translation type="unfinished"></translation>
+        <translation>对话中的照片、视频和文件。请通过“信息”移除较大的附件（“设置”→“通用”→“储存空间”），以保持对话一致。</translation>
     </message>
     <message>
         <source>System caches</source>
-        <translation type="unfinished"></translation>
+        <translation>系统缓存</translation>
     </message>
     <message>
         <source>Caches shared by all users and system services. macOS trims these itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>所有用户和系统服务共享的缓存。macOS 会自行缩减。</translation>
     </message>
     <message>
         <source>System logs &amp; diagnostics</source>
-        <translation type="unfinished"></translation>
+        <translation>系统日志与诊断</translation>
     </message>
     <message>
         <source>Unified logs and diagnostic reports. macOS rotates and deletes them automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>统一日志和诊断报告。macOS 会自动轮替和删除。</translation>
     </message>
     <message>
         <source>Virtual memory &amp; sleep image</source>
-        <translation type="unfinished"></translation>
+        <translation>虚拟内存与睡眠映像</translation>
     </message>
     <message>
         <source>Swap files and the hibernation image. They grow and shrink with memory use and reset when you restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>交换文件和休眠映像。其大小随内存使用情况增减，并在重新启动时重置。</translation>
     </message>
     <message>
         <source>macOS assets &amp; updates</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS 资源与更新</translation>
     </message>
     <message>
         <source>Downloaded system assets (fonts, dictionaries, language and AI models) and staged software updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>已下载的系统资源（字体、词典、语言模型和 AI 模型）以及准备安装的软件更新。</translation>
     </message>
     <message>
         <source>Other Library data</source>
-        <translation type="unfinished"></translation>
+        <translation>其他“资源库”数据</translation>
     </message>
     <message>
         <source>Everything else in your Library folder: preferences, keychains, logs, and data for system services.</source>
-        <translation type="unfinished"></translation>
+        <translation>“资源库”文件夹中的其他所有内容：偏好设置、钥匙串、日志和系统服务的数据。</translation>
     </message>
     <message>
         <source>System databases &amp; temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>系统数据库与临时文件</translation>
     </message>
     <message>
         <source>Databases and per-app temporary folders used by macOS services. macOS manages these.</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS 服务使用的数据库和各应用的临时文件夹。由 macOS 管理。</translation>
     </message>
     <message>
         <source>App data &amp; containers</source>
-        <translation type="unfinished"></translation>
+        <translation>应用数据与容器</translation>
     </message>
     <message>
         <source>Settings, databases and files apps keep for you. Remove an app&apos;s data by uninstalling the app or from within the app.</source>
-        <translation type="unfinished"></translation>
+        <translation>应用为你保存的设置、数据库和文件。如需移除应用的数据，请卸载该应用或在应用内移除。</translation>
     </message>
     <message>
         <source>1 snapshot</source>
@@ -2067,11 +2067,11 @@
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>没有读取权限</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>至少 %1</translation>
     </message>
     <message>
         <source>1 device</source>
@@ -2086,250 +2086,250 @@
     <name>SystemDataPage</name>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>系统数据</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>重新扫描</translation>
     </message>
     <message>
         <source>See what&apos;s inside System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>了解系统数据的构成</translation>
     </message>
     <message>
         <source>Snapshots, backups, developer files, caches and more.</source>
-        <translation type="unfinished"></translation>
+        <translation>快照、备份、开发者文件、缓存等。</translation>
     </message>
     <message>
         <source>Scan System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>扫描系统数据</translation>
     </message>
     <message>
         <source>measured in System Data · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; you can act on</source>
-        <translation type="unfinished"></translation>
+        <translation>系统数据（已计算） · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; 可由你处理</translation>
     </message>
     <message>
         <source>Working…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在处理…</translation>
     </message>
     <message>
         <source>Updating…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在更新…</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>You can reclaim</source>
-        <translation type="unfinished"></translation>
+        <translation>可释放的空间</translation>
     </message>
     <message>
         <source>Measuring System Data…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在计算系统数据…</translation>
     </message>
     <message>
         <source>measured</source>
-        <translation type="unfinished"></translation>
+        <translation>已计算</translation>
     </message>
     <message>
         <source>macOS will remove its local Time Machine snapshots on this disk. Your Time Machine backups on other drives aren&apos;t affected. macOS will ask for your administrator password.</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS 将移除此磁盘上的“时间机器”本地快照。其他磁盘上的“时间机器”备份不受影响。macOS 会要求你输入管理员密码。</translation>
     </message>
     <message>
         <source>Simulator devices whose iOS runtime is no longer installed will be deleted, with their apps and data.</source>
-        <translation type="unfinished"></translation>
+        <translation>iOS 运行时已不存在的模拟器设备将连同其应用和数据一并删除。</translation>
     </message>
     <message>
         <source>%1 will be moved to the Trash. Xcode recreates it when you connect a device again.</source>
-        <translation type="unfinished"></translation>
+        <translation>将有 %1 移到废纸篓。再次连接设备时，Xcode 会重新创建。</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>需要完全磁盘访问权限</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>没有读取权限</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>至少 %1</translation>
     </message>
     <message>
         <source>Largest: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>最大：%1</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
-        <translation type="unfinished"></translation>
+        <translation>由 macOS 管理</translation>
     </message>
     <message>
         <source>Managed by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>由系统管理</translation>
     </message>
     <message>
         <source>Only what you may read is counted. Folders that belong to the system or to other users are left out, and folders shared by several rows are counted once.</source>
-        <translation type="unfinished"></translation>
+        <translation>仅计入你有权读取的内容。属于系统或其他用户的文件夹不计入，多行共有的文件夹只计算一次。</translation>
     </message>
     <message>
         <source>&lt;b&gt;Why Storage settings shows a bigger number&lt;/b&gt;&lt;br&gt;macOS works out System Data as whatever is left on the disk after Apps, Documents, Photos and its other categories. That remainder also includes things no app can measure: the Spotlight index, APFS snapshots, purgeable space and root-only system files. Without Full Disk Access, Tarnwick also can&apos;t see protected folders, so its total is lower than what macOS reports.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;为什么“储存空间”设置显示的数字更大&lt;/b&gt;&lt;br&gt;macOS 将磁盘上除“应用程序”、“文稿”、“照片”和其他类别之外的剩余部分都算作“系统数据”。其中还包括任何应用都无法计算的内容：“聚焦”索引、APFS 快照、可清除空间，以及仅 root 用户可访问的系统文件。如果没有“完全磁盘访问权限”，Tarnwick 也无法看到受保护的文件夹，因此其总计低于 macOS 报告的数字。</translation>
     </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>菜单</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>最小化</translation>
     </message>
     <message>
         <source>Maximize</source>
-        <translation type="unfinished"></translation>
+        <translation>最大化</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
     <name>Tray</name>
     <message>
         <source>Open Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>打开 Tarnwick</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>智能扫描</translation>
     </message>
     <message>
         <source>Find Large Files</source>
-        <translation type="unfinished"></translation>
+        <translation>查找大文件</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>设置</translation>
     </message>
     <message>
         <source>Check for Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>检查更新</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>退出 Tarnwick</translation>
     </message>
     <message>
         <source>%1 · %2 free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 可用</translation>
     </message>
 </context>
 <context>
     <name>Updater</name>
     <message>
         <source>Could not open the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法打开更新。</translation>
     </message>
     <message>
         <source>The server took too long to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>服务器响应时间过长。</translation>
     </message>
     <message>
         <source>The update information could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取更新信息。</translation>
     </message>
     <message>
         <source>The server redirected to an address that is not safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>服务器重定向到了不安全的地址。</translation>
     </message>
     <message>
         <source>Too many redirects.</source>
-        <translation type="unfinished"></translation>
+        <translation>重定向次数过多。</translation>
     </message>
     <message>
         <source>The update is not on Tarnwick&apos;s server.</source>
-        <translation type="unfinished"></translation>
+        <translation>该更新不在 Tarnwick 的服务器上。</translation>
     </message>
     <message>
         <source>The update has an unexpected size.</source>
-        <translation type="unfinished"></translation>
+        <translation>更新的大小不符合预期。</translation>
     </message>
     <message>
         <source>Could not save the update: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法存储更新：%1</translation>
     </message>
     <message>
         <source>The update could not be downloaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法下载更新：%1</translation>
     </message>
     <message>
         <source>Could not read the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取更新。</translation>
     </message>
     <message>
         <source>The update does not match the published checksum.</source>
-        <translation type="unfinished"></translation>
+        <translation>更新与已发布的校验和不一致。</translation>
     </message>
     <message>
         <source>The update is not signed by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>更新并非由“%1”签名。</translation>
     </message>
 </context>
 <context>
     <name>fmt</name>
     <message>
         <source>TB</source>
-        <translation type="unfinished"></translation>
+        <translation>TB</translation>
     </message>
     <message>
         <source>GB</source>
-        <translation type="unfinished"></translation>
+        <translation>GB</translation>
     </message>
     <message>
         <source>MB</source>
-        <translation type="unfinished"></translation>
+        <translation>MB</translation>
     </message>
     <message>
         <source>KB</source>
-        <translation type="unfinished"></translation>
+        <translation>KB</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>今天</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>昨天</translation>
     </message>
     <message numerus="yes">
         <source>%n day(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 天前</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n week(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 周前</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n month(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 个月前</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n year(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 年前</numerusform>
         </translation>
     </message>
 </context>
