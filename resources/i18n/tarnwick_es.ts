@@ -5,18 +5,18 @@
     <name>AppGuard</name>
     <message>
         <source>Password managers, input methods, security and device-management agents, VPNs</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestores de contraseñas, métodos de entrada, agentes de seguridad y de gestión de dispositivos, VPN</translation>
     </message>
 </context>
 <context>
     <name>AppState</name>
     <message>
         <source>The settings can&apos;t be read, so the rules on what to keep are unknown. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los ajustes no se pueden leer, así que no se sabe qué debe conservarse. No se ha limpiado nada.</translation>
     </message>
     <message>
         <source>The settings have lost rules on what to keep. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los ajustes han perdido reglas sobre lo que debe conservarse. No se ha limpiado nada.</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>%1 (%2) moved to the %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Movido a la %3: %1 (%2)</translation>
     </message>
     <message>
         <source> · %1 in use, skipped</source>
@@ -36,155 +36,155 @@
     </message>
     <message numerus="yes">
         <source>Restored %Ln file(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln archivo restaurado</numerusform>
+            <numerusform>%Ln archivos restaurados</numerusform>
         </translation>
     </message>
     <message>
         <source>The settings can&apos;t be read, so the rules on what to keep are unknown. Nothing was moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los ajustes no se pueden leer, así que no se sabe qué debe conservarse. No se ha movido nada.</translation>
     </message>
 </context>
 <context>
     <name>Categories</name>
     <message>
         <source>Temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos temporales</translation>
     </message>
     <message>
         <source>Scratch files that apps and the system create while working. They are not needed once the app closes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos auxiliares que las apps y el sistema crean mientras trabajan. Al cerrar la app dejan de hacer falta.</translation>
     </message>
     <message>
         <source>App caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Caché de apps</translation>
     </message>
     <message>
         <source>Data apps keep to load faster. Apps rebuild these automatically the next time they need them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos que las apps guardan para cargar más rápido. Los vuelven a crear solas la próxima vez que los necesiten.</translation>
     </message>
     <message>
         <source>Browser caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Caché del navegador</translation>
     </message>
     <message>
         <source>Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes, scripts y páginas en caché. Las sesiones iniciadas, el historial, los marcadores y las contraseñas no se tocan nunca.</translation>
     </message>
     <message>
         <source>Logs &amp; crash reports</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros e informes</translation>
     </message>
     <message>
         <source>Diagnostic logs and crash reports. Useful only when troubleshooting a recent problem.</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros de diagnóstico e informes de fallos. Solo sirven para investigar un problema reciente.</translation>
     </message>
     <message>
         <source>Preview images of your files. They are regenerated the next time you open a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes de vista previa de tus archivos. Se vuelven a generar la próxima vez que abras una carpeta.</translation>
     </message>
     <message>
         <source>Old installers</source>
-        <translation type="unfinished"></translation>
+        <translation>Instaladores antiguos</translation>
     </message>
     <message>
         <source>Developer caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Caché de desarrollo</translation>
     </message>
     <message>
         <source>Package manager caches and build output. Removing them is safe, but the next build or install will be slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cachés de gestores de paquetes y resultados de compilación. Se pueden eliminar sin riesgo, pero la próxima compilación o instalación tardará más.</translation>
     </message>
     <message>
         <source>Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Papelera</translation>
     </message>
     <message>
         <source>Items you have already deleted. Emptying cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elementos que ya has eliminado. El vaciado no se puede deshacer.</translation>
     </message>
     <message>
         <source>QuickLook cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Caché de Vista rápida</translation>
     </message>
     <message>
         <source>Thumbnail cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Caché de miniaturas</translation>
     </message>
     <message>
         <source>Disk images and installer packages in your Downloads folder. Review in case you still need an installer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes de disco y paquetes de instalación de tu carpeta Descargas. Revísalos por si aún necesitas algún instalador.</translation>
     </message>
     <message>
         <source>Software packages and disc images in your Downloads folder. Review in case you still need one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquetes de software e imágenes de disco de tu carpeta Descargas. Revísalos por si aún necesitas alguno.</translation>
     </message>
     <message>
         <source>Safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguro</translation>
     </message>
     <message>
         <source>Review</source>
-        <translation type="unfinished"></translation>
+        <translation>Revisar</translation>
     </message>
     <message>
         <source>Permanent</source>
-        <translation type="unfinished"></translation>
+        <translation>Definitivo</translation>
     </message>
     <message>
         <source>Thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>Miniaturas</translation>
     </message>
     <message>
         <source>QuickLook thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>Miniaturas de Vista rápida</translation>
     </message>
     <message>
         <source>Simulator caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Caché de simuladores</translation>
     </message>
 </context>
 <context>
     <name>Cleaner</name>
     <message>
         <source>delete permanently</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminar definitivamente</translation>
     </message>
     <message>
         <source>The home folder belongs to another user. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta personal pertenece a otro usuario. No se ha limpiado nada.</translation>
     </message>
     <message>
         <source>Another cleanup is already running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay otra limpieza en curso.</translation>
     </message>
     <message>
         <source>There is no telling whether another cleanup is running. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es posible saber si hay otra limpieza en curso. No se ha limpiado nada.</translation>
     </message>
 </context>
 <context>
     <name>CleanupPage</name>
     <message>
         <source>SAFE TO CLEAN</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpieza segura</translation>
     </message>
     <message>
         <source>REVIEW BEFORE CLEANING</source>
-        <translation type="unfinished"></translation>
+        <translation>Revisar antes de limpiar</translation>
     </message>
     <message>
         <source>CANNOT BE UNDONE</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede deshacer</translation>
     </message>
     <message>
         <source>Details shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Detalles a la vista</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar todo</translation>
     </message>
     <message>
         <source>%1 items</source>
@@ -192,23 +192,23 @@
     </message>
     <message>
         <source>%1 is running</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está en ejecución</translation>
     </message>
     <message>
         <source>Nothing left to clean. Rescan any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>No queda nada que limpiar. Vuelve a analizar cuando quieras.</translation>
     </message>
     <message>
         <source>Largest items</source>
-        <translation type="unfinished"></translation>
+        <translation>Los más grandes</translation>
     </message>
     <message>
         <source>Show in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en %1</translation>
     </message>
     <message>
         <source>Show %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar %1 más</translation>
     </message>
     <message>
         <source>and %1 more items</source>
@@ -216,345 +216,345 @@
     </message>
     <message numerus="yes">
         <source>&lt;b&gt;%Ln file(s) skipped&lt;/b&gt; because they were in use or protected. Quit the apps using them and rescan to remove them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&lt;b&gt;%Ln archivo omitido&lt;/b&gt; porque estaba en uso o protegido. Cierra las apps que lo usan y vuelve a analizar para eliminarlo.</numerusform>
+            <numerusform>&lt;b&gt;%Ln archivos omitidos&lt;/b&gt; porque estaban en uso o protegidos. Cierra las apps que los usan y vuelve a analizar para eliminarlos.</numerusform>
         </translation>
     </message>
     <message>
         <source>For example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Por ejemplo: %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Left caches of running apps alone:&lt;/b&gt; %1. Quit them and clean again to include them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;No se ha tocado la caché de apps en ejecución:&lt;/b&gt; %1. Ciérralas y vuelve a limpiar para incluirla.</translation>
     </message>
     <message>
         <source>Cleanup complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpieza completada</translation>
     </message>
     <message>
         <source>Available before</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible antes</translation>
     </message>
     <message>
         <source>Available now</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible ahora</translation>
     </message>
     <message>
         <source>View log</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver registro</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Listo</translation>
     </message>
     <message>
         <source>Moved to the %1. You can still restore anything.</source>
-        <translation type="unfinished"></translation>
+        <translation>Movido a la %1. Aún puedes restaurarlo todo.</translation>
     </message>
     <message>
         <source>Items were deleted permanently.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los elementos se han eliminado definitivamente.</translation>
     </message>
     <message>
         <source>Restart as admin</source>
-        <translation type="unfinished"></translation>
+        <translation>Reiniciar como admin</translation>
     </message>
     <message>
         <source>Some folders need Full Disk Access.</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunas carpetas requieren Acceso total al disco.</translation>
     </message>
     <message>
         <source>Some folders may need Full Disk Access.</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunas carpetas pueden requerir Acceso total al disco.</translation>
     </message>
     <message>
         <source>Open System Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir Ajustes del Sistema</translation>
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunos archivos pertenecen al sistema y no se han tocado.</translation>
     </message>
     <message>
         <source>These files need administrator rights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estos archivos requieren permisos de administrador.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Some files need administrator rights.&lt;/b&gt; Restart Tarnwick as administrator and clean again to remove them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Algunos archivos requieren permisos de administrador.&lt;/b&gt; Reinicia Tarnwick como administrador y vuelve a limpiar para eliminarlos.</translation>
     </message>
     <message>
         <source>You have no permission to read some of these folders.</source>
-        <translation type="unfinished"></translation>
+        <translation>No tienes permiso para leer algunas de estas carpetas.</translation>
     </message>
     <message>
         <source>%1 is open. Quit it to include its cache.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está en ejecución. Cierra la app para incluir su caché.</translation>
     </message>
     <message>
         <source>%1 are open. Quit them to include their caches.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 están en ejecución. Cierra las apps para incluir sus cachés.</translation>
     </message>
     <message>
         <source>Nothing scanned yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no se ha analizado nada</translation>
     </message>
     <message>
         <source>Find caches, temporary files and leftovers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encuentra cachés, archivos temporales y restos.</translation>
     </message>
     <message>
         <source>Start Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar análisis</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpieza</translation>
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiando</translation>
     </message>
     <message>
         <source>In progress</source>
-        <translation type="unfinished"></translation>
+        <translation>En curso</translation>
     </message>
     <message>
         <source>of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>de %1</translation>
     </message>
     <message>
         <source>Select recommended</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar recomendados</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Reanalizar</translation>
     </message>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Selección</translation>
     </message>
     <message>
         <source>Show the rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver las reglas</translation>
     </message>
     <message>
         <source>%1 can be cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>Se pueden limpiar %1</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected%3</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; seleccionados%3</translation>
     </message>
     <message>
         <source> · some need admin</source>
-        <translation type="unfinished"></translation>
+        <translation> · parte requiere administrador</translation>
     </message>
     <message>
         <source>moved to the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>se moverá a la %1</translation>
     </message>
     <message>
         <source>deleted permanently</source>
-        <translation type="unfinished"></translation>
+        <translation>se eliminará definitivamente</translation>
     </message>
     <message>
         <source>Clean %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Rules on what to keep have gone from the settings.&lt;/b&gt; Nothing is cleaned until you have looked at them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En los ajustes faltan reglas sobre lo que debe conservarse.&lt;/b&gt; No se limpiará nada hasta que las revises.</translation>
     </message>
     <message>
         <source>&lt;b&gt;The settings can&apos;t be read.&lt;/b&gt; Nothing is cleaned until you have looked at the rules on what to keep.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Los ajustes no se pueden leer.&lt;/b&gt; No se limpiará nada hasta que revises las reglas sobre lo que debe conservarse.</translation>
     </message>
     <message>
         <source>Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>Analizando</translation>
     </message>
     <message>
         <source>Items checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Analizados</translation>
     </message>
     <message>
         <source>Elapsed</source>
-        <translation type="unfinished"></translation>
+        <translation>Transcurrido</translation>
     </message>
     <message>
         <source>Remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Restante</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener</translation>
     </message>
     <message>
         <source>found</source>
-        <translation type="unfinished"></translation>
+        <translation>encontrados</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Requiere Acceso total al disco</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin permiso de lectura</translation>
     </message>
 </context>
 <context>
     <name>Cli</name>
     <message>
         <source>Measures what could be cleaned, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mide lo que se podría limpiar, sin cambiar nada.</translation>
     </message>
     <message>
         <source>Scans, shows what would go, asks, and cleans it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Analiza, muestra lo que se eliminaría, pregunta y lo limpia.</translation>
     </message>
     <message>
         <source>Searches the home folder for large files, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Busca archivos grandes en la carpeta personal, sin cambiar nada.</translation>
     </message>
     <message>
         <source>Measures what makes up the system&apos;s share of the disk, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mide de qué se compone la parte del disco que ocupa el sistema, sin cambiar nada.</translation>
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
-        <translation type="unfinished"></translation>
+        <translation>mira solo estas categorías; al limpiar se incluyen todas ellas, también las que nunca se limpian sin pedirlo</translation>
     </message>
     <message>
         <source>never touch what this rule names, beside the rules in the settings; repeatable</source>
-        <translation type="unfinished"></translation>
+        <translation>no toca nunca lo que indique esta regla, además de las reglas de los ajustes; se puede repetir</translation>
     </message>
     <message>
         <source>delete for good, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>elimina definitivamente, digan lo que digan los ajustes</translation>
     </message>
     <message>
         <source>move to the Trash, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>mueve a la Papelera, digan lo que digan los ajustes</translation>
     </message>
     <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
-        <translation type="unfinished"></translation>
+        <translation>no toca nada; indica qué se eliminaría y qué se quedaría, y por qué</translation>
     </message>
     <message>
         <source>don&apos;t ask</source>
-        <translation type="unfinished"></translation>
+        <translation>no pregunta</translation>
     </message>
     <message>
         <source>look for files that take at least so many megabytes on the disk, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>busca archivos que ocupen al menos estos megabytes en el disco, digan lo que digan los ajustes</translation>
     </message>
     <message>
         <source>one JSON object on standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>un objeto JSON en la salida estándar</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 y %2</translation>
     </message>
     <message>
         <source>show this help</source>
-        <translation type="unfinished"></translation>
+        <translation>muestra esta ayuda</translation>
     </message>
     <message>
         <source>show the version</source>
-        <translation type="unfinished"></translation>
+        <translation>muestra la versión</translation>
     </message>
     <message>
         <source>Usage: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uso: %1</translation>
     </message>
     <message>
         <source>Commands:</source>
-        <translation type="unfinished"></translation>
+        <translation>Comandos:</translation>
     </message>
     <message>
         <source>Options:</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones:</translation>
     </message>
     <message>
         <source>Say &quot;%1&quot; to learn about one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe &quot;%1&quot; para saber más de uno de ellos.</translation>
     </message>
     <message>
         <source>Categories: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Categorías: %1</translation>
     </message>
     <message>
         <source>there is no option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no existe la opción %1</translation>
     </message>
     <message>
         <source>there is no command %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>no existe el comando %1, solo %2</translation>
     </message>
     <message>
         <source>%1 is one word too many</source>
-        <translation type="unfinished"></translation>
+        <translation>sobra la palabra %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no --%2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no admite --%2</translation>
     </message>
     <message>
         <source>--delete and --trash exclude each other</source>
-        <translation type="unfinished"></translation>
+        <translation>--delete y --trash son incompatibles</translation>
     </message>
     <message>
         <source>--only wants ids of categories: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>--only espera identificadores de categorías: %1</translation>
     </message>
     <message>
         <source>there is no category %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>no existe la categoría %1, solo %2</translation>
     </message>
     <message>
         <source>--exclude wants a rule</source>
-        <translation type="unfinished"></translation>
+        <translation>--exclude espera una regla</translation>
     </message>
     <message>
         <source>the rule %1 matches nothing: a path begins with / or ~/ and lies below /, a name has no slash</source>
-        <translation type="unfinished"></translation>
+        <translation>la regla %1 no coincide con nada: una ruta empieza por / o ~/ y está por debajo de /; un nombre no lleva barra</translation>
     </message>
     <message>
         <source>--min-mb wants a number of megabytes, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>--min-mb espera un número de megabytes, no %1</translation>
     </message>
     <message>
         <source>Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha limpiado nada.</translation>
     </message>
     <message>
         <source>Look at the rules in the settings of Tarnwick; or mend %1, or remove it together with %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Revisa las reglas en los ajustes de Tarnwick; o bien repara %1, o elimínalo junto con %2.</translation>
     </message>
     <message>
         <source>the scan was cancelled, and nothing was cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>el análisis se ha cancelado y no se ha limpiado nada</translation>
     </message>
     <message>
         <source>there is no terminal to ask on, so nothing is cleaned without --yes</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ningún terminal en el que preguntar, así que no se limpia nada sin --yes</translation>
     </message>
     <message>
         <source>the search was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>la búsqueda se ha cancelado</translation>
     </message>
     <message>
         <source>the output could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no se ha podido escribir la salida: %1</translation>
     </message>
     <message>
         <source>Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>Analizando</translation>
     </message>
     <message>
         <source>%1 files</source>
@@ -562,11 +562,11 @@
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiando</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>%1 of %2 files</source>
@@ -574,19 +574,19 @@
     </message>
     <message>
         <source>Searching</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando</translation>
     </message>
     <message>
         <source>the scan was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>el análisis se ha cancelado</translation>
     </message>
     <message>
         <source>cancelling…</source>
-        <translation type="unfinished"></translation>
+        <translation>cancelando…</translation>
     </message>
     <message>
         <source>finishing this item, then stopping…</source>
-        <translation type="unfinished"></translation>
+        <translation>terminando este elemento antes de parar…</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -594,67 +594,67 @@
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Not everything could be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido leer todo: %1.</translation>
     </message>
     <message>
         <source>the measuring was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>la medición se ha cancelado</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos</translation>
     </message>
     <message>
         <source>Rating</source>
-        <translation type="unfinished"></translation>
+        <translation>Valoración</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicación</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>%1 of it is safe to clean: tarnwick-cli clean</source>
-        <translation type="unfinished"></translation>
+        <translation>De ellos, %1 se pueden limpiar sin riesgo: tarnwick-cli clean</translation>
     </message>
     <message>
         <source>%1 is running, so %2 of its data will stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está en ejecución, así que %2 de sus datos no se tocarán.</translation>
     </message>
     <message>
         <source>Left alone unless you name it: %1. To clean it: --only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se toca si no lo indicas: %1. Para limpiarlo: --only %2</translation>
     </message>
     <message>
         <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
-        <translation type="unfinished"></translation>
+        <translation>De ellos, %1 están en un volumen sin Papelera y no se tocarán, salvo que uses --delete.</translation>
     </message>
     <message>
         <source>deleted for good</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminado definitivamente</translation>
     </message>
     <message>
         <source>moved to the Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>movido a la Papelera</translation>
     </message>
     <message>
         <source>Skipped, %1 in all; the log tells why:</source>
@@ -662,59 +662,59 @@
     </message>
     <message>
         <source>Left alone, because they are running: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha tocado por estar en ejecución: %1.</translation>
     </message>
     <message>
         <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se ha movido a la Papelera sigue ocupando espacio hasta que la vacíes.</translation>
     </message>
     <message>
         <source>Scanned in %1. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Analizado en %1. No se ha cambiado nada.</translation>
     </message>
     <message>
         <source>There is nothing to clean.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada que limpiar.</translation>
     </message>
     <message>
         <source>Delete %1 for good?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Eliminar %1 definitivamente?</translation>
     </message>
     <message>
         <source>Move %2 to the Trash?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Mover %2 a la Papelera?</translation>
     </message>
     <message>
         <source>Delete %1 for good and move %2 to the Trash?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Eliminar %1 definitivamente y mover %2 a la Papelera?</translation>
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esto ha sido una simulación: no se ha tocado nada.</translation>
     </message>
     <message>
         <source>Freed %1, removed %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liberado: %1; eliminado: %2.</translation>
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunos archivos pertenecen al sistema y no se han tocado.</translation>
     </message>
     <message>
         <source>Log: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro: %1</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Last used</source>
-        <translation type="unfinished"></translation>
+        <translation>Último uso</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>The largest %1 of %2 files are listed.</source>
@@ -722,140 +722,140 @@
     </message>
     <message>
         <source>No file in the home folder takes %1 or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún archivo de la carpeta personal ocupa %1 o más.</translation>
     </message>
     <message>
         <source>Searched %1 in %2. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Búsqueda en %1, hecha en %2. No se ha cambiado nada.</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>al menos %1</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Requiere Acceso total al disco</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin permiso de lectura</translation>
     </message>
     <message>
         <source>Largest: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El mayor: %1</translation>
     </message>
     <message>
         <source>You can reclaim</source>
-        <translation type="unfinished"></translation>
+        <translation>Puedes liberar</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestionado por macOS</translation>
     </message>
     <message>
         <source>Managed by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestionado por el sistema</translation>
     </message>
     <message>
         <source>%1 of it you can act on.</source>
-        <translation type="unfinished"></translation>
+        <translation>De ellos, puedes actuar sobre %1.</translation>
     </message>
     <message>
         <source>Measured in %1. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Medido en %1. No se ha cambiado nada.</translation>
     </message>
 </context>
 <context>
     <name>DiskOrb</name>
     <message>
         <source>%1% used</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;% en uso</translation>
     </message>
     <message>
         <source>%1 can be cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>Se pueden limpiar %1</translation>
     </message>
 </context>
 <context>
     <name>Gauge</name>
     <message>
         <source>%1 used</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en uso</translation>
     </message>
     <message>
         <source>used</source>
-        <translation type="unfinished"></translation>
+        <translation>en uso</translation>
     </message>
 </context>
 <context>
     <name>LargeFilesPage</name>
     <message>
         <source>Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionado</translation>
     </message>
     <message>
         <source>ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>ascendente</translation>
     </message>
     <message>
         <source>descending</source>
-        <translation type="unfinished"></translation>
+        <translation>descendente</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapa de espacio</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Reanalizar</translation>
     </message>
     <message>
         <source>Find what&apos;s taking up space</source>
-        <translation type="unfinished"></translation>
+        <translation>Descubre qué ocupa espacio</translation>
     </message>
     <message>
         <source>Big files in your home folder. You decide what goes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos grandes de tu carpeta personal. Tú decides qué se va.</translation>
     </message>
     <message>
         <source>Find large files</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar archivos grandes</translation>
     </message>
     <message>
         <source>Home folder · over %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta personal · más de %1</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos</translation>
     </message>
     <message>
         <source>Unused</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin usar</translation>
     </message>
     <message>
         <source>Show in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en %1</translation>
     </message>
     <message>
         <source>Move to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover a la %1</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar</translation>
     </message>
     <message>
         <source>Search files</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar archivos</translation>
     </message>
     <message>
         <source>Largest files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos más grandes</translation>
     </message>
     <message>
         <source>Unused %1+ months</source>
-        <translation type="unfinished"></translation>
+        <translation>%1+ meses sin usar</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
@@ -863,382 +863,382 @@
     </message>
     <message>
         <source>Looking for large files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando archivos grandes…</translation>
     </message>
     <message>
         <source>Large files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos grandes</translation>
     </message>
     <message>
         <source>Largest so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Los más grandes hasta ahora</translation>
     </message>
     <message>
         <source>Sort by</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenar por</translation>
     </message>
 </context>
 <context>
     <name>LoginEntry</name>
     <message>
         <source>%1 is not from Tarnwick and was left as it is. Remove it to open Tarnwick at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es de Tarnwick y se ha dejado como estaba. Elimina ese archivo para abrir Tarnwick al iniciar sesión.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written, so Tarnwick does not open at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir %1, así que Tarnwick no se abre al iniciar sesión.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be removed, so Tarnwick still opens at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede eliminar %1, así que Tarnwick se sigue abriendo al iniciar sesión.</translation>
     </message>
 </context>
 <context>
     <name>Main</name>
     <message>
         <source>Tarnwick was updated to version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick se ha actualizado a la versión %1.</translation>
     </message>
     <message>
         <source>%1 is almost full. Run Smart Scan to free up space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Queda poco espacio en %1. Usa el análisis inteligente para liberar espacio.</translation>
     </message>
 </context>
 <context>
     <name>MenuBar</name>
     <message>
         <source>Tarnwick Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitio web de Tarnwick</translation>
     </message>
     <message>
         <source>About Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de Tarnwick</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar actualizaciones…</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes…</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir de Tarnwick</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Análisis inteligente</translation>
     </message>
     <message>
         <source>Find Large Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar archivos grandes</translation>
     </message>
     <message>
         <source>Close Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar ventana</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rehacer</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortar</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar todo</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpieza</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapa de espacio</translation>
     </message>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos del sistema</translation>
     </message>
     <message>
         <source>Hide Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocultar barra lateral</translation>
     </message>
     <message>
         <source>Enter Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar pantalla completa</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizar</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Bring All to Front</source>
-        <translation type="unfinished"></translation>
+        <translation>Traer todo al frente</translation>
     </message>
     <message>
         <source>Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Guía</translation>
     </message>
     <message>
         <source>FAQ</source>
-        <translation type="unfinished"></translation>
+        <translation>Preguntas frecuentes</translation>
     </message>
     <message>
         <source>Open Log Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir carpeta de registros</translation>
     </message>
     <message>
         <source>Open Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir menú</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Atajos de teclado</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Edición</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualización</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventana</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Show Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar barra lateral</translation>
     </message>
     <message>
         <source>Exit Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir de pantalla completa</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>Check for Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar actualizaciones</translation>
     </message>
 </context>
 <context>
     <name>Overlay</name>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión %1</translation>
     </message>
     <message>
         <source>© 2026 the Tarnwick authors</source>
-        <translation type="unfinished"></translation>
+        <translation>© 2026 los autores de Tarnwick</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Remember my choice</source>
-        <translation type="unfinished"></translation>
+        <translation>Recordar mi elección</translation>
     </message>
     <message>
         <source>Keep Tarnwick running?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Mantener Tarnwick en ejecución?</translation>
     </message>
     <message>
         <source>Tarnwick can stay in the system tray when you close the window, so scheduled scans and low space alerts keep working. You can open it again from the tray icon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick puede quedarse en la bandeja del sistema al cerrar la ventana, para que los análisis programados y los avisos de poco espacio sigan funcionando. Puedes volver a abrirlo desde su icono en la bandeja.</translation>
     </message>
     <message>
         <source>You can change this in Settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puedes cambiarlo en Ajustes.</translation>
     </message>
     <message>
         <source>Keep in tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Dejar en la bandeja</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Permanent delete is on. These files can&apos;t be recovered.</source>
-        <translation type="unfinished"></translation>
+        <translation>La eliminación definitiva está activada. Estos archivos no se podrán recuperar.</translation>
     </message>
     <message>
         <source>Emptying the %1 can&apos;t be undone. Everything else goes to the %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vaciado de la %1 no se puede deshacer. Todo lo demás va a la %1.</translation>
     </message>
     <message>
         <source>Everything will be moved to the %1, so you can restore it later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo se moverá a la %1, así que podrás restaurarlo más tarde.</translation>
     </message>
     <message>
         <source>Clean and delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar y eliminar</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar</translation>
     </message>
     <message>
         <source>Clean %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Limpiar %1?</translation>
     </message>
     <message>
         <source>%1 of it will stay: there is no %2 on its volume.</source>
-        <translation type="unfinished"></translation>
+        <translation>De ellos, %1 se quedarán donde están: su volumen no tiene %2.</translation>
     </message>
     <message>
         <source>%1 of it will stay while these apps are open: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>De ellos, %1 se quedarán donde están mientras estas apps sigan abiertas: %2.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Atajos de teclado</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer</translation>
     </message>
     <message>
         <source>Version %1 is available. You have %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya está disponible la versión %1. Tienes la %2.</translation>
     </message>
     <message>
         <source>An update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay una actualización disponible</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>Downloading the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando la actualización…</translation>
     </message>
     <message>
         <source>Drag Tarnwick to Applications in the window that opens to replace this version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Para sustituir esta versión, arrastra Tarnwick a Aplicaciones en la ventana que se abre.</translation>
     </message>
     <message>
         <source>Your file manager opens the folder with the downloaded package. Install it the way you install packages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tu gestor de archivos abre la carpeta con el paquete descargado. Instálalo como instalas cualquier paquete.</translation>
     </message>
     <message>
         <source>Tarnwick is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick está actualizado</translation>
     </message>
     <message>
         <source>Version %1 is the latest version.</source>
-        <translation type="unfinished"></translation>
+        <translation>La versión %1 es la más reciente.</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han podido buscar actualizaciones</translation>
     </message>
     <message>
         <source>Check your internet connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprueba tu conexión a internet y vuelve a intentarlo.</translation>
     </message>
     <message>
         <source>Installing the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalando la actualización…</translation>
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando actualizaciones…</translation>
     </message>
     <message>
         <source>Version %1 is installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tienes instalada la versión %1.</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>Reintentar</translation>
     </message>
     <message>
         <source>Update now</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar ahora</translation>
     </message>
     <message>
         <source>What&apos;s new</source>
-        <translation type="unfinished"></translation>
+        <translation>Novedades</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Más tarde</translation>
     </message>
 </context>
 <context>
     <name>OverviewPage</name>
     <message>
         <source>Scanned %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Analizado %1</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Nunca</translation>
     </message>
     <message>
         <source>Weekly</source>
-        <translation type="unfinished"></translation>
+        <translation>Semanal</translation>
     </message>
     <message>
         <source>Monthly</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensual</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Análisis inteligente</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Resumen</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Reanalizar</translation>
     </message>
     <message>
         <source>Disk health</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado del disco</translation>
     </message>
     <message>
         <source>System files protected</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema protegido</translation>
     </message>
     <message>
         <source>Freed in the last %1 months</source>
@@ -1246,486 +1246,486 @@
     </message>
     <message>
         <source>See all</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver todo</translation>
     </message>
     <message>
         <source>Scheduled scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Análisis programado</translation>
     </message>
     <message>
         <source>free of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>libres de %1</translation>
     </message>
     <message>
         <source>Review</source>
-        <translation type="unfinished"></translation>
+        <translation>Revisar</translation>
     </message>
     <message>
         <source>Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Analizar</translation>
     </message>
     <message>
         <source>%1 ready to clean</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 listos para limpiar</translation>
     </message>
     <message>
         <source>Your startup disk is almost full</source>
-        <translation type="unfinished"></translation>
+        <translation>El disco de arranque está casi lleno</translation>
     </message>
     <message>
         <source>Keep your disk in shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantén tu disco en forma</translation>
     </message>
     <message>
         <source>%1 purgeable</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 purgables</translation>
     </message>
     <message>
         <source>Apps, documents &amp; system</source>
-        <translation type="unfinished"></translation>
+        <translation>Apps, documentos y sistema</translation>
     </message>
     <message>
         <source>Reclaimable</source>
-        <translation type="unfinished"></translation>
+        <translation>Liberable</translation>
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible</translation>
     </message>
     <message>
         <source>Never scanned</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin analizar</translation>
     </message>
     <message>
         <source>Last scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Último análisis</translation>
     </message>
     <message>
         <source>Freed this month</source>
-        <translation type="unfinished"></translation>
+        <translation>Liberado este mes</translation>
     </message>
     <message>
         <source>Top recommendations</source>
-        <translation type="unfinished"></translation>
+        <translation>Recomendaciones principales</translation>
     </message>
     <message>
         <source>What Smart Scan looks at</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué revisa el análisis inteligente</translation>
     </message>
 </context>
 <context>
     <name>Platform</name>
     <message>
         <source>System disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Disco del sistema</translation>
     </message>
     <message>
         <source>Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Papelera</translation>
     </message>
     <message>
         <source>Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Finder</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueado</translation>
     </message>
     <message>
         <source>Administrator access</source>
-        <translation type="unfinished"></translation>
+        <translation>Acceso de administrador</translation>
     </message>
     <message>
         <source>Tarnwick is running as administrator and can clean Windows Update files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick se ejecuta como administrador y puede limpiar archivos de Windows Update.</translation>
     </message>
     <message>
         <source>Granted</source>
-        <translation type="unfinished"></translation>
+        <translation>Concedido</translation>
     </message>
     <message>
         <source>Only needed to clean Windows Update leftovers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo hace falta para limpiar restos de Windows Update.</translation>
     </message>
     <message>
         <source>Restart as admin</source>
-        <translation type="unfinished"></translation>
+        <translation>Reiniciar como admin</translation>
     </message>
     <message>
         <source>Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Acceso total al disco</translation>
     </message>
     <message>
         <source>Needed to clean Safari&apos;s cache and the Trash.</source>
-        <translation type="unfinished"></translation>
+        <translation>Necesario para limpiar la caché de Safari y la Papelera.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir Ajustes</translation>
     </message>
     <message>
         <source>System default (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma del sistema (%1)</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpieza</translation>
     </message>
     <message>
         <source>Automation</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatización</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Apariencia</translation>
     </message>
     <message>
         <source>Exclusions</source>
-        <translation type="unfinished"></translation>
+        <translation>Exclusiones</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de</translation>
     </message>
     <message>
         <source>Permissions &amp; about</source>
-        <translation type="unfinished"></translation>
+        <translation>Permisos e información</translation>
     </message>
     <message>
         <source>Move items to the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover los elementos a la %1</translation>
     </message>
     <message>
         <source>Recommended. Turn off to delete files permanently.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recomendado. Desactívalo para eliminar los archivos definitivamente.</translation>
     </message>
     <message>
         <source>Large file size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de archivo grande</translation>
     </message>
     <message>
         <source>Files bigger than this appear in Large &amp; Old Files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los archivos que superen este tamaño aparecen en el Mapa de espacio.</translation>
     </message>
     <message>
         <source>100 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>100 MB</translation>
     </message>
     <message>
         <source>250 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>250 MB</translation>
     </message>
     <message>
         <source>500 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>500 MB</translation>
     </message>
     <message>
         <source>1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>1 GB</translation>
     </message>
     <message>
         <source>Consider files old after</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos antiguos a partir de</translation>
     </message>
     <message>
         <source>Used by the “Unused” filter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se usa en el filtro “Sin usar”.</translation>
     </message>
     <message>
         <source>3 months</source>
-        <translation type="unfinished"></translation>
+        <translation>3 meses</translation>
     </message>
     <message>
         <source>6 months</source>
-        <translation type="unfinished"></translation>
+        <translation>6 meses</translation>
     </message>
     <message>
         <source>12 months</source>
-        <translation type="unfinished"></translation>
+        <translation>12 meses</translation>
     </message>
     <message>
         <source>24 months</source>
-        <translation type="unfinished"></translation>
+        <translation>24 meses</translation>
     </message>
     <message>
         <source>Scheduled scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Análisis programado</translation>
     </message>
     <message>
         <source>Scans when Tarnwick starts if the last scan is older than this. Never cleans on its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Analiza al iniciarse Tarnwick si el último análisis es más antiguo que esto. Nunca limpia por su cuenta.</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Nunca</translation>
     </message>
     <message>
         <source>Weekly</source>
-        <translation type="unfinished"></translation>
+        <translation>Semanal</translation>
     </message>
     <message>
         <source>Monthly</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensual</translation>
     </message>
     <message>
         <source>Low space alerts</source>
-        <translation type="unfinished"></translation>
+        <translation>Avisos de poco espacio</translation>
     </message>
     <message>
         <source>Warn when free space drops below 10%.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avisa cuando el espacio libre baja del 10&#xa0;%.</translation>
     </message>
     <message>
         <source>Open at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir al iniciar sesión</translation>
     </message>
     <message>
         <source>Start with Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar con Windows</translation>
     </message>
     <message>
         <source>Starts Tarnwick in the background so scheduled scans can run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicia Tarnwick en segundo plano para que puedan hacerse los análisis programados.</translation>
     </message>
     <message>
         <source>Show Tarnwick in the system tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar Tarnwick en la bandeja del sistema</translation>
     </message>
     <message>
         <source>Show Tarnwick in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar Tarnwick en la barra de menús</translation>
     </message>
     <message>
         <source>Closing the window keeps Tarnwick running there, so scheduled scans and low space alerts keep working.</source>
-        <translation type="unfinished"></translation>
+        <translation>Al cerrar la ventana, Tarnwick sigue ejecutándose ahí, para que los análisis programados y los avisos de poco espacio sigan funcionando.</translation>
     </message>
     <message>
         <source>Ask every time</source>
-        <translation type="unfinished"></translation>
+        <translation>Preguntar siempre</translation>
     </message>
     <message>
         <source>Keep running in the tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguir en la bandeja</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir de Tarnwick</translation>
     </message>
     <message>
         <source>When closing the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Al cerrar la ventana</translation>
     </message>
     <message>
         <source>In the tray, Tarnwick keeps running so scheduled scans and low space alerts keep working.</source>
-        <translation type="unfinished"></translation>
+        <translation>En la bandeja, Tarnwick sigue ejecutándose para que los análisis programados y los avisos de poco espacio sigan funcionando.</translation>
     </message>
     <message>
         <source>Theme</source>
-        <translation type="unfinished"></translation>
+        <translation>Tema</translation>
     </message>
     <message>
         <source>Follow the system, or always use light or dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sigue al sistema, o usa siempre el tema claro o el oscuro.</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Claro</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Oscuro</translation>
     </message>
     <message>
         <source>Restart now</source>
-        <translation type="unfinished"></translation>
+        <translation>Reiniciar ahora</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>Tarnwick restarts to switch languages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick se reinicia para cambiar de idioma.</translation>
     </message>
     <message>
         <source>Protected system locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicaciones del sistema protegidas</translation>
     </message>
     <message>
         <source> — always skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation> — siempre se omiten.</translation>
     </message>
     <message>
         <source>Protected apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Apps protegidas</translation>
     </message>
     <message>
         <source> — their data is never cleaned. Caches of running apps and open files are skipped too.</source>
-        <translation type="unfinished"></translation>
+        <translation> — sus datos no se limpian nunca. También se omiten las cachés de apps en ejecución y los archivos abiertos.</translation>
     </message>
     <message>
         <source>Open logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir registros</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar actualizaciones</translation>
     </message>
     <message>
         <source>Every cleanup writes a log you can review. Tarnwick checks for updates when it starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada limpieza escribe un registro que puedes consultar. Tarnwick busca actualizaciones al iniciarse.</translation>
     </message>
     <message>
         <source>Every cleanup writes a log you can review.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada limpieza escribe un registro que puedes consultar.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Rules have gone from the settings.&lt;/b&gt; Check that these are all of yours, and put back what is missing. Nothing is cleaned until then.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Faltan reglas en los ajustes.&lt;/b&gt; Comprueba que estas son todas las tuyas y vuelve a añadir las que falten. Hasta entonces no se limpia nada.</translation>
     </message>
     <message>
         <source>&lt;b&gt;The settings can&apos;t be read.&lt;/b&gt; Check that these are all of your rules, and put back what is missing. Nothing is cleaned until then, and the damaged file stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Los ajustes no se pueden leer.&lt;/b&gt; Comprueba que estas son todas tus reglas y vuelve a añadir las que falten. Hasta entonces no se limpia nada, y el archivo dañado se conserva.</translation>
     </message>
     <message>
         <source>Add folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir carpeta</translation>
     </message>
     <message>
         <source>Never touch these</source>
-        <translation type="unfinished"></translation>
+        <translation>No tocar nunca</translation>
     </message>
     <message>
         <source>Folders and patterns Tarnwick always skips.</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpetas y patrones que Tarnwick omite siempre.</translation>
     </message>
     <message>
         <source>These are my rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Estas son mis reglas</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Choose a folder to exclude</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige una carpeta para excluirla</translation>
     </message>
     <message>
         <source>The rules are kept. The damaged settings file stays beside the new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las reglas se han guardado. El archivo de ajustes dañado se conserva junto al nuevo.</translation>
     </message>
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los ajustes no se pueden escribir, así que se quedan como están.</translation>
     </message>
 </context>
 <context>
     <name>Sidebar</name>
     <message>
         <source>%1 available of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 disponibles de %2</translation>
     </message>
     <message>
         <source>%1 free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 libres</translation>
     </message>
     <message>
         <source>Expand sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Expandir barra lateral</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Análisis inteligente</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpieza</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapa de espacio</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos del sistema</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar</translation>
     </message>
     <message>
         <source>Collapse sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraer barra lateral</translation>
     </message>
 </context>
 <context>
     <name>StepBar</name>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>En espera</translation>
     </message>
     <message>
         <source>In progress</source>
-        <translation type="unfinished"></translation>
+        <translation>En curso</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Completado</translation>
     </message>
 </context>
 <context>
     <name>SystemData</name>
     <message>
         <source>Review in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Revisar en Finder</translation>
     </message>
     <message>
         <source>Show in Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en Archivos</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover a la Papelera</translation>
     </message>
     <message>
         <source>Remove snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar instantáneas</translation>
     </message>
     <message>
         <source>Delete unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar no disponibles</translation>
     </message>
     <message>
         <source>Clean in Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar en Limpieza</translation>
     </message>
     <message>
         <source>Open Xcode</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir Xcode</translation>
     </message>
     <message>
         <source>Couldn&apos;t open %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido abrir %1</translation>
     </message>
     <message>
         <source>1 item</source>
@@ -1741,19 +1741,19 @@
     </message>
     <message>
         <source>Nothing to move</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada que mover</translation>
     </message>
     <message>
         <source>Moved %1 to the Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Movido a la Papelera: %1</translation>
     </message>
     <message>
         <source>There are no local snapshots to remove</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay instantáneas locales que eliminar</translation>
     </message>
     <message>
         <source>Snapshots were not removed</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han eliminado las instantáneas</translation>
     </message>
     <message>
         <source>Removed %1 of %2 snapshots</source>
@@ -1761,11 +1761,11 @@
     </message>
     <message>
         <source>Simulator cleanup failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han podido limpiar los simuladores: %1</translation>
     </message>
     <message>
         <source>No unavailable simulator devices — nothing to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún dispositivo de simulador no disponible: nada que eliminar</translation>
     </message>
     <message>
         <source>Deleted 1 unavailable simulator device</source>
@@ -1777,287 +1777,287 @@
     </message>
     <message>
         <source>Xcode isn&apos;t installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Xcode no está instalado</translation>
     </message>
     <message>
         <source>Your app caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Cachés de tus apps</translation>
     </message>
     <message>
         <source>Caches that apps keep in your cache folder. The safe ones can be cleaned from Cleanup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cachés que las apps guardan en tu carpeta de cachés. Las seguras se pueden limpiar desde Limpieza.</translation>
     </message>
     <message>
         <source>Hidden folders in your home folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpetas ocultas de tu carpeta personal</translation>
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .npm, .cargo and .nvm. Caches are safe to clear; keep tool installs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cachés, ajustes e instalaciones que las herramientas de desarrollo y las apps guardan en carpetas ocultas como .npm, .cargo y .nvm. Las cachés se pueden borrar sin riesgo; conserva las herramientas instaladas.</translation>
     </message>
     <message>
         <source>Flatpak app data</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos de apps Flatpak</translation>
     </message>
     <message>
         <source>Settings, files and caches of your Flatpak apps, which each keep their own. “flatpak uninstall --delete-data” removes those of apps that are gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes, archivos y cachés de tus apps Flatpak, cada una con los suyos. “flatpak uninstall --delete-data” elimina los de las apps que ya no están.</translation>
     </message>
     <message>
         <source>Your Flatpak apps and runtimes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tus apps y entornos Flatpak</translation>
     </message>
     <message>
         <source>Apps that Flatpak installed for you alone, and the runtimes that they need. “flatpak uninstall --user --unused” removes runtimes that no app needs any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Apps que Flatpak ha instalado solo para ti y los entornos de ejecución que necesitan. “flatpak uninstall --user --unused” elimina los entornos que ya no necesita ninguna app.</translation>
     </message>
     <message>
         <source>Containers and images</source>
-        <translation type="unfinished"></translation>
+        <translation>Contenedores e imágenes</translation>
     </message>
     <message>
         <source>Images, containers and volumes that Docker and Podman keep. “docker system prune” and “podman system prune” remove what no container uses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes, contenedores y volúmenes que guardan Docker y Podman. “docker system prune” y “podman system prune” eliminan lo que ningún contenedor usa.</translation>
     </message>
     <message>
         <source>Virtual machines</source>
-        <translation type="unfinished"></translation>
+        <translation>Máquinas virtuales</translation>
     </message>
     <message>
         <source>Disk images of virtual machines, kept by the program that made them. Delete a machine there, or with “virsh undefine --remove-all-storage”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes de disco de máquinas virtuales, guardadas por el programa que las creó. Elimina la máquina desde ese programa, o con “virsh undefine --remove-all-storage”.</translation>
     </message>
     <message>
         <source>Game libraries</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliotecas de juegos</translation>
     </message>
     <message>
         <source>Games, kept by Steam and other launchers. Uninstall a game in its launcher.</source>
-        <translation type="unfinished"></translation>
+        <translation>Juegos que guardan Steam y otros lanzadores. Desinstala cada juego desde su lanzador.</translation>
     </message>
     <message>
         <source>App data</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos de apps</translation>
     </message>
     <message>
         <source>Databases and files that apps keep for you, and your Trash. Remove an app&apos;s data from within the app, or after uninstalling it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bases de datos y archivos que las apps guardan para ti, y tu Papelera. Elimina los datos de una app desde la propia app, o después de desinstalarla.</translation>
     </message>
     <message>
         <source>Settings of your apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes de tus apps</translation>
     </message>
     <message>
         <source>Settings that apps keep for you; some keep profiles and caches beside them. An app without its settings starts afresh.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes que las apps guardan para ti; algunas guardan junto a ellos perfiles y cachés. Una app sin sus ajustes empieza de cero.</translation>
     </message>
     <message>
         <source>System journal</source>
-        <translation type="unfinished"></translation>
+        <translation>Diario del sistema</translation>
     </message>
     <message>
         <source>The log of the system and its services, which journald keeps within a limit. “journalctl --vacuum-size=200M” trims it at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>El registro del sistema y de sus servicios, que journald mantiene dentro de un límite. “journalctl --vacuum-size=200M” lo recorta al momento.</translation>
     </message>
     <message>
         <source>System logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros del sistema</translation>
     </message>
     <message>
         <source>Log files of services and of the package manager. logrotate compresses and deletes old ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de registro de los servicios y del gestor de paquetes. logrotate comprime los antiguos y los elimina.</translation>
     </message>
     <message>
         <source>Crash dumps</source>
-        <translation type="unfinished"></translation>
+        <translation>Volcados de memoria</translation>
     </message>
     <message>
         <source>What was in the memory of programs that crashed, kept for reports. The system deletes old ones; “coredumpctl” lists them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que había en la memoria de los programas que fallaron, guardado para los informes. El sistema elimina los antiguos; “coredumpctl” los enumera.</translation>
     </message>
     <message>
         <source>Package downloads</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquetes descargados</translation>
     </message>
     <message>
         <source>Packages that the package manager downloaded and has installed since. “apt-get clean”, “dnf clean packages”, “pacman -Sc” or “zypper clean” removes them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquetes que el gestor de paquetes descargó y ya ha instalado. “apt-get clean”, “dnf clean packages”, “pacman -Sc” o “zypper clean” los elimina.</translation>
     </message>
     <message>
         <source>Snap packages and old revisions</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquetes snap y revisiones antiguas</translation>
     </message>
     <message>
         <source>Snap packages, with earlier revisions that snapd keeps to go back to. “snap set system refresh.retain=2” keeps fewer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquetes snap, con las revisiones anteriores que snapd guarda para poder volver atrás. “snap set system refresh.retain=2” hace que guarde menos.</translation>
     </message>
     <message>
         <source>Flatpak apps and runtimes of the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Apps y entornos Flatpak del sistema</translation>
     </message>
     <message>
         <source>Apps that Flatpak installed for all users, and the runtimes that they need. “flatpak uninstall --unused” removes runtimes that no app needs any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Apps que Flatpak ha instalado para todos los usuarios y los entornos de ejecución que necesitan. “flatpak uninstall --unused” elimina los entornos que ya no necesita ninguna app.</translation>
     </message>
     <message>
         <source>Kernels and their modules</source>
-        <translation type="unfinished"></translation>
+        <translation>Núcleos y sus módulos</translation>
     </message>
     <message>
         <source>The kernels that the system can start, with their drivers. The package manager keeps the newest; “apt-get autoremove” removes older ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los núcleos con los que puede arrancar el sistema, con sus controladores. El gestor de paquetes conserva el más reciente; “apt-get autoremove” elimina los antiguos.</translation>
     </message>
     <message>
         <source>Swap and hibernation files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de intercambio e hibernación</translation>
     </message>
     <message>
         <source>Room on the disk for what doesn&apos;t fit into memory, and for memory itself during hibernation. The system&apos;s settings fix its size; “swapon --show” lists it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio en el disco para lo que no cabe en la memoria, y para la propia memoria durante la hibernación. Los ajustes del sistema fijan su tamaño; “swapon --show” lo muestra.</translation>
     </message>
     <message>
         <source>System snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Instantáneas del sistema</translation>
     </message>
     <message>
         <source>Earlier states of the system, which Timeshift or Snapper keeps. They share what didn&apos;t change, so they have no size of their own; “timeshift --delete” or “snapper delete” removes one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estados anteriores del sistema que guarda Timeshift o Snapper. Comparten lo que no ha cambiado, así que no tienen un tamaño propio; “timeshift --delete” o “snapper delete” elimina una de ellas.</translation>
     </message>
     <message>
         <source>Time Machine local snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Instantáneas locales de Time Machine</translation>
     </message>
     <message>
         <source>Hourly snapshots macOS keeps on this disk until Time Machine can reach its backup drive. macOS frees them when space runs low; removing them now is safe, but you lose those restore points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instantáneas que macOS guarda cada hora en este disco hasta que Time Machine pueda acceder a su disco de copias. macOS las libera cuando falta espacio; puedes eliminarlas ahora sin riesgo, pero pierdes esos puntos de restauración.</translation>
     </message>
     <message>
         <source>iPhone &amp; iPad backups</source>
-        <translation type="unfinished"></translation>
+        <translation>Copias de seguridad de iPhone y iPad</translation>
     </message>
     <message>
         <source>Device backups made by Finder. Delete old ones from Finder (General → Manage Backups) once a newer or iCloud backup exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copias de seguridad de dispositivos hechas por el Finder. Elimina las antiguas desde el Finder (General → Gestionar copias de seguridad) cuando tengas una más reciente o una en iCloud.</translation>
     </message>
     <message>
         <source>Xcode device support</source>
-        <translation type="unfinished"></translation>
+        <translation>Compatibilidad con dispositivos de Xcode</translation>
     </message>
     <message>
         <source>Debug symbols Xcode copies from every iOS, watchOS and tvOS version you&apos;ve connected. Xcode copies them again the next time you connect that device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Símbolos de depuración que Xcode copia de cada versión de iOS, watchOS y tvOS que has conectado. Xcode los copia de nuevo la próxima vez que conectes ese dispositivo.</translation>
     </message>
     <message>
         <source>iOS Simulator devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivos del simulador de iOS</translation>
     </message>
     <message>
         <source>Simulator devices and their app data. Removing unavailable devices (for runtimes you no longer have) is safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivos del simulador y los datos de sus apps. Los que no están disponibles (para entornos que ya no tienes) se pueden eliminar sin riesgo.</translation>
     </message>
     <message>
         <source>Simulator runtimes &amp; caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Entornos y cachés de simuladores</translation>
     </message>
     <message>
         <source>iOS, watchOS and visionOS simulator runtimes Xcode downloaded, plus their shared caches. Remove runtimes you don&apos;t use in Xcode › Settings › Components.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entornos de simulador de iOS, watchOS y visionOS que Xcode ha descargado, además de sus cachés compartidas. Elimina los que no uses en Xcode › Settings › Components.</translation>
     </message>
     <message>
         <source>Caches apps keep in your Library folder. The safe ones can be cleaned from Cleanup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cachés que las apps guardan en tu carpeta Biblioteca. Las seguras se pueden limpiar desde Limpieza.</translation>
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .cache, .npm and .nvm. Caches are safe to clear; keep tool installs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cachés, ajustes e instalaciones que las herramientas de desarrollo y las apps guardan en carpetas ocultas como .cache, .npm y .nvm. Las cachés se pueden borrar sin riesgo; conserva las herramientas instaladas.</translation>
     </message>
     <message>
         <source>Xcode archives</source>
-        <translation type="unfinished"></translation>
+        <translation>Compilaciones archivadas de Xcode</translation>
     </message>
     <message>
         <source>Builds you archived for distribution. Keep the ones you may need to symbolicate crash reports for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Compilaciones que archivaste para distribuirlas. Conserva las que puedas necesitar para simbolizar informes de fallos.</translation>
     </message>
     <message>
         <source>Docker disk image</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen de disco de Docker</translation>
     </message>
     <message>
         <source>The virtual disk holding Docker&apos;s images and containers. Shrink it with “docker system prune” or Docker Desktop&apos;s settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>El disco virtual que contiene las imágenes y los contenedores de Docker. Redúcelo con “docker system prune” o en los ajustes de Docker Desktop.</translation>
     </message>
     <message>
         <source>Mail attachments</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos adjuntos de Mail</translation>
     </message>
     <message>
         <source>Attachments Mail saved after you opened them. The originals stay in your mailbox.</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos adjuntos que Mail guardó después de que los abrieras. Los originales siguen en tu buzón.</translation>
     </message>
     <message>
         <source>Messages attachments</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos adjuntos de Mensajes</translation>
     </message>
     <message>
         <source>Photos, videos and files from your conversations. Remove large ones from Messages (Settings → General → Storage) to keep chats consistent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos, vídeos y archivos de tus conversaciones. Elimina los más grandes desde Mensajes (Ajustes → General → Almacenamiento) para que los chats sigan siendo coherentes.</translation>
     </message>
     <message>
         <source>System caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Cachés del sistema</translation>
     </message>
     <message>
         <source>Caches shared by all users and system services. macOS trims these itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cachés que comparten todos los usuarios y los servicios del sistema. El propio macOS las recorta.</translation>
     </message>
     <message>
         <source>System logs &amp; diagnostics</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros y diagnósticos del sistema</translation>
     </message>
     <message>
         <source>Unified logs and diagnostic reports. macOS rotates and deletes them automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros unificados e informes de diagnóstico. macOS los rota y los elimina automáticamente.</translation>
     </message>
     <message>
         <source>Virtual memory &amp; sleep image</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria virtual e imagen de reposo</translation>
     </message>
     <message>
         <source>Swap files and the hibernation image. They grow and shrink with memory use and reset when you restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de intercambio e imagen de hibernación. Crecen y disminuyen con el uso de la memoria y se restablecen al reiniciar.</translation>
     </message>
     <message>
         <source>macOS assets &amp; updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Recursos y actualizaciones de macOS</translation>
     </message>
     <message>
         <source>Downloaded system assets (fonts, dictionaries, language and AI models) and staged software updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recursos del sistema descargados (tipos de letra, diccionarios, modelos de idioma y de IA) y actualizaciones de software preparadas para instalarse.</translation>
     </message>
     <message>
         <source>Other Library data</source>
-        <translation type="unfinished"></translation>
+        <translation>Otros datos de Biblioteca</translation>
     </message>
     <message>
         <source>Everything else in your Library folder: preferences, keychains, logs, and data for system services.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo lo demás de tu carpeta Biblioteca: preferencias, llaveros, registros y datos de servicios del sistema.</translation>
     </message>
     <message>
         <source>System databases &amp; temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>Bases de datos y temporales del sistema</translation>
     </message>
     <message>
         <source>Databases and per-app temporary folders used by macOS services. macOS manages these.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bases de datos y carpetas temporales por app que usan los servicios de macOS. macOS se encarga de ellas.</translation>
     </message>
     <message>
         <source>App data &amp; containers</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos y contenedores de apps</translation>
     </message>
     <message>
         <source>Settings, databases and files apps keep for you. Remove an app&apos;s data by uninstalling the app or from within the app.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes, bases de datos y archivos que las apps guardan para ti. Para eliminar los datos de una app, desinstálala o hazlo desde la propia app.</translation>
     </message>
     <message>
         <source>1 snapshot</source>
@@ -2069,11 +2069,11 @@
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin permiso de lectura</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>al menos %1</translation>
     </message>
     <message>
         <source>1 device</source>
@@ -2088,254 +2088,254 @@
     <name>SystemDataPage</name>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos del sistema</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Reanalizar</translation>
     </message>
     <message>
         <source>See what&apos;s inside System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Descubre qué hay en Datos del sistema</translation>
     </message>
     <message>
         <source>Snapshots, backups, developer files, caches and more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instantáneas, copias de seguridad, archivos de desarrollo, cachés y más.</translation>
     </message>
     <message>
         <source>Scan System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Analizar Datos del sistema</translation>
     </message>
     <message>
         <source>measured in System Data · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; you can act on</source>
-        <translation type="unfinished"></translation>
+        <translation>medidos en Datos del sistema · puedes actuar sobre &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Working…</source>
-        <translation type="unfinished"></translation>
+        <translation>Procesando…</translation>
     </message>
     <message>
         <source>Updating…</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizando…</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>You can reclaim</source>
-        <translation type="unfinished"></translation>
+        <translation>Puedes liberar</translation>
     </message>
     <message>
         <source>Measuring System Data…</source>
-        <translation type="unfinished"></translation>
+        <translation>Midiendo Datos del sistema…</translation>
     </message>
     <message>
         <source>measured</source>
-        <translation type="unfinished"></translation>
+        <translation>medidos</translation>
     </message>
     <message>
         <source>macOS will remove its local Time Machine snapshots on this disk. Your Time Machine backups on other drives aren&apos;t affected. macOS will ask for your administrator password.</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS eliminará sus instantáneas locales de Time Machine de este disco. Tus copias de seguridad de Time Machine en otros discos no se ven afectadas. macOS te pedirá tu contraseña de administrador.</translation>
     </message>
     <message>
         <source>Simulator devices whose iOS runtime is no longer installed will be deleted, with their apps and data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se eliminarán los dispositivos de simulador cuyo entorno de iOS ya no está instalado, junto con sus apps y datos.</translation>
     </message>
     <message>
         <source>%1 will be moved to the Trash. Xcode recreates it when you connect a device again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se moverán %1 a la Papelera. Xcode los vuelve a crear cuando conectas de nuevo un dispositivo.</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Requiere Acceso total al disco</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin permiso de lectura</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>al menos %1</translation>
     </message>
     <message>
         <source>Largest: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El mayor: %1</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestionado por macOS</translation>
     </message>
     <message>
         <source>Managed by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestionado por el sistema</translation>
     </message>
     <message>
         <source>Only what you may read is counted. Folders that belong to the system or to other users are left out, and folders shared by several rows are counted once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo se cuenta lo que tienes permiso para leer. No se incluyen las carpetas del sistema ni las de otros usuarios, y las carpetas comunes a varias filas se cuentan una sola vez.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Why Storage settings shows a bigger number&lt;/b&gt;&lt;br&gt;macOS works out System Data as whatever is left on the disk after Apps, Documents, Photos and its other categories. That remainder also includes things no app can measure: the Spotlight index, APFS snapshots, purgeable space and root-only system files. Without Full Disk Access, Tarnwick also can&apos;t see protected folders, so its total is lower than what macOS reports.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Por qué los ajustes de Almacenamiento muestran una cifra mayor&lt;/b&gt;&lt;br&gt;macOS calcula Datos del sistema como lo que queda en el disco después de Apps, Documentos, Fotos y sus demás categorías. Ese resto incluye además cosas que ninguna app puede medir: el índice de Spotlight, las instantáneas APFS, el espacio purgable y archivos del sistema reservados a root. Sin Acceso total al disco, Tarnwick tampoco puede ver las carpetas protegidas, así que su total es menor que el que indica macOS.</translation>
     </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menú</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizar</translation>
     </message>
     <message>
         <source>Maximize</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximizar</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>
     <name>Tray</name>
     <message>
         <source>Open Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir Tarnwick</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Análisis inteligente</translation>
     </message>
     <message>
         <source>Find Large Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar archivos grandes</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>Check for Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar actualizaciones</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir de Tarnwick</translation>
     </message>
     <message>
         <source>%1 · %2 free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 libres</translation>
     </message>
 </context>
 <context>
     <name>Updater</name>
     <message>
         <source>Could not open the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido abrir la actualización.</translation>
     </message>
     <message>
         <source>The server took too long to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor ha tardado demasiado en responder.</translation>
     </message>
     <message>
         <source>The update information could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido leer la información de la actualización.</translation>
     </message>
     <message>
         <source>The server redirected to an address that is not safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor ha redirigido a una dirección que no es segura.</translation>
     </message>
     <message>
         <source>Too many redirects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Demasiadas redirecciones.</translation>
     </message>
     <message>
         <source>The update is not on Tarnwick&apos;s server.</source>
-        <translation type="unfinished"></translation>
+        <translation>La actualización no está en el servidor de Tarnwick.</translation>
     </message>
     <message>
         <source>The update has an unexpected size.</source>
-        <translation type="unfinished"></translation>
+        <translation>La actualización tiene un tamaño inesperado.</translation>
     </message>
     <message>
         <source>Could not save the update: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido guardar la actualización: %1</translation>
     </message>
     <message>
         <source>The update could not be downloaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido descargar la actualización: %1</translation>
     </message>
     <message>
         <source>Could not read the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido leer la actualización.</translation>
     </message>
     <message>
         <source>The update does not match the published checksum.</source>
-        <translation type="unfinished"></translation>
+        <translation>La actualización no coincide con la suma de comprobación publicada.</translation>
     </message>
     <message>
         <source>The update is not signed by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La actualización no está firmada por %1.</translation>
     </message>
 </context>
 <context>
     <name>fmt</name>
     <message>
         <source>TB</source>
-        <translation type="unfinished"></translation>
+        <translation>TB</translation>
     </message>
     <message>
         <source>GB</source>
-        <translation type="unfinished"></translation>
+        <translation>GB</translation>
     </message>
     <message>
         <source>MB</source>
-        <translation type="unfinished"></translation>
+        <translation>MB</translation>
     </message>
     <message>
         <source>KB</source>
-        <translation type="unfinished"></translation>
+        <translation>KB</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoy</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayer</translation>
     </message>
     <message numerus="yes">
         <source>%n day(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Hace %n día</numerusform>
+            <numerusform>Hace %n días</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n week(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Hace %n semana</numerusform>
+            <numerusform>Hace %n semanas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n month(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Hace %n mes</numerusform>
+            <numerusform>Hace %n meses</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n year(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Hace %n año</numerusform>
+            <numerusform>Hace %n años</numerusform>
         </translation>
     </message>
 </context>
