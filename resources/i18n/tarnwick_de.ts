@@ -5,18 +5,18 @@
     <name>AppGuard</name>
     <message>
         <source>Password managers, input methods, security and device-management agents, VPNs</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwortmanager, Eingabemethoden, Sicherheits- und Geräteverwaltungsdienste, VPNs</translation>
     </message>
 </context>
 <context>
     <name>AppState</name>
     <message>
         <source>The settings can&apos;t be read, so the rules on what to keep are unknown. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen sind nicht lesbar, die Ausnahmeregeln daher unbekannt. Es wurde nichts bereinigt.</translation>
     </message>
     <message>
         <source>The settings have lost rules on what to keep. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Einstellungen fehlen Ausnahmeregeln. Es wurde nichts bereinigt.</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -28,163 +28,163 @@
     </message>
     <message>
         <source>%1 (%2) moved to the %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2) in den %3 gelegt</translation>
     </message>
     <message>
         <source> · %1 in use, skipped</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 in Verwendung, übersprungen</translation>
     </message>
     <message numerus="yes">
         <source>Restored %Ln file(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Datei wiederhergestellt</numerusform>
+            <numerusform>%Ln Dateien wiederhergestellt</numerusform>
         </translation>
     </message>
     <message>
         <source>The settings can&apos;t be read, so the rules on what to keep are unknown. Nothing was moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen sind nicht lesbar, die Ausnahmeregeln daher unbekannt. Es wurde nichts verschoben.</translation>
     </message>
 </context>
 <context>
     <name>Categories</name>
     <message>
         <source>Temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporäre Dateien</translation>
     </message>
     <message>
         <source>Scratch files that apps and the system create while working. They are not needed once the app closes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbeitsdateien, die Apps und das System im laufenden Betrieb anlegen. Sobald die App beendet ist, werden sie nicht mehr gebraucht.</translation>
     </message>
     <message>
         <source>App caches</source>
-        <translation type="unfinished"></translation>
+        <translation>App-Caches</translation>
     </message>
     <message>
         <source>Data apps keep to load faster. Apps rebuild these automatically the next time they need them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten, die Apps vorhalten, um schneller zu laden. Bei Bedarf legen die Apps sie automatisch neu an.</translation>
     </message>
     <message>
         <source>Browser caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Browser-Caches</translation>
     </message>
     <message>
         <source>Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischengespeicherte Bilder, Skripte und Seiten. Anmeldungen, Verlauf, Lesezeichen und Passwörter bleiben immer unangetastet.</translation>
     </message>
     <message>
         <source>Logs &amp; crash reports</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokolle &amp; Absturzberichte</translation>
     </message>
     <message>
         <source>Diagnostic logs and crash reports. Useful only when troubleshooting a recent problem.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagnoseprotokolle und Absturzberichte. Nützlich nur bei der Suche nach der Ursache eines aktuellen Problems.</translation>
     </message>
     <message>
         <source>Preview images of your files. They are regenerated the next time you open a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschaubilder Ihrer Dateien. Sie werden beim nächsten Öffnen eines Ordners neu erzeugt.</translation>
     </message>
     <message>
         <source>Old installers</source>
-        <translation type="unfinished"></translation>
+        <translation>Alte Installer</translation>
     </message>
     <message>
         <source>Developer caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Entwickler-Caches</translation>
     </message>
     <message>
         <source>Package manager caches and build output. Removing them is safe, but the next build or install will be slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches von Paketverwaltungen und Build-Ergebnisse. Sie können gefahrlos entfernt werden, doch der nächste Build oder die nächste Installation dauert länger.</translation>
     </message>
     <message>
         <source>Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierkorb</translation>
     </message>
     <message>
         <source>Items you have already deleted. Emptying cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekte, die Sie bereits gelöscht haben. Das Leeren lässt sich nicht rückgängig machen.</translation>
     </message>
     <message>
         <source>QuickLook cache</source>
-        <translation type="unfinished"></translation>
+        <translation>QuickLook-Cache</translation>
     </message>
     <message>
         <source>Thumbnail cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschaubild-Cache</translation>
     </message>
     <message>
         <source>Disk images and installer packages in your Downloads folder. Review in case you still need an installer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Disk-Images und Installationspakete in Ihrem Ordner „Downloads“. Prüfen Sie, ob Sie eines davon noch brauchen.</translation>
     </message>
     <message>
         <source>Software packages and disc images in your Downloads folder. Review in case you still need one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Softwarepakete und Datenträgerabbilder in Ihrem Ordner „Downloads“. Prüfen Sie, ob Sie eines davon noch brauchen.</translation>
     </message>
     <message>
         <source>Safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicher</translation>
     </message>
     <message>
         <source>Review</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen</translation>
     </message>
     <message>
         <source>Permanent</source>
-        <translation type="unfinished"></translation>
+        <translation>Endgültig</translation>
     </message>
     <message>
         <source>Thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschaubilder</translation>
     </message>
     <message>
         <source>QuickLook thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>QuickLook-Vorschaubilder</translation>
     </message>
     <message>
         <source>Simulator caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Simulator-Caches</translation>
     </message>
 </context>
 <context>
     <name>Cleaner</name>
     <message>
         <source>delete permanently</source>
-        <translation type="unfinished"></translation>
+        <translation>dauerhaft löschen</translation>
     </message>
     <message>
         <source>The home folder belongs to another user. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Benutzerordner gehört einem anderen Benutzer. Es wurde nichts bereinigt.</translation>
     </message>
     <message>
         <source>Another cleanup is already running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es läuft bereits eine andere Bereinigung.</translation>
     </message>
     <message>
         <source>There is no telling whether another cleanup is running. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es lässt sich nicht feststellen, ob eine andere Bereinigung läuft. Es wurde nichts bereinigt.</translation>
     </message>
 </context>
 <context>
     <name>CleanupPage</name>
     <message>
         <source>SAFE TO CLEAN</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicher zu bereinigen</translation>
     </message>
     <message>
         <source>REVIEW BEFORE CLEANING</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor dem Bereinigen prüfen</translation>
     </message>
     <message>
         <source>CANNOT BE UNDONE</source>
-        <translation type="unfinished"></translation>
+        <translation>Unwiderruflich</translation>
     </message>
     <message>
         <source>Details shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Details werden angezeigt</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle auswählen</translation>
     </message>
     <message>
         <source>%1 items</source>
@@ -192,19 +192,19 @@
     </message>
     <message>
         <source>%1 is running</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 läuft</translation>
     </message>
     <message>
         <source>Nothing left to clean. Rescan any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts mehr zu bereinigen. Sie können jederzeit neu scannen.</translation>
     </message>
     <message>
         <source>Largest items</source>
-        <translation type="unfinished"></translation>
+        <translation>Top-Objekte</translation>
     </message>
     <message>
         <source>Show in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Im %1 zeigen</translation>
     </message>
     <message>
         <source>Show %1 more</source>
@@ -216,345 +216,345 @@
     </message>
     <message numerus="yes">
         <source>&lt;b&gt;%Ln file(s) skipped&lt;/b&gt; because they were in use or protected. Quit the apps using them and rescan to remove them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&lt;b&gt;%Ln Datei übersprungen&lt;/b&gt;, da sie in Verwendung oder geschützt war. Beenden Sie die App, die sie verwendet, und scannen Sie neu, um sie zu entfernen.</numerusform>
+            <numerusform>&lt;b&gt;%Ln Dateien übersprungen&lt;/b&gt;, da sie in Verwendung oder geschützt waren. Beenden Sie die Apps, die sie verwenden, und scannen Sie neu, um sie zu entfernen.</numerusform>
         </translation>
     </message>
     <message>
         <source>For example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Beispiel: %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Left caches of running apps alone:&lt;/b&gt; %1. Quit them and clean again to include them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Caches laufender Apps blieben unangetastet:&lt;/b&gt; %1. Beenden Sie diese Apps und bereinigen Sie erneut, um sie einzubeziehen.</translation>
     </message>
     <message>
         <source>Cleanup complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereinigung abgeschlossen</translation>
     </message>
     <message>
         <source>Available before</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher verfügbar</translation>
     </message>
     <message>
         <source>Available now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt verfügbar</translation>
     </message>
     <message>
         <source>View log</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokoll zeigen</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig</translation>
     </message>
     <message>
         <source>Moved to the %1. You can still restore anything.</source>
-        <translation type="unfinished"></translation>
+        <translation>In den %1 gelegt. Sie können alles noch wiederherstellen.</translation>
     </message>
     <message>
         <source>Items were deleted permanently.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Objekte wurden dauerhaft gelöscht.</translation>
     </message>
     <message>
         <source>Restart as admin</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Admin neu starten</translation>
     </message>
     <message>
         <source>Some folders need Full Disk Access.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Ordner erfordern Festplattenvollzugriff.</translation>
     </message>
     <message>
         <source>Some folders may need Full Disk Access.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Ordner erfordern eventuell Festplattenvollzugriff.</translation>
     </message>
     <message>
         <source>Open System Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemeinstellungen öffnen</translation>
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Dateien gehören dem System und blieben unangetastet.</translation>
     </message>
     <message>
         <source>These files need administrator rights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diese Dateien sind Administratorrechte nötig.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Some files need administrator rights.&lt;/b&gt; Restart Tarnwick as administrator and clean again to remove them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Für einige Dateien sind Administratorrechte nötig.&lt;/b&gt; Starten Sie Tarnwick als Administrator neu und bereinigen Sie erneut, um sie zu entfernen.</translation>
     </message>
     <message>
         <source>You have no permission to read some of these folders.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für einige dieser Ordner haben Sie keine Leseberechtigung.</translation>
     </message>
     <message>
         <source>%1 is open. Quit it to include its cache.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist geöffnet. Beenden Sie die App, um ihren Cache einzubeziehen.</translation>
     </message>
     <message>
         <source>%1 are open. Quit them to include their caches.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sind geöffnet. Beenden Sie die Apps, um ihre Caches einzubeziehen.</translation>
     </message>
     <message>
         <source>Nothing scanned yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nichts gescannt</translation>
     </message>
     <message>
         <source>Find caches, temporary files and leftovers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Findet Caches, temporäre Dateien und Überbleibsel.</translation>
     </message>
     <message>
         <source>Start Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Smart Scan starten</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereinigung</translation>
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereinigen</translation>
     </message>
     <message>
         <source>In progress</source>
-        <translation type="unfinished"></translation>
+        <translation>In Arbeit</translation>
     </message>
     <message>
         <source>of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>von %1</translation>
     </message>
     <message>
         <source>Select recommended</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfohlene auswählen</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu scannen</translation>
     </message>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl</translation>
     </message>
     <message>
         <source>Show the rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Regeln anzeigen</translation>
     </message>
     <message>
         <source>%1 can be cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bereinigbar</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected%3</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; ausgewählt%3</translation>
     </message>
     <message>
         <source> · some need admin</source>
-        <translation type="unfinished"></translation>
+        <translation> · teils nur als Admin</translation>
     </message>
     <message>
         <source>moved to the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>in den %1 legen</translation>
     </message>
     <message>
         <source>deleted permanently</source>
-        <translation type="unfinished"></translation>
+        <translation>dauerhaft löschen</translation>
     </message>
     <message>
         <source>Clean %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bereinigen</translation>
     </message>
     <message>
         <source>&lt;b&gt;Rules on what to keep have gone from the settings.&lt;/b&gt; Nothing is cleaned until you have looked at them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;In den Einstellungen fehlen Ausnahmeregeln.&lt;/b&gt; Es wird nichts bereinigt, bis Sie die Regeln geprüft haben.</translation>
     </message>
     <message>
         <source>&lt;b&gt;The settings can&apos;t be read.&lt;/b&gt; Nothing is cleaned until you have looked at the rules on what to keep.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Die Einstellungen sind nicht lesbar.&lt;/b&gt; Es wird nichts bereinigt, bis Sie die Ausnahmeregeln geprüft haben.</translation>
     </message>
     <message>
         <source>Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen</translation>
     </message>
     <message>
         <source>Items checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekte geprüft</translation>
     </message>
     <message>
         <source>Elapsed</source>
-        <translation type="unfinished"></translation>
+        <translation>Verstrichen</translation>
     </message>
     <message>
         <source>Remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Restzeit</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Stoppen</translation>
     </message>
     <message>
         <source>found</source>
-        <translation type="unfinished"></translation>
+        <translation>gefunden</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Festplattenvollzugriff</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Leseberechtigung</translation>
     </message>
 </context>
 <context>
     <name>Cli</name>
     <message>
         <source>Measures what could be cleaned, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Misst, was bereinigt werden könnte, und verändert nichts.</translation>
     </message>
     <message>
         <source>Scans, shows what would go, asks, and cleans it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannt, zeigt, was entfernt würde, fragt nach und bereinigt es.</translation>
     </message>
     <message>
         <source>Searches the home folder for large files, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sucht im Benutzerordner nach großen Dateien und verändert nichts.</translation>
     </message>
     <message>
         <source>Measures what makes up the system&apos;s share of the disk, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Misst, woraus der Anteil des Systems am Speicherplatz besteht, und verändert nichts.</translation>
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
-        <translation type="unfinished"></translation>
+        <translation>nur diese Kategorien beachten; eine Bereinigung umfasst dann alle davon, auch solche, die sonst nie ungefragt bereinigt werden</translation>
     </message>
     <message>
         <source>never touch what this rule names, beside the rules in the settings; repeatable</source>
-        <translation type="unfinished"></translation>
+        <translation>nie antasten, was diese Regel nennt, zusätzlich zu den Regeln in den Einstellungen; mehrfach möglich</translation>
     </message>
     <message>
         <source>delete for good, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>dauerhaft löschen, unabhängig von den Einstellungen</translation>
     </message>
     <message>
         <source>move to the Trash, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>in den Papierkorb legen, unabhängig von den Einstellungen</translation>
     </message>
     <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
-        <translation type="unfinished"></translation>
+        <translation>nichts antasten; auflisten, was entfernt würde, was bliebe und warum</translation>
     </message>
     <message>
         <source>don&apos;t ask</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht nachfragen</translation>
     </message>
     <message>
         <source>look for files that take at least so many megabytes on the disk, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Dateien suchen, die mindestens so viele Megabyte belegen, unabhängig von den Einstellungen</translation>
     </message>
     <message>
         <source>one JSON object on standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>ein JSON-Objekt auf der Standardausgabe</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 und %2</translation>
     </message>
     <message>
         <source>show this help</source>
-        <translation type="unfinished"></translation>
+        <translation>diese Hilfe anzeigen</translation>
     </message>
     <message>
         <source>show the version</source>
-        <translation type="unfinished"></translation>
+        <translation>die Version anzeigen</translation>
     </message>
     <message>
         <source>Usage: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: %1</translation>
     </message>
     <message>
         <source>Commands:</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehle:</translation>
     </message>
     <message>
         <source>Options:</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen:</translation>
     </message>
     <message>
         <source>Say &quot;%1&quot; to learn about one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehr über einen Befehl erfahren Sie mit „%1“.</translation>
     </message>
     <message>
         <source>Categories: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorien: %1</translation>
     </message>
     <message>
         <source>there is no option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>die Option %1 gibt es nicht</translation>
     </message>
     <message>
         <source>there is no command %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>den Befehl %1 gibt es nicht, nur %2</translation>
     </message>
     <message>
         <source>%1 is one word too many</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist ein Wort zu viel</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no --%2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kennt kein --%2</translation>
     </message>
     <message>
         <source>--delete and --trash exclude each other</source>
-        <translation type="unfinished"></translation>
+        <translation>--delete und --trash schließen sich gegenseitig aus</translation>
     </message>
     <message>
         <source>--only wants ids of categories: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>--only erwartet Kennungen von Kategorien: %1</translation>
     </message>
     <message>
         <source>there is no category %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>die Kategorie %1 gibt es nicht, nur %2</translation>
     </message>
     <message>
         <source>--exclude wants a rule</source>
-        <translation type="unfinished"></translation>
+        <translation>--exclude erwartet eine Regel</translation>
     </message>
     <message>
         <source>the rule %1 matches nothing: a path begins with / or ~/ and lies below /, a name has no slash</source>
-        <translation type="unfinished"></translation>
+        <translation>die Regel %1 trifft auf nichts zu: Ein Pfad beginnt mit / oder ~/ und liegt unterhalb von /, ein Name enthält keinen Schrägstrich</translation>
     </message>
     <message>
         <source>--min-mb wants a number of megabytes, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>--min-mb erwartet eine Anzahl von Megabyte, nicht %1</translation>
     </message>
     <message>
         <source>Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts bereinigt.</translation>
     </message>
     <message>
         <source>Look at the rules in the settings of Tarnwick; or mend %1, or remove it together with %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen Sie die Regeln in den Einstellungen von Tarnwick. Oder reparieren Sie %1, oder entfernen Sie diese Datei zusammen mit %2.</translation>
     </message>
     <message>
         <source>the scan was cancelled, and nothing was cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>der Scan wurde abgebrochen, es wurde nichts bereinigt</translation>
     </message>
     <message>
         <source>there is no terminal to ask on, so nothing is cleaned without --yes</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Terminal ist keine Rückfrage möglich, daher wird ohne --yes nichts bereinigt</translation>
     </message>
     <message>
         <source>the search was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>die Suche wurde abgebrochen</translation>
     </message>
     <message>
         <source>the output could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>die Ausgabe konnte nicht geschrieben werden: %1</translation>
     </message>
     <message>
         <source>Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen</translation>
     </message>
     <message>
         <source>%1 files</source>
@@ -562,11 +562,11 @@
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereinigen</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>%1 of %2 files</source>
@@ -574,19 +574,19 @@
     </message>
     <message>
         <source>Searching</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>the scan was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>der Scan wurde abgebrochen</translation>
     </message>
     <message>
         <source>cancelling…</source>
-        <translation type="unfinished"></translation>
+        <translation>wird abgebrochen&#xa0;…</translation>
     </message>
     <message>
         <source>finishing this item, then stopping…</source>
-        <translation type="unfinished"></translation>
+        <translation>dieses Objekt wird noch abgeschlossen, danach wird gestoppt&#xa0;…</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -594,67 +594,67 @@
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Not everything could be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht alles war lesbar: %1.</translation>
     </message>
     <message>
         <source>the measuring was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>die Messung wurde abgebrochen</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien</translation>
     </message>
     <message>
         <source>Rating</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstufung</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>%1 of it is safe to clean: tarnwick-cli clean</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 davon sind sicher zu bereinigen: tarnwick-cli clean</translation>
     </message>
     <message>
         <source>%1 is running, so %2 of its data will stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 läuft, daher bleiben %2 an Daten dieser App erhalten.</translation>
     </message>
     <message>
         <source>Left alone unless you name it: %1. To clean it: --only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleibt unangetastet, solange nicht ausdrücklich genannt: %1. Zum Bereinigen: --only %2</translation>
     </message>
     <message>
         <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 davon liegen auf einem Volume ohne Papierkorb und bleiben dort, sofern Sie nicht --delete angeben.</translation>
     </message>
     <message>
         <source>deleted for good</source>
-        <translation type="unfinished"></translation>
+        <translation>dauerhaft löschen</translation>
     </message>
     <message>
         <source>moved to the Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>in den Papierkorb</translation>
     </message>
     <message>
         <source>Skipped, %1 in all; the log tells why:</source>
@@ -662,59 +662,59 @@
     </message>
     <message>
         <source>Left alone, because they are running: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unangetastet, da gerade geöffnet: %1.</translation>
     </message>
     <message>
         <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was in den Papierkorb gelegt wurde, belegt weiter Speicherplatz, bis Sie ihn leeren.</translation>
     </message>
     <message>
         <source>Scanned in %1. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1 gescannt. Es wurde nichts verändert.</translation>
     </message>
     <message>
         <source>There is nothing to clean.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts zu bereinigen.</translation>
     </message>
     <message>
         <source>Delete %1 for good?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dauerhaft löschen?</translation>
     </message>
     <message>
         <source>Move %2 to the Trash?</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 in den Papierkorb legen?</translation>
     </message>
     <message>
         <source>Delete %1 for good and move %2 to the Trash?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dauerhaft löschen und %2 in den Papierkorb legen?</translation>
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies war ein Probelauf: Es wurde nichts angetastet.</translation>
     </message>
     <message>
         <source>Freed %1, removed %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 freigegeben, %2 entfernt.</translation>
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Dateien gehören dem System und blieben unangetastet.</translation>
     </message>
     <message>
         <source>Log: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokoll: %1</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Art</translation>
     </message>
     <message>
         <source>Last used</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt benutzt</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>The largest %1 of %2 files are listed.</source>
@@ -722,136 +722,136 @@
     </message>
     <message>
         <source>No file in the home folder takes %1 or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Datei im Benutzerordner belegt %1 oder mehr.</translation>
     </message>
     <message>
         <source>Searched %1 in %2. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in %2 durchsucht. Es wurde nichts verändert.</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>mindestens %1</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Festplattenvollzugriff</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Leseberechtigung</translation>
     </message>
     <message>
         <source>Largest: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Am größten: %1</translation>
     </message>
     <message>
         <source>You can reclaim</source>
-        <translation type="unfinished"></translation>
+        <translation>Das können Sie freigeben</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
-        <translation type="unfinished"></translation>
+        <translation>Von macOS verwaltet</translation>
     </message>
     <message>
         <source>Managed by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom System verwaltet</translation>
     </message>
     <message>
         <source>%1 of it you can act on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 davon können Sie freigeben.</translation>
     </message>
     <message>
         <source>Measured in %1. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1 gemessen. Es wurde nichts verändert.</translation>
     </message>
 </context>
 <context>
     <name>DiskOrb</name>
     <message>
         <source>%1% used</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;% belegt</translation>
     </message>
     <message>
         <source>%1 can be cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bereinigbar</translation>
     </message>
 </context>
 <context>
     <name>Gauge</name>
     <message>
         <source>%1 used</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 belegt</translation>
     </message>
     <message>
         <source>used</source>
-        <translation type="unfinished"></translation>
+        <translation>belegt</translation>
     </message>
 </context>
 <context>
     <name>LargeFilesPage</name>
     <message>
         <source>Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgewählt</translation>
     </message>
     <message>
         <source>ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>aufsteigend</translation>
     </message>
     <message>
         <source>descending</source>
-        <translation type="unfinished"></translation>
+        <translation>absteigend</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegungskarte</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu scannen</translation>
     </message>
     <message>
         <source>Find what&apos;s taking up space</source>
-        <translation type="unfinished"></translation>
+        <translation>Finden Sie, was Platz belegt</translation>
     </message>
     <message>
         <source>Big files in your home folder. You decide what goes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Große Dateien in Ihrem Benutzerordner. Sie entscheiden, was gelöscht wird.</translation>
     </message>
     <message>
         <source>Find large files</source>
-        <translation type="unfinished"></translation>
+        <translation>Große Dateien suchen</translation>
     </message>
     <message>
         <source>Home folder · over %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerordner · über %1</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>Unused</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungenutzt</translation>
     </message>
     <message>
         <source>Show in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Im %1 zeigen</translation>
     </message>
     <message>
         <source>Move to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In den %1</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigen</translation>
     </message>
     <message>
         <source>Search files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien suchen</translation>
     </message>
     <message>
         <source>Largest files</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Dateien</translation>
     </message>
     <message>
         <source>Unused %1+ months</source>
@@ -863,382 +863,382 @@
     </message>
     <message>
         <source>Looking for large files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach großen Dateien&#xa0;…</translation>
     </message>
     <message>
         <source>Large files</source>
-        <translation type="unfinished"></translation>
+        <translation>Große Dateien</translation>
     </message>
     <message>
         <source>Largest so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Top-Dateien bisher</translation>
     </message>
     <message>
         <source>Sort by</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortieren nach</translation>
     </message>
 </context>
 <context>
     <name>LoginEntry</name>
     <message>
         <source>%1 is not from Tarnwick and was left as it is. Remove it to open Tarnwick at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 stammt nicht von Tarnwick und wurde nicht verändert. Entfernen Sie diese Datei, damit sich Tarnwick bei der Anmeldung öffnet.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written, so Tarnwick does not open at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geschrieben werden. Tarnwick öffnet sich daher nicht bei der Anmeldung.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be removed, so Tarnwick still opens at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht entfernt werden. Tarnwick öffnet sich daher weiterhin bei der Anmeldung.</translation>
     </message>
 </context>
 <context>
     <name>Main</name>
     <message>
         <source>Tarnwick was updated to version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick wurde auf Version %1 aktualisiert.</translation>
     </message>
     <message>
         <source>%1 is almost full. Run Smart Scan to free up space.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist fast voll. Mit Smart Scan geben Sie Speicherplatz frei.</translation>
     </message>
 </context>
 <context>
     <name>MenuBar</name>
     <message>
         <source>Tarnwick Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick-Website</translation>
     </message>
     <message>
         <source>About Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Tarnwick</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Updates suchen&#xa0;…</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen&#xa0;…</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick beenden</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Smart Scan</translation>
     </message>
     <message>
         <source>Find Large Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Große Dateien suchen</translation>
     </message>
     <message>
         <source>Close Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster schließen</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausschneiden</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereinigung</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegungskarte</translation>
     </message>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemdaten</translation>
     </message>
     <message>
         <source>Hide Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenleiste ausblenden</translation>
     </message>
     <message>
         <source>Enter Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollbildmodus</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimieren</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoomen</translation>
     </message>
     <message>
         <source>Bring All to Front</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle nach vorne bringen</translation>
     </message>
     <message>
         <source>Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Anleitung</translation>
     </message>
     <message>
         <source>FAQ</source>
-        <translation type="unfinished"></translation>
+        <translation>Häufige Fragen</translation>
     </message>
     <message>
         <source>Open Log Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokollordner öffnen</translation>
     </message>
     <message>
         <source>Open Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menü öffnen</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkombinationen</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansicht</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Show Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenleiste einblenden</translation>
     </message>
     <message>
         <source>Exit Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollbildmodus beenden</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Check for Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Updates suchen</translation>
     </message>
 </context>
 <context>
     <name>Overlay</name>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1</translation>
     </message>
     <message>
         <source>© 2026 the Tarnwick authors</source>
-        <translation type="unfinished"></translation>
+        <translation>© 2026 die Tarnwick-Autoren</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Remember my choice</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl merken</translation>
     </message>
     <message>
         <source>Keep Tarnwick running?</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick weiterlaufen lassen?</translation>
     </message>
     <message>
         <source>Tarnwick can stay in the system tray when you close the window, so scheduled scans and low space alerts keep working. You can open it again from the tray icon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick kann im Infobereich bleiben, wenn Sie das Fenster schließen, damit geplante Scans und Speicherplatzwarnungen weiter funktionieren. Über das Symbol im Infobereich öffnen Sie es wieder.</translation>
     </message>
     <message>
         <source>You can change this in Settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das lässt sich in den Einstellungen ändern.</translation>
     </message>
     <message>
         <source>Keep in tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Infobereich lassen</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Permanent delete is on. These files can&apos;t be recovered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauerhaftes Löschen ist aktiviert. Diese Dateien lassen sich nicht wiederherstellen.</translation>
     </message>
     <message>
         <source>Emptying the %1 can&apos;t be undone. Everything else goes to the %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was bereits im %1 liegt, wird unwiderruflich gelöscht. Alles andere wird in den %1 gelegt.</translation>
     </message>
     <message>
         <source>Everything will be moved to the %1, so you can restore it later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles wird in den %1 gelegt und lässt sich später wiederherstellen.</translation>
     </message>
     <message>
         <source>Clean and delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereinigen und löschen</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereinigen</translation>
     </message>
     <message>
         <source>Clean %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bereinigen?</translation>
     </message>
     <message>
         <source>%1 of it will stay: there is no %2 on its volume.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 davon bleiben erhalten: Auf ihrem Volume gibt es keinen %2.</translation>
     </message>
     <message>
         <source>%1 of it will stay while these apps are open: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 davon bleiben erhalten, solange diese Apps geöffnet sind: %2.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkombinationen</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Version %1 is available. You have %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1 ist verfügbar. Sie verwenden %2.</translation>
     </message>
     <message>
         <source>An update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Update ist verfügbar</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>Downloading the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>Update wird geladen&#xa0;…</translation>
     </message>
     <message>
         <source>Drag Tarnwick to Applications in the window that opens to replace this version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie Tarnwick in dem Fenster, das sich öffnet, auf „Programme“, um diese Version zu ersetzen.</translation>
     </message>
     <message>
         <source>Your file manager opens the folder with the downloaded package. Install it the way you install packages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Dateimanager öffnet den Ordner mit dem geladenen Paket. Installieren Sie es wie andere Pakete auch.</translation>
     </message>
     <message>
         <source>Tarnwick is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick ist auf dem neuesten Stand</translation>
     </message>
     <message>
         <source>Version %1 is the latest version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1 ist die neueste Version.</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach Updates fehlgeschlagen</translation>
     </message>
     <message>
         <source>Check your internet connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen Sie Ihre Internetverbindung und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Installing the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>Update wird installiert&#xa0;…</translation>
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach Updates&#xa0;…</translation>
     </message>
     <message>
         <source>Version %1 is installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1 ist installiert.</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Update now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt aktualisieren</translation>
     </message>
     <message>
         <source>What&apos;s new</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuerungen</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Später</translation>
     </message>
 </context>
 <context>
     <name>OverviewPage</name>
     <message>
         <source>Scanned %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gescannt: %1</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Weekly</source>
-        <translation type="unfinished"></translation>
+        <translation>Wöchentlich</translation>
     </message>
     <message>
         <source>Monthly</source>
-        <translation type="unfinished"></translation>
+        <translation>Monatlich</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Smart Scan</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Übersicht</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu scannen</translation>
     </message>
     <message>
         <source>Disk health</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufwerkszustand</translation>
     </message>
     <message>
         <source>System files protected</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemdateien geschützt</translation>
     </message>
     <message>
         <source>Freed in the last %1 months</source>
@@ -1246,486 +1246,486 @@
     </message>
     <message>
         <source>See all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle anzeigen</translation>
     </message>
     <message>
         <source>Scheduled scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Geplanter Scan</translation>
     </message>
     <message>
         <source>free of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>von %1 frei</translation>
     </message>
     <message>
         <source>Review</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen</translation>
     </message>
     <message>
         <source>Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen</translation>
     </message>
     <message>
         <source>%1 ready to clean</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bereit zur Bereinigung</translation>
     </message>
     <message>
         <source>Your startup disk is almost full</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Systemlaufwerk ist fast voll</translation>
     </message>
     <message>
         <source>Keep your disk in shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Halten Sie Ihr Laufwerk in Form</translation>
     </message>
     <message>
         <source>%1 purgeable</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 löschbar</translation>
     </message>
     <message>
         <source>Apps, documents &amp; system</source>
-        <translation type="unfinished"></translation>
+        <translation>Apps, Dokumente &amp; System</translation>
     </message>
     <message>
         <source>Reclaimable</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereinigbar</translation>
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbar</translation>
     </message>
     <message>
         <source>Never scanned</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nie gescannt</translation>
     </message>
     <message>
         <source>Last scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzter Scan</translation>
     </message>
     <message>
         <source>Freed this month</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Monat bereinigt</translation>
     </message>
     <message>
         <source>Top recommendations</source>
-        <translation type="unfinished"></translation>
+        <translation>Top-Empfehlungen</translation>
     </message>
     <message>
         <source>What Smart Scan looks at</source>
-        <translation type="unfinished"></translation>
+        <translation>Was Smart Scan prüft</translation>
     </message>
 </context>
 <context>
     <name>Platform</name>
     <message>
         <source>System disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemlaufwerk</translation>
     </message>
     <message>
         <source>Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierkorb</translation>
     </message>
     <message>
         <source>Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Finder</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesperrt</translation>
     </message>
     <message>
         <source>Administrator access</source>
-        <translation type="unfinished"></translation>
+        <translation>Administratorzugriff</translation>
     </message>
     <message>
         <source>Tarnwick is running as administrator and can clean Windows Update files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick läuft als Administrator und kann Dateien von Windows Update bereinigen.</translation>
     </message>
     <message>
         <source>Granted</source>
-        <translation type="unfinished"></translation>
+        <translation>Erteilt</translation>
     </message>
     <message>
         <source>Only needed to clean Windows Update leftovers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur nötig, um Überbleibsel von Windows Update zu bereinigen.</translation>
     </message>
     <message>
         <source>Restart as admin</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Admin neu starten</translation>
     </message>
     <message>
         <source>Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Festplattenvollzugriff</translation>
     </message>
     <message>
         <source>Needed to clean Safari&apos;s cache and the Trash.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nötig, um den Safari-Cache und den Papierkorb zu bereinigen.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen öffnen</translation>
     </message>
     <message>
         <source>System default (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemstandard (%1)</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereinigung</translation>
     </message>
     <message>
         <source>Automation</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisierung</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Erscheinungsbild</translation>
     </message>
     <message>
         <source>Exclusions</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausnahmen</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Permissions &amp; about</source>
-        <translation type="unfinished"></translation>
+        <translation>Berechtigungen &amp; Info</translation>
     </message>
     <message>
         <source>Move items to the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekte in den %1 legen</translation>
     </message>
     <message>
         <source>Recommended. Turn off to delete files permanently.</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfohlen. Ausschalten, um Dateien dauerhaft zu löschen.</translation>
     </message>
     <message>
         <source>Large file size</source>
-        <translation type="unfinished"></translation>
+        <translation>Große Dateien ab</translation>
     </message>
     <message>
         <source>Files bigger than this appear in Large &amp; Old Files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größere Dateien erscheinen in der Belegungskarte.</translation>
     </message>
     <message>
         <source>100 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>100 MB</translation>
     </message>
     <message>
         <source>250 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>250 MB</translation>
     </message>
     <message>
         <source>500 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>500 MB</translation>
     </message>
     <message>
         <source>1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>1 GB</translation>
     </message>
     <message>
         <source>Consider files old after</source>
-        <translation type="unfinished"></translation>
+        <translation>Altersgrenze für Dateien</translation>
     </message>
     <message>
         <source>Used by the “Unused” filter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gilt für den Filter „Ungenutzt“.</translation>
     </message>
     <message>
         <source>3 months</source>
-        <translation type="unfinished"></translation>
+        <translation>3 Monate</translation>
     </message>
     <message>
         <source>6 months</source>
-        <translation type="unfinished"></translation>
+        <translation>6 Monate</translation>
     </message>
     <message>
         <source>12 months</source>
-        <translation type="unfinished"></translation>
+        <translation>12 Monate</translation>
     </message>
     <message>
         <source>24 months</source>
-        <translation type="unfinished"></translation>
+        <translation>24 Monate</translation>
     </message>
     <message>
         <source>Scheduled scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Geplanter Scan</translation>
     </message>
     <message>
         <source>Scans when Tarnwick starts if the last scan is older than this. Never cleans on its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannt beim Start von Tarnwick, wenn der letzte Scan länger zurückliegt. Bereinigt nie von selbst.</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Weekly</source>
-        <translation type="unfinished"></translation>
+        <translation>Wöchentlich</translation>
     </message>
     <message>
         <source>Monthly</source>
-        <translation type="unfinished"></translation>
+        <translation>Monatlich</translation>
     </message>
     <message>
         <source>Low space alerts</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicherplatzwarnungen</translation>
     </message>
     <message>
         <source>Warn when free space drops below 10%.</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnen, wenn weniger als 10&#xa0;% Speicherplatz frei sind.</translation>
     </message>
     <message>
         <source>Open at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei der Anmeldung öffnen</translation>
     </message>
     <message>
         <source>Start with Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Windows starten</translation>
     </message>
     <message>
         <source>Starts Tarnwick in the background so scheduled scans can run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Startet Tarnwick im Hintergrund, damit geplante Scans laufen können.</translation>
     </message>
     <message>
         <source>Show Tarnwick in the system tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick im Infobereich anzeigen</translation>
     </message>
     <message>
         <source>Show Tarnwick in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick in der Menüleiste anzeigen</translation>
     </message>
     <message>
         <source>Closing the window keeps Tarnwick running there, so scheduled scans and low space alerts keep working.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach dem Schließen des Fensters läuft Tarnwick dort weiter, damit geplante Scans und Speicherplatzwarnungen weiter funktionieren.</translation>
     </message>
     <message>
         <source>Ask every time</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedes Mal fragen</translation>
     </message>
     <message>
         <source>Keep running in the tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Infobereich weiterlaufen</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick beenden</translation>
     </message>
     <message>
         <source>When closing the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Schließen des Fensters</translation>
     </message>
     <message>
         <source>In the tray, Tarnwick keeps running so scheduled scans and low space alerts keep working.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Infobereich läuft Tarnwick weiter, damit geplante Scans und Speicherplatzwarnungen weiter funktionieren.</translation>
     </message>
     <message>
         <source>Theme</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbschema</translation>
     </message>
     <message>
         <source>Follow the system, or always use light or dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dem System folgen oder immer hell oder dunkel verwenden.</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>System</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Hell</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkel</translation>
     </message>
     <message>
         <source>Restart now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt neu starten</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache</translation>
     </message>
     <message>
         <source>Tarnwick restarts to switch languages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Wechseln der Sprache startet Tarnwick neu.</translation>
     </message>
     <message>
         <source>Protected system locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschützte Systembereiche</translation>
     </message>
     <message>
         <source> — always skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation> – werden immer übersprungen.</translation>
     </message>
     <message>
         <source>Protected apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschützte Apps</translation>
     </message>
     <message>
         <source> — their data is never cleaned. Caches of running apps and open files are skipped too.</source>
-        <translation type="unfinished"></translation>
+        <translation> – ihre Daten werden nie bereinigt. Auch Caches laufender Apps und geöffnete Dateien werden übersprungen.</translation>
     </message>
     <message>
         <source>Open logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokolle öffnen</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Updates suchen</translation>
     </message>
     <message>
         <source>Every cleanup writes a log you can review. Tarnwick checks for updates when it starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Bereinigung wird protokolliert und lässt sich nachlesen. Tarnwick sucht beim Start nach Updates.</translation>
     </message>
     <message>
         <source>Every cleanup writes a log you can review.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Bereinigung wird protokolliert und lässt sich nachlesen.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Rules have gone from the settings.&lt;/b&gt; Check that these are all of yours, and put back what is missing. Nothing is cleaned until then.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;In den Einstellungen fehlen Regeln.&lt;/b&gt; Prüfen Sie, ob dies alle Ihre Regeln sind, und ergänzen Sie, was fehlt. Bis dahin wird nichts bereinigt.</translation>
     </message>
     <message>
         <source>&lt;b&gt;The settings can&apos;t be read.&lt;/b&gt; Check that these are all of your rules, and put back what is missing. Nothing is cleaned until then, and the damaged file stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Die Einstellungen sind nicht lesbar.&lt;/b&gt; Prüfen Sie, ob dies alle Ihre Regeln sind, und ergänzen Sie, was fehlt. Bis dahin wird nichts bereinigt, und die beschädigte Datei bleibt erhalten.</translation>
     </message>
     <message>
         <source>Add folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner hinzufügen</translation>
     </message>
     <message>
         <source>Never touch these</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie antasten</translation>
     </message>
     <message>
         <source>Folders and patterns Tarnwick always skips.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner und Muster, die Tarnwick immer überspringt.</translation>
     </message>
     <message>
         <source>These are my rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Das sind meine Regeln</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Choose a folder to exclude</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner wählen, der ausgenommen werden soll</translation>
     </message>
     <message>
         <source>The rules are kept. The damaged settings file stays beside the new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Regeln sind gesichert. Die beschädigte Einstellungsdatei bleibt neben der neuen erhalten.</translation>
     </message>
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen können nicht geschrieben werden und bleiben, wie sie sind.</translation>
     </message>
 </context>
 <context>
     <name>Sidebar</name>
     <message>
         <source>%1 available of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 verfügbar</translation>
     </message>
     <message>
         <source>%1 free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 frei</translation>
     </message>
     <message>
         <source>Expand sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenleiste ausklappen</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Smart Scan</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereinigung</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegungskarte</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemdaten</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereinigen</translation>
     </message>
     <message>
         <source>Collapse sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenleiste einklappen</translation>
     </message>
 </context>
 <context>
     <name>StepBar</name>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet</translation>
     </message>
     <message>
         <source>In progress</source>
-        <translation type="unfinished"></translation>
+        <translation>In Arbeit</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig</translation>
     </message>
 </context>
 <context>
     <name>SystemData</name>
     <message>
         <source>Review in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Finder prüfen</translation>
     </message>
     <message>
         <source>Show in Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner öffnen</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Papierkorb legen</translation>
     </message>
     <message>
         <source>Remove snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Snapshots entfernen</translation>
     </message>
     <message>
         <source>Delete unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verfügbare löschen</translation>
     </message>
     <message>
         <source>Clean in Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Bereinigung</translation>
     </message>
     <message>
         <source>Open Xcode</source>
-        <translation type="unfinished"></translation>
+        <translation>Xcode öffnen</translation>
     </message>
     <message>
         <source>Couldn&apos;t open %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht geöffnet werden</translation>
     </message>
     <message>
         <source>1 item</source>
@@ -1737,23 +1737,23 @@
     </message>
     <message>
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in den Papierkorb gelegt, bei %2 nicht möglich</translation>
     </message>
     <message>
         <source>Nothing to move</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts zu verschieben</translation>
     </message>
     <message>
         <source>Moved %1 to the Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in den Papierkorb gelegt</translation>
     </message>
     <message>
         <source>There are no local snapshots to remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine lokalen Snapshots zu entfernen</translation>
     </message>
     <message>
         <source>Snapshots were not removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Snapshots wurden nicht entfernt</translation>
     </message>
     <message>
         <source>Removed %1 of %2 snapshots</source>
@@ -1761,11 +1761,11 @@
     </message>
     <message>
         <source>Simulator cleanup failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereinigung der Simulatoren fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>No unavailable simulator devices — nothing to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine nicht verfügbaren Simulatorgeräte – nichts zu löschen</translation>
     </message>
     <message>
         <source>Deleted 1 unavailable simulator device</source>
@@ -1777,287 +1777,287 @@
     </message>
     <message>
         <source>Xcode isn&apos;t installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Xcode ist nicht installiert</translation>
     </message>
     <message>
         <source>Your app caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre App-Caches</translation>
     </message>
     <message>
         <source>Caches that apps keep in your cache folder. The safe ones can be cleaned from Cleanup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches, die Apps in Ihrem Cache-Ordner ablegen. Die sicheren lassen sich unter „Bereinigung“ entfernen.</translation>
     </message>
     <message>
         <source>Hidden folders in your home folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Verborgene Ordner im Benutzerordner</translation>
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .npm, .cargo and .nvm. Caches are safe to clear; keep tool installs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches, Einstellungen und Installationen, die Entwicklerwerkzeuge und Apps in verborgenen Ordnern wie .npm, .cargo und .nvm ablegen. Caches können gefahrlos geleert werden; installierte Werkzeuge sollten Sie behalten.</translation>
     </message>
     <message>
         <source>Flatpak app data</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten von Flatpak-Apps</translation>
     </message>
     <message>
         <source>Settings, files and caches of your Flatpak apps, which each keep their own. “flatpak uninstall --delete-data” removes those of apps that are gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen, Dateien und Caches Ihrer Flatpak-Apps; jede App hat ihre eigenen. „flatpak uninstall --delete-data“ entfernt die von Apps, die nicht mehr installiert sind.</translation>
     </message>
     <message>
         <source>Your Flatpak apps and runtimes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Flatpak-Apps und Laufzeitumgebungen</translation>
     </message>
     <message>
         <source>Apps that Flatpak installed for you alone, and the runtimes that they need. “flatpak uninstall --user --unused” removes runtimes that no app needs any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Apps, die Flatpak nur für Sie installiert hat, und die dafür nötigen Laufzeitumgebungen. „flatpak uninstall --user --unused“ entfernt Laufzeitumgebungen, die keine App mehr braucht.</translation>
     </message>
     <message>
         <source>Containers and images</source>
-        <translation type="unfinished"></translation>
+        <translation>Container und Images</translation>
     </message>
     <message>
         <source>Images, containers and volumes that Docker and Podman keep. “docker system prune” and “podman system prune” remove what no container uses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Images, Container und Volumes von Docker und Podman. „docker system prune“ und „podman system prune“ entfernen, was kein Container verwendet.</translation>
     </message>
     <message>
         <source>Virtual machines</source>
-        <translation type="unfinished"></translation>
+        <translation>Virtuelle Maschinen</translation>
     </message>
     <message>
         <source>Disk images of virtual machines, kept by the program that made them. Delete a machine there, or with “virsh undefine --remove-all-storage”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Festplattenabbilder virtueller Maschinen, verwaltet von dem Programm, das sie angelegt hat. Löschen Sie eine Maschine dort oder mit „virsh undefine --remove-all-storage“.</translation>
     </message>
     <message>
         <source>Game libraries</source>
-        <translation type="unfinished"></translation>
+        <translation>Spielebibliotheken</translation>
     </message>
     <message>
         <source>Games, kept by Steam and other launchers. Uninstall a game in its launcher.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spiele, die Steam und andere Launcher verwalten. Deinstallieren Sie ein Spiel in seinem Launcher.</translation>
     </message>
     <message>
         <source>App data</source>
-        <translation type="unfinished"></translation>
+        <translation>App-Daten</translation>
     </message>
     <message>
         <source>Databases and files that apps keep for you, and your Trash. Remove an app&apos;s data from within the app, or after uninstalling it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenbanken und Dateien, die Apps für Sie verwalten, sowie Ihr Papierkorb. Entfernen Sie die Daten einer App in der App selbst oder nach der Deinstallation.</translation>
     </message>
     <message>
         <source>Settings of your apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen Ihrer Apps</translation>
     </message>
     <message>
         <source>Settings that apps keep for you; some keep profiles and caches beside them. An app without its settings starts afresh.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen, die Apps für Sie speichern; manche legen dort auch Profile und Caches ab. Ohne ihre Einstellungen startet eine App wie neu installiert.</translation>
     </message>
     <message>
         <source>System journal</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemjournal</translation>
     </message>
     <message>
         <source>The log of the system and its services, which journald keeps within a limit. “journalctl --vacuum-size=200M” trims it at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Protokoll des Systems und seiner Dienste, dessen Größe journald begrenzt. „journalctl --vacuum-size=200M“ verkleinert es sofort.</translation>
     </message>
     <message>
         <source>System logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemprotokolle</translation>
     </message>
     <message>
         <source>Log files of services and of the package manager. logrotate compresses and deletes old ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokolldateien von Diensten und der Paketverwaltung. Ältere werden von logrotate komprimiert und gelöscht.</translation>
     </message>
     <message>
         <source>Crash dumps</source>
-        <translation type="unfinished"></translation>
+        <translation>Absturzabbilder</translation>
     </message>
     <message>
         <source>What was in the memory of programs that crashed, kept for reports. The system deletes old ones; “coredumpctl” lists them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Speicherinhalt abgestürzter Programme, aufbewahrt für Fehlerberichte. Ältere löscht das System; „coredumpctl“ listet sie auf.</translation>
     </message>
     <message>
         <source>Package downloads</source>
-        <translation type="unfinished"></translation>
+        <translation>Geladene Pakete</translation>
     </message>
     <message>
         <source>Packages that the package manager downloaded and has installed since. “apt-get clean”, “dnf clean packages”, “pacman -Sc” or “zypper clean” removes them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakete, die die Paketverwaltung geladen und bereits installiert hat. „apt-get clean“, „dnf clean packages“, „pacman -Sc“ oder „zypper clean“ entfernt sie.</translation>
     </message>
     <message>
         <source>Snap packages and old revisions</source>
-        <translation type="unfinished"></translation>
+        <translation>Snap-Pakete und alte Revisionen</translation>
     </message>
     <message>
         <source>Snap packages, with earlier revisions that snapd keeps to go back to. “snap set system refresh.retain=2” keeps fewer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Snap-Pakete samt früheren Revisionen, die snapd für eine Rückkehr vorhält. Mit „snap set system refresh.retain=2“ werden es weniger.</translation>
     </message>
     <message>
         <source>Flatpak apps and runtimes of the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Flatpak-Apps und Laufzeitumgebungen des Systems</translation>
     </message>
     <message>
         <source>Apps that Flatpak installed for all users, and the runtimes that they need. “flatpak uninstall --unused” removes runtimes that no app needs any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Apps, die Flatpak für alle Benutzer installiert hat, und die dafür nötigen Laufzeitumgebungen. „flatpak uninstall --unused“ entfernt Laufzeitumgebungen, die keine App mehr braucht.</translation>
     </message>
     <message>
         <source>Kernels and their modules</source>
-        <translation type="unfinished"></translation>
+        <translation>Kernel und ihre Module</translation>
     </message>
     <message>
         <source>The kernels that the system can start, with their drivers. The package manager keeps the newest; “apt-get autoremove” removes older ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kernel, mit denen das System starten kann, samt ihren Treibern. Die Paketverwaltung behält die neuesten; „apt-get autoremove“ entfernt ältere.</translation>
     </message>
     <message>
         <source>Swap and hibernation files</source>
-        <translation type="unfinished"></translation>
+        <translation>Auslagerungs- und Ruhezustandsdateien</translation>
     </message>
     <message>
         <source>Room on the disk for what doesn&apos;t fit into memory, and for memory itself during hibernation. The system&apos;s settings fix its size; “swapon --show” lists it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz auf dem Laufwerk für alles, was nicht in den Arbeitsspeicher passt, und im Ruhezustand für den Arbeitsspeicher selbst. Die Größe legen die Systemeinstellungen fest; „swapon --show“ zeigt sie an.</translation>
     </message>
     <message>
         <source>System snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>System-Snapshots</translation>
     </message>
     <message>
         <source>Earlier states of the system, which Timeshift or Snapper keeps. They share what didn&apos;t change, so they have no size of their own; “timeshift --delete” or “snapper delete” removes one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Frühere Systemzustände, die Timeshift oder Snapper aufbewahrt. Unverändertes teilen sie sich, daher haben sie keine eigene Größe; „timeshift --delete“ oder „snapper delete“ entfernt einen davon.</translation>
     </message>
     <message>
         <source>Time Machine local snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokale Time Machine-Snapshots</translation>
     </message>
     <message>
         <source>Hourly snapshots macOS keeps on this disk until Time Machine can reach its backup drive. macOS frees them when space runs low; removing them now is safe, but you lose those restore points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stündliche Snapshots, die macOS auf diesem Laufwerk aufbewahrt, bis Time Machine das Backup-Volume erreicht. Bei Platzmangel gibt macOS sie frei; Sie können sie gefahrlos schon jetzt entfernen, verlieren aber diese Wiederherstellungspunkte.</translation>
     </message>
     <message>
         <source>iPhone &amp; iPad backups</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone- &amp; iPad-Backups</translation>
     </message>
     <message>
         <source>Device backups made by Finder. Delete old ones from Finder (General → Manage Backups) once a newer or iCloud backup exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerätebackups, die der Finder erstellt hat. Löschen Sie ältere im Finder (Allgemein → Backups verwalten), sobald es ein neueres oder ein iCloud-Backup gibt.</translation>
     </message>
     <message>
         <source>Xcode device support</source>
-        <translation type="unfinished"></translation>
+        <translation>Xcode-Geräteunterstützung</translation>
     </message>
     <message>
         <source>Debug symbols Xcode copies from every iOS, watchOS and tvOS version you&apos;ve connected. Xcode copies them again the next time you connect that device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Debug-Symbole, die Xcode von jeder verbundenen iOS-, watchOS- und tvOS-Version kopiert. Xcode kopiert sie erneut, wenn Sie das Gerät wieder verbinden.</translation>
     </message>
     <message>
         <source>iOS Simulator devices</source>
-        <translation type="unfinished"></translation>
+        <translation>iOS-Simulatorgeräte</translation>
     </message>
     <message>
         <source>Simulator devices and their app data. Removing unavailable devices (for runtimes you no longer have) is safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Simulatorgeräte und ihre App-Daten. Nicht verfügbare Geräte (deren Laufzeitumgebung fehlt) können gefahrlos entfernt werden.</translation>
     </message>
     <message>
         <source>Simulator runtimes &amp; caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Simulator-Laufzeitumgebungen &amp; Caches</translation>
     </message>
     <message>
         <source>iOS, watchOS and visionOS simulator runtimes Xcode downloaded, plus their shared caches. Remove runtimes you don&apos;t use in Xcode › Settings › Components.</source>
-        <translation type="unfinished"></translation>
+        <translation>Simulator-Laufzeitumgebungen für iOS, watchOS und visionOS, die Xcode geladen hat, samt gemeinsamen Caches. Nicht benötigte entfernen Sie in Xcode › Settings › Components.</translation>
     </message>
     <message>
         <source>Caches apps keep in your Library folder. The safe ones can be cleaned from Cleanup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches, die Apps in Ihrem Ordner „Library“ ablegen. Die sicheren lassen sich unter „Bereinigung“ entfernen.</translation>
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .cache, .npm and .nvm. Caches are safe to clear; keep tool installs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches, Einstellungen und Installationen, die Entwicklerwerkzeuge und Apps in verborgenen Ordnern wie .cache, .npm und .nvm ablegen. Caches können gefahrlos geleert werden; installierte Werkzeuge sollten Sie behalten.</translation>
     </message>
     <message>
         <source>Xcode archives</source>
-        <translation type="unfinished"></translation>
+        <translation>Xcode-Archive</translation>
     </message>
     <message>
         <source>Builds you archived for distribution. Keep the ones you may need to symbolicate crash reports for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Builds, die Sie für die Verteilung archiviert haben. Behalten Sie solche, die Sie noch zum Symbolisieren von Absturzberichten brauchen.</translation>
     </message>
     <message>
         <source>Docker disk image</source>
-        <translation type="unfinished"></translation>
+        <translation>Docker-Disk-Image</translation>
     </message>
     <message>
         <source>The virtual disk holding Docker&apos;s images and containers. Shrink it with “docker system prune” or Docker Desktop&apos;s settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das virtuelle Laufwerk mit den Images und Containern von Docker. Verkleinern Sie es mit „docker system prune“ oder in den Einstellungen von Docker Desktop.</translation>
     </message>
     <message>
         <source>Mail attachments</source>
-        <translation type="unfinished"></translation>
+        <translation>Mail-Anhänge</translation>
     </message>
     <message>
         <source>Attachments Mail saved after you opened them. The originals stay in your mailbox.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhänge, die Mail nach dem Öffnen gesichert hat. Die Originale bleiben in Ihrem Postfach.</translation>
     </message>
     <message>
         <source>Messages attachments</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachrichten-Anhänge</translation>
     </message>
     <message>
         <source>Photos, videos and files from your conversations. Remove large ones from Messages (Settings → General → Storage) to keep chats consistent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos, Videos und Dateien aus Ihren Konversationen. Entfernen Sie große Anhänge in „Nachrichten“ (Einstellungen → Allgemein → Speicher), damit die Chats konsistent bleiben.</translation>
     </message>
     <message>
         <source>System caches</source>
-        <translation type="unfinished"></translation>
+        <translation>System-Caches</translation>
     </message>
     <message>
         <source>Caches shared by all users and system services. macOS trims these itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches, die sich alle Benutzer und Systemdienste teilen. macOS verkleinert sie selbst.</translation>
     </message>
     <message>
         <source>System logs &amp; diagnostics</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemprotokolle &amp; Diagnose</translation>
     </message>
     <message>
         <source>Unified logs and diagnostic reports. macOS rotates and deletes them automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemweite Protokolle und Diagnoseberichte. macOS rotiert und löscht sie automatisch.</translation>
     </message>
     <message>
         <source>Virtual memory &amp; sleep image</source>
-        <translation type="unfinished"></translation>
+        <translation>Virtueller Speicher &amp; Ruhezustand</translation>
     </message>
     <message>
         <source>Swap files and the hibernation image. They grow and shrink with memory use and reset when you restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auslagerungsdateien und das Ruhezustandsabbild. Sie wachsen und schrumpfen mit der Speichernutzung und werden beim Neustart zurückgesetzt.</translation>
     </message>
     <message>
         <source>macOS assets &amp; updates</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS-Ressourcen &amp; Updates</translation>
     </message>
     <message>
         <source>Downloaded system assets (fonts, dictionaries, language and AI models) and staged software updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geladene Systemressourcen (Schriften, Wörterbücher, Sprach- und KI-Modelle) und vorbereitete Softwareupdates.</translation>
     </message>
     <message>
         <source>Other Library data</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Library-Daten</translation>
     </message>
     <message>
         <source>Everything else in your Library folder: preferences, keychains, logs, and data for system services.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles Übrige in Ihrem Ordner „Library“: Einstellungen, Schlüsselbunde, Protokolle und Daten von Systemdiensten.</translation>
     </message>
     <message>
         <source>System databases &amp; temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemdatenbanken &amp; temporäre Dateien</translation>
     </message>
     <message>
         <source>Databases and per-app temporary folders used by macOS services. macOS manages these.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenbanken und App-eigene temporäre Ordner, die macOS-Dienste verwenden. macOS verwaltet sie.</translation>
     </message>
     <message>
         <source>App data &amp; containers</source>
-        <translation type="unfinished"></translation>
+        <translation>App-Daten &amp; Container</translation>
     </message>
     <message>
         <source>Settings, databases and files apps keep for you. Remove an app&apos;s data by uninstalling the app or from within the app.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen, Datenbanken und Dateien, die Apps für Sie verwalten. Entfernen Sie die Daten einer App in der App selbst oder durch Deinstallieren der App.</translation>
     </message>
     <message>
         <source>1 snapshot</source>
@@ -2069,11 +2069,11 @@
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Leseberechtigung</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>mindestens %1</translation>
     </message>
     <message>
         <source>1 device</source>
@@ -2088,254 +2088,254 @@
     <name>SystemDataPage</name>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemdaten</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu scannen</translation>
     </message>
     <message>
         <source>See what&apos;s inside System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Sehen Sie, was in den Systemdaten steckt</translation>
     </message>
     <message>
         <source>Snapshots, backups, developer files, caches and more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Snapshots, Backups, Entwicklerdateien, Caches und mehr.</translation>
     </message>
     <message>
         <source>Scan System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemdaten scannen</translation>
     </message>
     <message>
         <source>measured in System Data · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; you can act on</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemdaten gemessen · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; können Sie freigeben</translation>
     </message>
     <message>
         <source>Working…</source>
-        <translation type="unfinished"></translation>
+        <translation>In Arbeit&#xa0;…</translation>
     </message>
     <message>
         <source>Updating…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisieren&#xa0;…</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>You can reclaim</source>
-        <translation type="unfinished"></translation>
+        <translation>Das können Sie freigeben</translation>
     </message>
     <message>
         <source>Measuring System Data…</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemdaten werden gemessen&#xa0;…</translation>
     </message>
     <message>
         <source>measured</source>
-        <translation type="unfinished"></translation>
+        <translation>gemessen</translation>
     </message>
     <message>
         <source>macOS will remove its local Time Machine snapshots on this disk. Your Time Machine backups on other drives aren&apos;t affected. macOS will ask for your administrator password.</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS entfernt seine lokalen Time Machine-Snapshots auf diesem Laufwerk. Ihre Time Machine-Backups auf anderen Laufwerken sind davon nicht betroffen. macOS fragt nach Ihrem Administratorpasswort.</translation>
     </message>
     <message>
         <source>Simulator devices whose iOS runtime is no longer installed will be deleted, with their apps and data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Simulatorgeräte, deren iOS-Laufzeitumgebung nicht mehr installiert ist, werden samt ihren Apps und Daten gelöscht.</translation>
     </message>
     <message>
         <source>%1 will be moved to the Trash. Xcode recreates it when you connect a device again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 werden in den Papierkorb gelegt. Xcode legt die Daten neu an, wenn Sie wieder ein Gerät verbinden.</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Festplattenvollzugriff</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Leseberechtigung</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>mindestens %1</translation>
     </message>
     <message>
         <source>Largest: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Am größten: %1</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
-        <translation type="unfinished"></translation>
+        <translation>Von macOS verwaltet</translation>
     </message>
     <message>
         <source>Managed by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom System verwaltet</translation>
     </message>
     <message>
         <source>Only what you may read is counted. Folders that belong to the system or to other users are left out, and folders shared by several rows are counted once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezählt wird nur, was Sie lesen dürfen. Ordner, die dem System oder anderen Benutzern gehören, bleiben außen vor, und Ordner, die zu mehreren Zeilen gehören, werden nur einmal gezählt.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Why Storage settings shows a bigger number&lt;/b&gt;&lt;br&gt;macOS works out System Data as whatever is left on the disk after Apps, Documents, Photos and its other categories. That remainder also includes things no app can measure: the Spotlight index, APFS snapshots, purgeable space and root-only system files. Without Full Disk Access, Tarnwick also can&apos;t see protected folders, so its total is lower than what macOS reports.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Warum die Speichereinstellungen einen höheren Wert zeigen&lt;/b&gt;&lt;br&gt;Für macOS sind Systemdaten alles, was nach Abzug von Apps, Dokumenten, Fotos und den anderen Kategorien auf dem Laufwerk übrig bleibt. In diesem Rest steckt auch, was keine App messen kann: der Spotlight-Index, APFS-Snapshots, löschbarer Speicherplatz und Systemdateien, die nur root lesen darf. Ohne Festplattenvollzugriff sieht Tarnwick außerdem keine geschützten Ordner. Die Summe liegt daher unter dem Wert, den macOS angibt.</translation>
     </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menü</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimieren</translation>
     </message>
     <message>
         <source>Maximize</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximieren</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>Tray</name>
     <message>
         <source>Open Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick öffnen</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Smart Scan</translation>
     </message>
     <message>
         <source>Find Large Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Große Dateien suchen</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Check for Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Updates suchen</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick beenden</translation>
     </message>
     <message>
         <source>%1 · %2 free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 frei</translation>
     </message>
 </context>
 <context>
     <name>Updater</name>
     <message>
         <source>Could not open the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update konnte nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>The server took too long to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat zu lange nicht geantwortet.</translation>
     </message>
     <message>
         <source>The update information could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Update-Informationen konnten nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The server redirected to an address that is not safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat auf eine unsichere Adresse umgeleitet.</translation>
     </message>
     <message>
         <source>Too many redirects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu viele Umleitungen.</translation>
     </message>
     <message>
         <source>The update is not on Tarnwick&apos;s server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update liegt nicht auf dem Server von Tarnwick.</translation>
     </message>
     <message>
         <source>The update has an unexpected size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update hat eine unerwartete Größe.</translation>
     </message>
     <message>
         <source>Could not save the update: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update konnte nicht gesichert werden: %1</translation>
     </message>
     <message>
         <source>The update could not be downloaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update konnte nicht geladen werden: %1</translation>
     </message>
     <message>
         <source>Could not read the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update konnte nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The update does not match the published checksum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update stimmt nicht mit der veröffentlichten Prüfsumme überein.</translation>
     </message>
     <message>
         <source>The update is not signed by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update ist nicht von %1 signiert.</translation>
     </message>
 </context>
 <context>
     <name>fmt</name>
     <message>
         <source>TB</source>
-        <translation type="unfinished"></translation>
+        <translation>TB</translation>
     </message>
     <message>
         <source>GB</source>
-        <translation type="unfinished"></translation>
+        <translation>GB</translation>
     </message>
     <message>
         <source>MB</source>
-        <translation type="unfinished"></translation>
+        <translation>MB</translation>
     </message>
     <message>
         <source>KB</source>
-        <translation type="unfinished"></translation>
+        <translation>KB</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Heute</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestern</translation>
     </message>
     <message numerus="yes">
         <source>%n day(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Vor %n Tag</numerusform>
+            <numerusform>Vor %n Tagen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n week(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Vor %n Woche</numerusform>
+            <numerusform>Vor %n Wochen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n month(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Vor %n Monat</numerusform>
+            <numerusform>Vor %n Monaten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n year(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Vor %n Jahr</numerusform>
+            <numerusform>Vor %n Jahren</numerusform>
         </translation>
     </message>
 </context>
