@@ -5,18 +5,18 @@
     <name>AppGuard</name>
     <message>
         <source>Password managers, input methods, security and device-management agents, VPNs</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestionnaires de mots de passe, méthodes de saisie, agents de sécurité et de gestion d’appareils, VPN</translation>
     </message>
 </context>
 <context>
     <name>AppState</name>
     <message>
         <source>The settings can&apos;t be read, so the rules on what to keep are unknown. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les réglages sont illisibles&#xa0;: les règles d’exclusion sont donc inconnues. Rien n’a été nettoyé.</translation>
     </message>
     <message>
         <source>The settings have lost rules on what to keep. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des règles d’exclusion ont disparu des réglages. Rien n’a été nettoyé.</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>%1 (%2) moved to the %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Mis à la %3&#xa0;: %1 (%2)</translation>
     </message>
     <message>
         <source> · %1 in use, skipped</source>
@@ -36,155 +36,155 @@
     </message>
     <message numerus="yes">
         <source>Restored %Ln file(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln fichier restauré</numerusform>
+            <numerusform>%Ln fichiers restaurés</numerusform>
         </translation>
     </message>
     <message>
         <source>The settings can&apos;t be read, so the rules on what to keep are unknown. Nothing was moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les réglages sont illisibles&#xa0;: les règles d’exclusion sont donc inconnues. Rien n’a été déplacé.</translation>
     </message>
 </context>
 <context>
     <name>Categories</name>
     <message>
         <source>Temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers temporaires</translation>
     </message>
     <message>
         <source>Scratch files that apps and the system create while working. They are not needed once the app closes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers de travail créés par les apps et le système. Ils ne servent plus une fois l’app fermée.</translation>
     </message>
     <message>
         <source>App caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches des apps</translation>
     </message>
     <message>
         <source>Data apps keep to load faster. Apps rebuild these automatically the next time they need them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Données que les apps conservent pour s’ouvrir plus vite. Elles les recréent d’elles-mêmes dès qu’elles en ont besoin.</translation>
     </message>
     <message>
         <source>Browser caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches de navigation</translation>
     </message>
     <message>
         <source>Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Images, scripts et pages en cache. Vos connexions, votre historique, vos signets et vos mots de passe restent intacts.</translation>
     </message>
     <message>
         <source>Logs &amp; crash reports</source>
-        <translation type="unfinished"></translation>
+        <translation>Journaux et plantages</translation>
     </message>
     <message>
         <source>Diagnostic logs and crash reports. Useful only when troubleshooting a recent problem.</source>
-        <translation type="unfinished"></translation>
+        <translation>Journaux de diagnostic et rapports de plantage. Utiles seulement pour résoudre un problème récent.</translation>
     </message>
     <message>
         <source>Preview images of your files. They are regenerated the next time you open a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçus de vos fichiers. Ils sont recréés à la prochaine ouverture d’un dossier.</translation>
     </message>
     <message>
         <source>Old installers</source>
-        <translation type="unfinished"></translation>
+        <translation>Anciens installateurs</translation>
     </message>
     <message>
         <source>Developer caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches développeur</translation>
     </message>
     <message>
         <source>Package manager caches and build output. Removing them is safe, but the next build or install will be slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches des gestionnaires de paquets et résultats de compilation. Vous pouvez les supprimer sans risque, mais la prochaine compilation ou installation sera plus lente.</translation>
     </message>
     <message>
         <source>Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Corbeille</translation>
     </message>
     <message>
         <source>Items you have already deleted. Emptying cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Éléments que vous avez déjà supprimés. Vider la Corbeille est irréversible.</translation>
     </message>
     <message>
         <source>QuickLook cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Cache Coup d’œil</translation>
     </message>
     <message>
         <source>Thumbnail cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Cache de vignettes</translation>
     </message>
     <message>
         <source>Disk images and installer packages in your Downloads folder. Review in case you still need an installer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Images disque et paquets d’installation de votre dossier Téléchargements. Vérifiez que vous n’en avez plus besoin.</translation>
     </message>
     <message>
         <source>Software packages and disc images in your Downloads folder. Review in case you still need one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquets logiciels et images disque de votre dossier Téléchargements. Vérifiez que vous n’en avez plus besoin.</translation>
     </message>
     <message>
         <source>Safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Sûr</translation>
     </message>
     <message>
         <source>Review</source>
-        <translation type="unfinished"></translation>
+        <translation>À vérifier</translation>
     </message>
     <message>
         <source>Permanent</source>
-        <translation type="unfinished"></translation>
+        <translation>Définitif</translation>
     </message>
     <message>
         <source>Thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>Vignettes</translation>
     </message>
     <message>
         <source>QuickLook thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>Vignettes Coup d’œil</translation>
     </message>
     <message>
         <source>Simulator caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches du simulateur</translation>
     </message>
 </context>
 <context>
     <name>Cleaner</name>
     <message>
         <source>delete permanently</source>
-        <translation type="unfinished"></translation>
+        <translation>supprimer définitivement</translation>
     </message>
     <message>
         <source>The home folder belongs to another user. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier personnel appartient à un autre utilisateur. Rien n’a été nettoyé.</translation>
     </message>
     <message>
         <source>Another cleanup is already running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre nettoyage est déjà en cours.</translation>
     </message>
     <message>
         <source>There is no telling whether another cleanup is running. Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de savoir si un autre nettoyage est en cours. Rien n’a été nettoyé.</translation>
     </message>
 </context>
 <context>
     <name>CleanupPage</name>
     <message>
         <source>SAFE TO CLEAN</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyage sans risque</translation>
     </message>
     <message>
         <source>REVIEW BEFORE CLEANING</source>
-        <translation type="unfinished"></translation>
+        <translation>À vérifier avant nettoyage</translation>
     </message>
     <message>
         <source>CANNOT BE UNDONE</source>
-        <translation type="unfinished"></translation>
+        <translation>Irréversible</translation>
     </message>
     <message>
         <source>Details shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Détails affichés</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
     <message>
         <source>%1 items</source>
@@ -192,19 +192,19 @@
     </message>
     <message>
         <source>%1 is running</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisé par %1</translation>
     </message>
     <message>
         <source>Nothing left to clean. Rescan any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a plus rien à nettoyer. Relancez l’analyse quand vous voulez.</translation>
     </message>
     <message>
         <source>Largest items</source>
-        <translation type="unfinished"></translation>
+        <translation>Les plus gros</translation>
     </message>
     <message>
         <source>Show in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir dans %1</translation>
     </message>
     <message>
         <source>Show %1 more</source>
@@ -216,345 +216,345 @@
     </message>
     <message numerus="yes">
         <source>&lt;b&gt;%Ln file(s) skipped&lt;/b&gt; because they were in use or protected. Quit the apps using them and rescan to remove them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&lt;b&gt;%Ln fichier ignoré&lt;/b&gt;, car en cours d’utilisation ou protégé. Quittez l’app qui l’utilise et relancez l’analyse pour le supprimer.</numerusform>
+            <numerusform>&lt;b&gt;%Ln fichiers ignorés&lt;/b&gt;, car en cours d’utilisation ou protégés. Quittez les apps qui les utilisent et relancez l’analyse pour les supprimer.</numerusform>
         </translation>
     </message>
     <message>
         <source>For example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Par exemple&#xa0;: %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Left caches of running apps alone:&lt;/b&gt; %1. Quit them and clean again to include them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Caches d’apps en cours d’exécution laissés de côté&#xa0;:&lt;/b&gt; %1. Quittez ces apps et relancez le nettoyage pour les inclure.</translation>
     </message>
     <message>
         <source>Cleanup complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyage terminé</translation>
     </message>
     <message>
         <source>Available before</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible avant</translation>
     </message>
     <message>
         <source>Available now</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible maintenant</translation>
     </message>
     <message>
         <source>View log</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir le journal</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé</translation>
     </message>
     <message>
         <source>Moved to the %1. You can still restore anything.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout a été mis à la %1. Vous pouvez encore restaurer ce que vous voulez.</translation>
     </message>
     <message>
         <source>Items were deleted permanently.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les éléments ont été supprimés définitivement.</translation>
     </message>
     <message>
         <source>Restart as admin</source>
-        <translation type="unfinished"></translation>
+        <translation>Relancer comme admin</translation>
     </message>
     <message>
         <source>Some folders need Full Disk Access.</source>
-        <translation type="unfinished"></translation>
+        <translation>Certains dossiers nécessitent l’accès complet au disque.</translation>
     </message>
     <message>
         <source>Some folders may need Full Disk Access.</source>
-        <translation type="unfinished"></translation>
+        <translation>Certains dossiers peuvent nécessiter l’accès complet au disque.</translation>
     </message>
     <message>
         <source>Open System Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir Réglages Système</translation>
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Certains fichiers appartiennent au système et ont été laissés de côté.</translation>
     </message>
     <message>
         <source>These files need administrator rights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces fichiers nécessitent des droits d’administrateur.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Some files need administrator rights.&lt;/b&gt; Restart Tarnwick as administrator and clean again to remove them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Certains fichiers nécessitent des droits d’administrateur.&lt;/b&gt; Relancez Tarnwick en tant qu’administrateur, puis le nettoyage, pour les supprimer.</translation>
     </message>
     <message>
         <source>You have no permission to read some of these folders.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous n’êtes pas autorisé à lire certains de ces dossiers.</translation>
     </message>
     <message>
         <source>%1 is open. Quit it to include its cache.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est en cours d’exécution. Quittez cette app pour inclure son cache.</translation>
     </message>
     <message>
         <source>%1 are open. Quit them to include their caches.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sont en cours d’exécution. Quittez ces apps pour inclure leurs caches.</translation>
     </message>
     <message>
         <source>Nothing scanned yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a encore été analysé</translation>
     </message>
     <message>
         <source>Find caches, temporary files and leftovers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouvez les caches, les fichiers temporaires et les restes inutiles.</translation>
     </message>
     <message>
         <source>Start Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer l’analyse intelligente</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyage</translation>
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyage</translation>
     </message>
     <message>
         <source>In progress</source>
-        <translation type="unfinished"></translation>
+        <translation>En cours</translation>
     </message>
     <message>
         <source>of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>sur %1</translation>
     </message>
     <message>
         <source>Select recommended</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélection recommandée</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Réanalyser</translation>
     </message>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélection</translation>
     </message>
     <message>
         <source>Show the rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir les règles</translation>
     </message>
     <message>
         <source>%1 can be cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à nettoyer</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected%3</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélection&#xa0;: &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt;%3</translation>
     </message>
     <message>
         <source> · some need admin</source>
-        <translation type="unfinished"></translation>
+        <translation> · droits d’admin requis</translation>
     </message>
     <message>
         <source>moved to the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>mise à la %1</translation>
     </message>
     <message>
         <source>deleted permanently</source>
-        <translation type="unfinished"></translation>
+        <translation>suppression définitive</translation>
     </message>
     <message>
         <source>Clean %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Rules on what to keep have gone from the settings.&lt;/b&gt; Nothing is cleaned until you have looked at them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Des règles d’exclusion ont disparu des réglages.&lt;/b&gt; Rien ne sera nettoyé tant que vous ne les aurez pas vérifiées.</translation>
     </message>
     <message>
         <source>&lt;b&gt;The settings can&apos;t be read.&lt;/b&gt; Nothing is cleaned until you have looked at the rules on what to keep.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Les réglages sont illisibles.&lt;/b&gt; Rien ne sera nettoyé tant que vous n’aurez pas vérifié les règles d’exclusion.</translation>
     </message>
     <message>
         <source>Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse</translation>
     </message>
     <message>
         <source>Items checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Éléments examinés</translation>
     </message>
     <message>
         <source>Elapsed</source>
-        <translation type="unfinished"></translation>
+        <translation>Écoulé</translation>
     </message>
     <message>
         <source>Remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Restant</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter</translation>
     </message>
     <message>
         <source>found</source>
-        <translation type="unfinished"></translation>
+        <translation>trouvés</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Accès complet requis</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture refusée</translation>
     </message>
 </context>
 <context>
     <name>Cli</name>
     <message>
         <source>Measures what could be cleaned, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesure ce qui pourrait être nettoyé, sans rien modifier.</translation>
     </message>
     <message>
         <source>Scans, shows what would go, asks, and cleans it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse, montre ce qui partirait, demande confirmation, puis nettoie.</translation>
     </message>
     <message>
         <source>Searches the home folder for large files, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche les gros fichiers du dossier personnel, sans rien modifier.</translation>
     </message>
     <message>
         <source>Measures what makes up the system&apos;s share of the disk, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesure ce qui compose la part du système sur le disque, sans rien modifier.</translation>
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
-        <translation type="unfinished"></translation>
+        <translation>n’examiner que ces catégories&#xa0;; le nettoyage les prend alors toutes, même celles qui ne sont jamais nettoyées sans être demandées</translation>
     </message>
     <message>
         <source>never touch what this rule names, beside the rules in the settings; repeatable</source>
-        <translation type="unfinished"></translation>
+        <translation>ne jamais toucher à ce que désigne cette règle, en plus des règles enregistrées dans les réglages&#xa0;; option répétable</translation>
     </message>
     <message>
         <source>delete for good, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>supprimer définitivement, quels que soient les réglages</translation>
     </message>
     <message>
         <source>move to the Trash, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>mettre à la Corbeille, quels que soient les réglages</translation>
     </message>
     <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
-        <translation type="unfinished"></translation>
+        <translation>ne toucher à rien&#xa0;; lister ce qui partirait, ce qui resterait et pourquoi</translation>
     </message>
     <message>
         <source>don&apos;t ask</source>
-        <translation type="unfinished"></translation>
+        <translation>ne pas demander de confirmation</translation>
     </message>
     <message>
         <source>look for files that take at least so many megabytes on the disk, whatever the settings say</source>
-        <translation type="unfinished"></translation>
+        <translation>chercher les fichiers qui occupent au moins ce nombre de mégaoctets sur le disque, quels que soient les réglages</translation>
     </message>
     <message>
         <source>one JSON object on standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>un seul objet JSON sur la sortie standard</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 et %2</translation>
     </message>
     <message>
         <source>show this help</source>
-        <translation type="unfinished"></translation>
+        <translation>afficher cette aide</translation>
     </message>
     <message>
         <source>show the version</source>
-        <translation type="unfinished"></translation>
+        <translation>afficher la version</translation>
     </message>
     <message>
         <source>Usage: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisation&#xa0;: %1</translation>
     </message>
     <message>
         <source>Commands:</source>
-        <translation type="unfinished"></translation>
+        <translation>Commandes&#xa0;:</translation>
     </message>
     <message>
         <source>Options:</source>
-        <translation type="unfinished"></translation>
+        <translation>Options&#xa0;:</translation>
     </message>
     <message>
         <source>Say &quot;%1&quot; to learn about one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tapez «&#xa0;%1&#xa0;» pour en savoir plus sur une commande.</translation>
     </message>
     <message>
         <source>Categories: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégories&#xa0;: %1</translation>
     </message>
     <message>
         <source>there is no option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>l’option %1 n’existe pas</translation>
     </message>
     <message>
         <source>there is no command %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>la commande %1 n’existe pas&#xa0;; commandes possibles&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 is one word too many</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est de trop</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no --%2</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’accepte pas l’option --%2</translation>
     </message>
     <message>
         <source>--delete and --trash exclude each other</source>
-        <translation type="unfinished"></translation>
+        <translation>--delete et --trash s’excluent mutuellement</translation>
     </message>
     <message>
         <source>--only wants ids of categories: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>--only attend des identifiants de catégories&#xa0;: %1</translation>
     </message>
     <message>
         <source>there is no category %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>la catégorie %1 n’existe pas&#xa0;; catégories possibles&#xa0;: %2</translation>
     </message>
     <message>
         <source>--exclude wants a rule</source>
-        <translation type="unfinished"></translation>
+        <translation>--exclude attend une règle</translation>
     </message>
     <message>
         <source>the rule %1 matches nothing: a path begins with / or ~/ and lies below /, a name has no slash</source>
-        <translation type="unfinished"></translation>
+        <translation>la règle %1 ne correspond à rien&#xa0;: un chemin commence par / ou ~/ et se trouve sous /, un nom ne contient pas de barre oblique</translation>
     </message>
     <message>
         <source>--min-mb wants a number of megabytes, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>--min-mb attend un nombre de mégaoctets, pas %1</translation>
     </message>
     <message>
         <source>Nothing was cleaned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été nettoyé.</translation>
     </message>
     <message>
         <source>Look at the rules in the settings of Tarnwick; or mend %1, or remove it together with %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifiez les règles dans les réglages de Tarnwick&#xa0;; sinon, réparez %1, ou supprimez ce fichier en même temps que %2.</translation>
     </message>
     <message>
         <source>the scan was cancelled, and nothing was cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>l’analyse a été annulée, et rien n’a été nettoyé</translation>
     </message>
     <message>
         <source>there is no terminal to ask on, so nothing is cleaned without --yes</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun terminal où demander confirmation&#xa0;: rien n’est nettoyé sans --yes</translation>
     </message>
     <message>
         <source>the search was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>la recherche a été annulée</translation>
     </message>
     <message>
         <source>the output could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’écrire la sortie&#xa0;: %1</translation>
     </message>
     <message>
         <source>Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse</translation>
     </message>
     <message>
         <source>%1 files</source>
@@ -562,11 +562,11 @@
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyage</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>%1 of %2 files</source>
@@ -574,19 +574,19 @@
     </message>
     <message>
         <source>Searching</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche</translation>
     </message>
     <message>
         <source>the scan was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>l’analyse a été annulée</translation>
     </message>
     <message>
         <source>cancelling…</source>
-        <translation type="unfinished"></translation>
+        <translation>annulation…</translation>
     </message>
     <message>
         <source>finishing this item, then stopping…</source>
-        <translation type="unfinished"></translation>
+        <translation>fin de l’élément en cours, puis arrêt…</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -594,127 +594,127 @@
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Not everything could be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout n’a pas pu être lu&#xa0;: %1.</translation>
     </message>
     <message>
         <source>the measuring was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>la mesure a été annulée</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers</translation>
     </message>
     <message>
         <source>Rating</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>%1 of it is safe to clean: tarnwick-cli clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Dont %1 à nettoyer sans risque&#xa0;: tarnwick-cli clean</translation>
     </message>
     <message>
         <source>%1 is running, so %2 of its data will stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est en cours d’exécution&#xa0;: une partie de ses données (%2) restera en place.</translation>
     </message>
     <message>
         <source>Left alone unless you name it: %1. To clean it: --only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Laissé de côté sauf demande expresse&#xa0;: %1. Pour le nettoyer&#xa0;: --only %2</translation>
     </message>
     <message>
         <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une partie (%1) se trouve sur un volume sans Corbeille et restera en place, sauf avec --delete.</translation>
     </message>
     <message>
         <source>deleted for good</source>
-        <translation type="unfinished"></translation>
+        <translation>suppression définitive</translation>
     </message>
     <message>
         <source>moved to the Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>mise à la Corbeille</translation>
     </message>
     <message>
         <source>Skipped, %1 in all; the log tells why:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorés, %1 en tout&#xa0;; le journal dit pourquoi&#xa0;:</translation>
     </message>
     <message>
         <source>Left alone, because they are running: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Laissées de côté, car en cours d’exécution&#xa0;: %1.</translation>
     </message>
     <message>
         <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été mis à la Corbeille occupe de la place tant que vous ne la videz pas.</translation>
     </message>
     <message>
         <source>Scanned in %1. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse effectuée en %1. Rien n’a été modifié.</translation>
     </message>
     <message>
         <source>There is nothing to clean.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien à nettoyer.</translation>
     </message>
     <message>
         <source>Delete %1 for good?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer définitivement %1&#xa0;?</translation>
     </message>
     <message>
         <source>Move %2 to the Trash?</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre %2 à la Corbeille&#xa0;?</translation>
     </message>
     <message>
         <source>Delete %1 for good and move %2 to the Trash?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer définitivement %1 et mettre %2 à la Corbeille&#xa0;?</translation>
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ceci était une simulation&#xa0;: rien n’a été touché.</translation>
     </message>
     <message>
         <source>Freed %1, removed %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace libéré&#xa0;: %1&#xa0;; supprimé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Certains fichiers appartiennent au système et ont été laissés de côté.</translation>
     </message>
     <message>
         <source>Log: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal&#xa0;: %1</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Last used</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière utilisation</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>The largest %1 of %2 files are listed.</source>
@@ -722,136 +722,136 @@
     </message>
     <message>
         <source>No file in the home folder takes %1 or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun fichier du dossier personnel n’occupe %1 ou plus.</translation>
     </message>
     <message>
         <source>Searched %1 in %2. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche dans %1 en %2. Rien n’a été modifié.</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>au moins %1</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Accès complet au disque requis</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture refusée</translation>
     </message>
     <message>
         <source>Largest: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus gros&#xa0;: %1</translation>
     </message>
     <message>
         <source>You can reclaim</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace récupérable</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
-        <translation type="unfinished"></translation>
+        <translation>Géré par macOS</translation>
     </message>
     <message>
         <source>Managed by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Géré par le système</translation>
     </message>
     <message>
         <source>%1 of it you can act on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous pouvez agir sur %1 de ce total.</translation>
     </message>
     <message>
         <source>Measured in %1. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesure effectuée en %1. Rien n’a été modifié.</translation>
     </message>
 </context>
 <context>
     <name>DiskOrb</name>
     <message>
         <source>%1% used</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;% utilisés</translation>
     </message>
     <message>
         <source>%1 can be cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à nettoyer</translation>
     </message>
 </context>
 <context>
     <name>Gauge</name>
     <message>
         <source>%1 used</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 utilisés</translation>
     </message>
     <message>
         <source>used</source>
-        <translation type="unfinished"></translation>
+        <translation>utilisés</translation>
     </message>
 </context>
 <context>
     <name>LargeFilesPage</name>
     <message>
         <source>Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélection</translation>
     </message>
     <message>
         <source>ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>ordre croissant</translation>
     </message>
     <message>
         <source>descending</source>
-        <translation type="unfinished"></translation>
+        <translation>ordre décroissant</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte du disque</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Réanalyser</translation>
     </message>
     <message>
         <source>Find what&apos;s taking up space</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouvez ce qui prend de la place</translation>
     </message>
     <message>
         <source>Big files in your home folder. You decide what goes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les gros fichiers de votre dossier personnel. C’est vous qui décidez de ce qui part.</translation>
     </message>
     <message>
         <source>Find large files</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher les gros fichiers</translation>
     </message>
     <message>
         <source>Home folder · over %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier personnel · plus de %1</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous</translation>
     </message>
     <message>
         <source>Unused</source>
-        <translation type="unfinished"></translation>
+        <translation>Inutilisés</translation>
     </message>
     <message>
         <source>Show in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir dans %1</translation>
     </message>
     <message>
         <source>Move to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre à la %1</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>Search files</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des fichiers</translation>
     </message>
     <message>
         <source>Largest files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers les plus gros</translation>
     </message>
     <message>
         <source>Unused %1+ months</source>
@@ -863,869 +863,869 @@
     </message>
     <message>
         <source>Looking for large files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche des gros fichiers…</translation>
     </message>
     <message>
         <source>Large files</source>
-        <translation type="unfinished"></translation>
+        <translation>Gros fichiers</translation>
     </message>
     <message>
         <source>Largest so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Les plus gros à ce stade</translation>
     </message>
     <message>
         <source>Sort by</source>
-        <translation type="unfinished"></translation>
+        <translation>Trier par</translation>
     </message>
 </context>
 <context>
     <name>LoginEntry</name>
     <message>
         <source>%1 is not from Tarnwick and was left as it is. Remove it to open Tarnwick at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne vient pas de Tarnwick et n’a pas été modifié. Supprimez ce fichier pour ouvrir Tarnwick avec la session.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written, so Tarnwick does not open at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire %1&#xa0;: Tarnwick ne s’ouvrira pas avec la session.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be removed, so Tarnwick still opens at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de supprimer %1&#xa0;: Tarnwick s’ouvrira encore avec la session.</translation>
     </message>
 </context>
 <context>
     <name>Main</name>
     <message>
         <source>Tarnwick was updated to version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick a été mis à jour vers la version %1.</translation>
     </message>
     <message>
         <source>%1 is almost full. Run Smart Scan to free up space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le volume «&#xa0;%1&#xa0;» est presque saturé. Lancez l’analyse intelligente pour libérer de l’espace.</translation>
     </message>
 </context>
 <context>
     <name>MenuBar</name>
     <message>
         <source>Tarnwick Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Site web de Tarnwick</translation>
     </message>
     <message>
         <source>About Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de Tarnwick</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher les mises à jour…</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages…</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter Tarnwick</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse intelligente</translation>
     </message>
     <message>
         <source>Find Large Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher les gros fichiers</translation>
     </message>
     <message>
         <source>Close Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer la fenêtre</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyage</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte du disque</translation>
     </message>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Données système</translation>
     </message>
     <message>
         <source>Hide Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer la barre latérale</translation>
     </message>
     <message>
         <source>Enter Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Passer en plein écran</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Agrandir</translation>
     </message>
     <message>
         <source>Bring All to Front</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout ramener au premier plan</translation>
     </message>
     <message>
         <source>Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Guide</translation>
     </message>
     <message>
         <source>FAQ</source>
-        <translation type="unfinished"></translation>
+        <translation>FAQ</translation>
     </message>
     <message>
         <source>Open Log Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le dossier des journaux</translation>
     </message>
     <message>
         <source>Open Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le menu</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcis clavier</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Édition</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichage</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenêtre</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Show Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la barre latérale</translation>
     </message>
     <message>
         <source>Exit Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter le plein écran</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>Check for Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher les mises à jour</translation>
     </message>
 </context>
 <context>
     <name>Overlay</name>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1</translation>
     </message>
     <message>
         <source>© 2026 the Tarnwick authors</source>
-        <translation type="unfinished"></translation>
+        <translation>© 2026 les auteurs de Tarnwick</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Remember my choice</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoriser mon choix</translation>
     </message>
     <message>
         <source>Keep Tarnwick running?</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder Tarnwick actif&#xa0;?</translation>
     </message>
     <message>
         <source>Tarnwick can stay in the system tray when you close the window, so scheduled scans and low space alerts keep working. You can open it again from the tray icon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick peut rester dans la zone de notification lorsque vous fermez la fenêtre&#xa0;: les analyses programmées et les alertes d’espace disque faible continuent ainsi de fonctionner. Vous pourrez le rouvrir depuis son icône.</translation>
     </message>
     <message>
         <source>You can change this in Settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous pourrez modifier ce choix dans les réglages.</translation>
     </message>
     <message>
         <source>Keep in tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder actif</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Permanent delete is on. These files can&apos;t be recovered.</source>
-        <translation type="unfinished"></translation>
+        <translation>La suppression définitive est activée. Ces fichiers ne pourront pas être récupérés.</translation>
     </message>
     <message>
         <source>Emptying the %1 can&apos;t be undone. Everything else goes to the %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider la %1 est irréversible. Tout le reste sera mis à la %1.</translation>
     </message>
     <message>
         <source>Everything will be moved to the %1, so you can restore it later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sera mis à la %1&#xa0;: vous pourrez le restaurer plus tard.</translation>
     </message>
     <message>
         <source>Clean and delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer et supprimer</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer</translation>
     </message>
     <message>
         <source>Clean %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer %1&#xa0;?</translation>
     </message>
     <message>
         <source>%1 of it will stay: there is no %2 on its volume.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une partie (%1) restera en place&#xa0;: il n’y a pas de %2 sur son volume.</translation>
     </message>
     <message>
         <source>%1 of it will stay while these apps are open: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une partie (%1) restera en place tant que ces apps sont ouvertes&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcis clavier</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Version %1 is available. You have %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La version %1 est disponible. Vous avez la version %2.</translation>
     </message>
     <message>
         <source>An update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Une mise à jour est disponible</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>Downloading the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement de la mise à jour…</translation>
     </message>
     <message>
         <source>Drag Tarnwick to Applications in the window that opens to replace this version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans la fenêtre qui s’ouvre, faites glisser Tarnwick vers Applications pour remplacer cette version.</translation>
     </message>
     <message>
         <source>Your file manager opens the folder with the downloaded package. Install it the way you install packages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre gestionnaire de fichiers ouvre le dossier contenant le paquet téléchargé. Installez-le comme vous en avez l’habitude.</translation>
     </message>
     <message>
         <source>Tarnwick is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick est à jour</translation>
     </message>
     <message>
         <source>Version %1 is the latest version.</source>
-        <translation type="unfinished"></translation>
+        <translation>La version %1 est la plus récente.</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de rechercher les mises à jour</translation>
     </message>
     <message>
         <source>Check your internet connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifiez votre connexion à Internet et réessayez.</translation>
     </message>
     <message>
         <source>Installing the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>Installation de la mise à jour…</translation>
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche de mises à jour…</translation>
     </message>
     <message>
         <source>Version %1 is installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>La version %1 est installée.</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>Réessayer</translation>
     </message>
     <message>
         <source>Update now</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre à jour</translation>
     </message>
     <message>
         <source>What&apos;s new</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveautés</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus tard</translation>
     </message>
 </context>
 <context>
     <name>OverviewPage</name>
     <message>
         <source>Scanned %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Analysé %1</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactivée</translation>
     </message>
     <message>
         <source>Weekly</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebdomadaire</translation>
     </message>
     <message>
         <source>Monthly</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensuelle</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse intelligente</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vue d’ensemble</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Réanalyser</translation>
     </message>
     <message>
         <source>Disk health</source>
-        <translation type="unfinished"></translation>
+        <translation>État du disque</translation>
     </message>
     <message>
         <source>System files protected</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers système protégés</translation>
     </message>
     <message>
         <source>Freed in the last %1 months</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace libéré au cours des %1 derniers mois</translation>
     </message>
     <message>
         <source>See all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout voir</translation>
     </message>
     <message>
         <source>Scheduled scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse programmée</translation>
     </message>
     <message>
         <source>free of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>libres sur %1</translation>
     </message>
     <message>
         <source>Review</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier</translation>
     </message>
     <message>
         <source>Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyser</translation>
     </message>
     <message>
         <source>%1 ready to clean</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à nettoyer</translation>
     </message>
     <message>
         <source>Your startup disk is almost full</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre disque de démarrage est presque saturé</translation>
     </message>
     <message>
         <source>Keep your disk in shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Prenez soin de votre disque</translation>
     </message>
     <message>
         <source>%1 purgeable</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 purgeables</translation>
     </message>
     <message>
         <source>Apps, documents &amp; system</source>
-        <translation type="unfinished"></translation>
+        <translation>Apps, documents et système</translation>
     </message>
     <message>
         <source>Reclaimable</source>
-        <translation type="unfinished"></translation>
+        <translation>Récupérable</translation>
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible</translation>
     </message>
     <message>
         <source>Never scanned</source>
-        <translation type="unfinished"></translation>
+        <translation>Jamais analysé</translation>
     </message>
     <message>
         <source>Last scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière analyse</translation>
     </message>
     <message>
         <source>Freed this month</source>
-        <translation type="unfinished"></translation>
+        <translation>Libéré ce mois-ci</translation>
     </message>
     <message>
         <source>Top recommendations</source>
-        <translation type="unfinished"></translation>
+        <translation>Recommandations</translation>
     </message>
     <message>
         <source>What Smart Scan looks at</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que l’analyse intelligente examine</translation>
     </message>
 </context>
 <context>
     <name>Platform</name>
     <message>
         <source>System disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Disque système</translation>
     </message>
     <message>
         <source>Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Corbeille</translation>
     </message>
     <message>
         <source>Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>le Finder</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillé</translation>
     </message>
     <message>
         <source>Administrator access</source>
-        <translation type="unfinished"></translation>
+        <translation>Accès administrateur</translation>
     </message>
     <message>
         <source>Tarnwick is running as administrator and can clean Windows Update files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick s’exécute en tant qu’administrateur et peut nettoyer les fichiers de Windows Update.</translation>
     </message>
     <message>
         <source>Granted</source>
-        <translation type="unfinished"></translation>
+        <translation>Accordé</translation>
     </message>
     <message>
         <source>Only needed to clean Windows Update leftovers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nécessaire uniquement pour nettoyer les restes de Windows Update.</translation>
     </message>
     <message>
         <source>Restart as admin</source>
-        <translation type="unfinished"></translation>
+        <translation>Relancer comme admin</translation>
     </message>
     <message>
         <source>Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Accès complet au disque</translation>
     </message>
     <message>
         <source>Needed to clean Safari&apos;s cache and the Trash.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nécessaire pour nettoyer le cache de Safari et la Corbeille.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les réglages</translation>
     </message>
     <message>
         <source>System default (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue du système (%1)</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>Cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyage</translation>
     </message>
     <message>
         <source>Automation</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisation</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparence</translation>
     </message>
     <message>
         <source>Exclusions</source>
-        <translation type="unfinished"></translation>
+        <translation>Exclusions</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>Permissions &amp; about</source>
-        <translation type="unfinished"></translation>
+        <translation>Autorisations et à propos</translation>
     </message>
     <message>
         <source>Move items to the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre les éléments à la %1</translation>
     </message>
     <message>
         <source>Recommended. Turn off to delete files permanently.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recommandé. Désactivez cette option pour supprimer les fichiers définitivement.</translation>
     </message>
     <message>
         <source>Large file size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille des gros fichiers</translation>
     </message>
     <message>
         <source>Files bigger than this appear in Large &amp; Old Files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les fichiers au-delà de cette taille apparaissent dans la carte du disque.</translation>
     </message>
     <message>
         <source>100 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>100 Mo</translation>
     </message>
     <message>
         <source>250 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>250 Mo</translation>
     </message>
     <message>
         <source>500 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>500 Mo</translation>
     </message>
     <message>
         <source>1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Go</translation>
     </message>
     <message>
         <source>Consider files old after</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers jugés anciens après</translation>
     </message>
     <message>
         <source>Used by the “Unused” filter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisé par le filtre «&#xa0;Inutilisés&#xa0;».</translation>
     </message>
     <message>
         <source>3 months</source>
-        <translation type="unfinished"></translation>
+        <translation>3 mois</translation>
     </message>
     <message>
         <source>6 months</source>
-        <translation type="unfinished"></translation>
+        <translation>6 mois</translation>
     </message>
     <message>
         <source>12 months</source>
-        <translation type="unfinished"></translation>
+        <translation>12 mois</translation>
     </message>
     <message>
         <source>24 months</source>
-        <translation type="unfinished"></translation>
+        <translation>24 mois</translation>
     </message>
     <message>
         <source>Scheduled scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse programmée</translation>
     </message>
     <message>
         <source>Scans when Tarnwick starts if the last scan is older than this. Never cleans on its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lance une analyse au démarrage de Tarnwick si la dernière est plus ancienne que ce délai. Ne nettoie jamais de sa propre initiative.</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactivée</translation>
     </message>
     <message>
         <source>Weekly</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebdomadaire</translation>
     </message>
     <message>
         <source>Monthly</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensuelle</translation>
     </message>
     <message>
         <source>Low space alerts</source>
-        <translation type="unfinished"></translation>
+        <translation>Alertes d’espace disque faible</translation>
     </message>
     <message>
         <source>Warn when free space drops below 10%.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prévenir lorsque l’espace libre passe sous les 10&#xa0;%.</translation>
     </message>
     <message>
         <source>Open at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir avec la session</translation>
     </message>
     <message>
         <source>Start with Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer avec Windows</translation>
     </message>
     <message>
         <source>Starts Tarnwick in the background so scheduled scans can run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre Tarnwick en arrière-plan pour permettre les analyses programmées.</translation>
     </message>
     <message>
         <source>Show Tarnwick in the system tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher Tarnwick dans la zone de notification</translation>
     </message>
     <message>
         <source>Show Tarnwick in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher Tarnwick dans la barre des menus</translation>
     </message>
     <message>
         <source>Closing the window keeps Tarnwick running there, so scheduled scans and low space alerts keep working.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une fois la fenêtre fermée, Tarnwick y reste actif&#xa0;: les analyses programmées et les alertes d’espace disque faible continuent de fonctionner.</translation>
     </message>
     <message>
         <source>Ask every time</source>
-        <translation type="unfinished"></translation>
+        <translation>Toujours demander</translation>
     </message>
     <message>
         <source>Keep running in the tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder dans la zone de notification</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter Tarnwick</translation>
     </message>
     <message>
         <source>When closing the window</source>
-        <translation type="unfinished"></translation>
+        <translation>À la fermeture de la fenêtre</translation>
     </message>
     <message>
         <source>In the tray, Tarnwick keeps running so scheduled scans and low space alerts keep working.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans la zone de notification, Tarnwick reste actif&#xa0;: les analyses programmées et les alertes d’espace disque faible continuent de fonctionner.</translation>
     </message>
     <message>
         <source>Theme</source>
-        <translation type="unfinished"></translation>
+        <translation>Thème</translation>
     </message>
     <message>
         <source>Follow the system, or always use light or dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivre le système, ou toujours utiliser le thème clair ou sombre.</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Système</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Clair</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombre</translation>
     </message>
     <message>
         <source>Restart now</source>
-        <translation type="unfinished"></translation>
+        <translation>Redémarrer</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>Tarnwick restarts to switch languages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarnwick redémarre pour changer de langue.</translation>
     </message>
     <message>
         <source>Protected system locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacements système protégés</translation>
     </message>
     <message>
         <source> — always skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation> — toujours ignorés.</translation>
     </message>
     <message>
         <source>Protected apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Apps protégées</translation>
     </message>
     <message>
         <source> — their data is never cleaned. Caches of running apps and open files are skipped too.</source>
-        <translation type="unfinished"></translation>
+        <translation> — leurs données ne sont jamais nettoyées. Les caches des apps en cours d’exécution et les fichiers ouverts sont ignorés eux aussi.</translation>
     </message>
     <message>
         <source>Open logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les journaux</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher les mises à jour</translation>
     </message>
     <message>
         <source>Every cleanup writes a log you can review. Tarnwick checks for updates when it starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque nettoyage laisse un journal que vous pouvez consulter. Tarnwick recherche les mises à jour à son démarrage.</translation>
     </message>
     <message>
         <source>Every cleanup writes a log you can review.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque nettoyage laisse un journal que vous pouvez consulter.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Rules have gone from the settings.&lt;/b&gt; Check that these are all of yours, and put back what is missing. Nothing is cleaned until then.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Des règles ont disparu des réglages.&lt;/b&gt; Vérifiez que toutes les vôtres sont là et rétablissez celles qui manquent. D’ici là, rien ne sera nettoyé.</translation>
     </message>
     <message>
         <source>&lt;b&gt;The settings can&apos;t be read.&lt;/b&gt; Check that these are all of your rules, and put back what is missing. Nothing is cleaned until then, and the damaged file stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Les réglages sont illisibles.&lt;/b&gt; Vérifiez que toutes vos règles sont là et rétablissez celles qui manquent. D’ici là, rien ne sera nettoyé et le fichier endommagé restera en place.</translation>
     </message>
     <message>
         <source>Add folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un dossier</translation>
     </message>
     <message>
         <source>Never touch these</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne jamais y toucher</translation>
     </message>
     <message>
         <source>Folders and patterns Tarnwick always skips.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossiers et motifs que Tarnwick ignore toujours.</translation>
     </message>
     <message>
         <source>These are my rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce sont mes règles</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Choose a folder to exclude</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un dossier à exclure</translation>
     </message>
     <message>
         <source>The rules are kept. The damaged settings file stays beside the new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les règles sont conservées. Le fichier de réglages endommagé reste à côté du nouveau.</translation>
     </message>
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’enregistrer les réglages&#xa0;: ils restent tels quels.</translation>
     </message>
 </context>
 <context>
     <name>Sidebar</name>
     <message>
         <source>%1 available of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 disponibles sur %2</translation>
     </message>
     <message>
         <source>%1 free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 libres</translation>
     </message>
     <message>
         <source>Expand sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Déployer la barre latérale</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse intelligente</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyage</translation>
     </message>
     <message>
         <source>Space Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte du disque</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Données système</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer</translation>
     </message>
     <message>
         <source>Collapse sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Replier la barre latérale</translation>
     </message>
 </context>
 <context>
     <name>StepBar</name>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente</translation>
     </message>
     <message>
         <source>In progress</source>
-        <translation type="unfinished"></translation>
+        <translation>En cours</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé</translation>
     </message>
 </context>
 <context>
     <name>SystemData</name>
     <message>
         <source>Review in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir dans le Finder</translation>
     </message>
     <message>
         <source>Show in Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir dans Fichiers</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre à la Corbeille</translation>
     </message>
     <message>
         <source>Remove snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer les instantanés</translation>
     </message>
     <message>
         <source>Delete unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer les indisponibles</translation>
     </message>
     <message>
         <source>Clean in Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller à Nettoyage</translation>
     </message>
     <message>
         <source>Open Xcode</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir Xcode</translation>
     </message>
     <message>
         <source>Couldn&apos;t open %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir %1</translation>
     </message>
     <message>
         <source>1 item</source>
@@ -1737,23 +1737,23 @@
     </message>
     <message>
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
-        <translation type="unfinished"></translation>
+        <translation>Mis à la Corbeille&#xa0;: %1&#xa0;; impossible à déplacer&#xa0;: %2</translation>
     </message>
     <message>
         <source>Nothing to move</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien à déplacer</translation>
     </message>
     <message>
         <source>Moved %1 to the Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Mis à la Corbeille&#xa0;: %1</translation>
     </message>
     <message>
         <source>There are no local snapshots to remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun instantané local à supprimer</translation>
     </message>
     <message>
         <source>Snapshots were not removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Les instantanés n’ont pas été supprimés</translation>
     </message>
     <message>
         <source>Removed %1 of %2 snapshots</source>
@@ -1761,11 +1761,11 @@
     </message>
     <message>
         <source>Simulator cleanup failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec du nettoyage du simulateur&#xa0;: %1</translation>
     </message>
     <message>
         <source>No unavailable simulator devices — nothing to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun appareil de simulateur indisponible&#xa0;: rien à supprimer</translation>
     </message>
     <message>
         <source>Deleted 1 unavailable simulator device</source>
@@ -1777,287 +1777,287 @@
     </message>
     <message>
         <source>Xcode isn&apos;t installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Xcode n’est pas installé</translation>
     </message>
     <message>
         <source>Your app caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches de vos apps</translation>
     </message>
     <message>
         <source>Caches that apps keep in your cache folder. The safe ones can be cleaned from Cleanup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches que les apps gardent dans votre dossier de cache. Ceux qui sont sans risque se nettoient depuis la page Nettoyage.</translation>
     </message>
     <message>
         <source>Hidden folders in your home folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossiers masqués du dossier personnel</translation>
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .npm, .cargo and .nvm. Caches are safe to clear; keep tool installs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches, réglages et installations que les outils de développement et les apps gardent dans des dossiers masqués comme .npm, .cargo et .nvm. Vous pouvez vider les caches sans risque&#xa0;; conservez les outils installés.</translation>
     </message>
     <message>
         <source>Flatpak app data</source>
-        <translation type="unfinished"></translation>
+        <translation>Données des apps Flatpak</translation>
     </message>
     <message>
         <source>Settings, files and caches of your Flatpak apps, which each keep their own. “flatpak uninstall --delete-data” removes those of apps that are gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages, fichiers et caches de vos apps Flatpak, propres à chacune. «&#xa0;flatpak uninstall --delete-data&#xa0;» supprime ceux des apps désinstallées.</translation>
     </message>
     <message>
         <source>Your Flatpak apps and runtimes</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos apps et runtimes Flatpak</translation>
     </message>
     <message>
         <source>Apps that Flatpak installed for you alone, and the runtimes that they need. “flatpak uninstall --user --unused” removes runtimes that no app needs any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Apps que Flatpak a installées pour vous seul et runtimes dont elles ont besoin. «&#xa0;flatpak uninstall --user --unused&#xa0;» supprime les runtimes dont plus aucune app n’a besoin.</translation>
     </message>
     <message>
         <source>Containers and images</source>
-        <translation type="unfinished"></translation>
+        <translation>Conteneurs et images</translation>
     </message>
     <message>
         <source>Images, containers and volumes that Docker and Podman keep. “docker system prune” and “podman system prune” remove what no container uses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Images, conteneurs et volumes que gardent Docker et Podman. «&#xa0;docker system prune&#xa0;» et «&#xa0;podman system prune&#xa0;» suppriment ce qu’aucun conteneur n’utilise.</translation>
     </message>
     <message>
         <source>Virtual machines</source>
-        <translation type="unfinished"></translation>
+        <translation>Machines virtuelles</translation>
     </message>
     <message>
         <source>Disk images of virtual machines, kept by the program that made them. Delete a machine there, or with “virsh undefine --remove-all-storage”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Images disque de machines virtuelles, gérées par le programme qui les a créées. Supprimez une machine depuis ce programme ou avec «&#xa0;virsh undefine --remove-all-storage&#xa0;».</translation>
     </message>
     <message>
         <source>Game libraries</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliothèques de jeux</translation>
     </message>
     <message>
         <source>Games, kept by Steam and other launchers. Uninstall a game in its launcher.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeux gérés par Steam et d’autres lanceurs. Désinstallez un jeu depuis son lanceur.</translation>
     </message>
     <message>
         <source>App data</source>
-        <translation type="unfinished"></translation>
+        <translation>Données des apps</translation>
     </message>
     <message>
         <source>Databases and files that apps keep for you, and your Trash. Remove an app&apos;s data from within the app, or after uninstalling it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bases de données et fichiers que les apps gardent pour vous, et votre Corbeille. Supprimez les données d’une app depuis l’app elle-même ou après l’avoir désinstallée.</translation>
     </message>
     <message>
         <source>Settings of your apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages de vos apps</translation>
     </message>
     <message>
         <source>Settings that apps keep for you; some keep profiles and caches beside them. An app without its settings starts afresh.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages que les apps gardent pour vous&#xa0;; certaines y joignent des profils et des caches. Sans ses réglages, une app repart de zéro.</translation>
     </message>
     <message>
         <source>System journal</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal système</translation>
     </message>
     <message>
         <source>The log of the system and its services, which journald keeps within a limit. “journalctl --vacuum-size=200M” trims it at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal du système et de ses services, dont journald limite la taille. «&#xa0;journalctl --vacuum-size=200M&#xa0;» le réduit immédiatement.</translation>
     </message>
     <message>
         <source>System logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Journaux système</translation>
     </message>
     <message>
         <source>Log files of services and of the package manager. logrotate compresses and deletes old ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Journaux des services et du gestionnaire de paquets. logrotate compresse puis supprime les plus anciens.</translation>
     </message>
     <message>
         <source>Crash dumps</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidages mémoire</translation>
     </message>
     <message>
         <source>What was in the memory of programs that crashed, kept for reports. The system deletes old ones; “coredumpctl” lists them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Contenu de la mémoire de programmes qui ont planté, gardé pour les rapports. Le système supprime les plus anciens&#xa0;; «&#xa0;coredumpctl&#xa0;» en donne la liste.</translation>
     </message>
     <message>
         <source>Package downloads</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquets téléchargés</translation>
     </message>
     <message>
         <source>Packages that the package manager downloaded and has installed since. “apt-get clean”, “dnf clean packages”, “pacman -Sc” or “zypper clean” removes them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquets que le gestionnaire de paquets a téléchargés, puis installés. «&#xa0;apt-get clean&#xa0;», «&#xa0;dnf clean packages&#xa0;», «&#xa0;pacman -Sc&#xa0;» ou «&#xa0;zypper clean&#xa0;» les supprime.</translation>
     </message>
     <message>
         <source>Snap packages and old revisions</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquets Snap et anciennes révisions</translation>
     </message>
     <message>
         <source>Snap packages, with earlier revisions that snapd keeps to go back to. “snap set system refresh.retain=2” keeps fewer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquets Snap, avec les révisions précédentes que snapd garde pour pouvoir y revenir. «&#xa0;snap set system refresh.retain=2&#xa0;» en garde moins.</translation>
     </message>
     <message>
         <source>Flatpak apps and runtimes of the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Apps et runtimes Flatpak du système</translation>
     </message>
     <message>
         <source>Apps that Flatpak installed for all users, and the runtimes that they need. “flatpak uninstall --unused” removes runtimes that no app needs any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Apps que Flatpak a installées pour tous les utilisateurs et runtimes dont elles ont besoin. «&#xa0;flatpak uninstall --unused&#xa0;» supprime les runtimes dont plus aucune app n’a besoin.</translation>
     </message>
     <message>
         <source>Kernels and their modules</source>
-        <translation type="unfinished"></translation>
+        <translation>Noyaux et leurs modules</translation>
     </message>
     <message>
         <source>The kernels that the system can start, with their drivers. The package manager keeps the newest; “apt-get autoremove” removes older ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noyaux que le système peut démarrer, avec leurs pilotes. Le gestionnaire de paquets garde les plus récents&#xa0;; «&#xa0;apt-get autoremove&#xa0;» supprime les plus anciens.</translation>
     </message>
     <message>
         <source>Swap and hibernation files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’échange et d’hibernation</translation>
     </message>
     <message>
         <source>Room on the disk for what doesn&apos;t fit into memory, and for memory itself during hibernation. The system&apos;s settings fix its size; “swapon --show” lists it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace disque pour ce qui ne tient pas en mémoire, et pour la mémoire elle-même en hibernation. Les réglages du système en fixent la taille&#xa0;; «&#xa0;swapon --show&#xa0;» l’affiche.</translation>
     </message>
     <message>
         <source>System snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Instantanés du système</translation>
     </message>
     <message>
         <source>Earlier states of the system, which Timeshift or Snapper keeps. They share what didn&apos;t change, so they have no size of their own; “timeshift --delete” or “snapper delete” removes one.</source>
-        <translation type="unfinished"></translation>
+        <translation>États antérieurs du système, gardés par Timeshift ou Snapper. Ils partagent ce qui n’a pas changé et n’ont donc pas de taille propre&#xa0;; «&#xa0;timeshift --delete&#xa0;» ou «&#xa0;snapper delete&#xa0;» en supprime un.</translation>
     </message>
     <message>
         <source>Time Machine local snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Instantanés locaux Time Machine</translation>
     </message>
     <message>
         <source>Hourly snapshots macOS keeps on this disk until Time Machine can reach its backup drive. macOS frees them when space runs low; removing them now is safe, but you lose those restore points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instantanés que macOS garde toutes les heures sur ce disque tant que Time Machine n’a pas accès à son disque de sauvegarde. macOS les libère quand l’espace vient à manquer&#xa0;; vous pouvez les supprimer sans risque, mais vous perdrez ces points de restauration.</translation>
     </message>
     <message>
         <source>iPhone &amp; iPad backups</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauvegardes iPhone et iPad</translation>
     </message>
     <message>
         <source>Device backups made by Finder. Delete old ones from Finder (General → Manage Backups) once a newer or iCloud backup exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauvegardes d’appareils créées par le Finder. Supprimez les anciennes depuis le Finder (Général → Gérer les sauvegardes) dès qu’il en existe une plus récente ou une sauvegarde iCloud.</translation>
     </message>
     <message>
         <source>Xcode device support</source>
-        <translation type="unfinished"></translation>
+        <translation>Symboles d’appareils Xcode</translation>
     </message>
     <message>
         <source>Debug symbols Xcode copies from every iOS, watchOS and tvOS version you&apos;ve connected. Xcode copies them again the next time you connect that device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Symboles de débogage que Xcode copie pour chaque version d’iOS, de watchOS et de tvOS que vous avez connectée. Xcode les copie de nouveau à la prochaine connexion de l’appareil.</translation>
     </message>
     <message>
         <source>iOS Simulator devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Appareils du simulateur iOS</translation>
     </message>
     <message>
         <source>Simulator devices and their app data. Removing unavailable devices (for runtimes you no longer have) is safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Appareils du simulateur et données de leurs apps. Vous pouvez supprimer sans risque les appareils indisponibles (dont vous n’avez plus le runtime).</translation>
     </message>
     <message>
         <source>Simulator runtimes &amp; caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Runtimes et caches du simulateur</translation>
     </message>
     <message>
         <source>iOS, watchOS and visionOS simulator runtimes Xcode downloaded, plus their shared caches. Remove runtimes you don&apos;t use in Xcode › Settings › Components.</source>
-        <translation type="unfinished"></translation>
+        <translation>Runtimes de simulateur iOS, watchOS et visionOS téléchargés par Xcode, avec leurs caches partagés. Supprimez les runtimes que vous n’utilisez pas dans Xcode › Settings › Components.</translation>
     </message>
     <message>
         <source>Caches apps keep in your Library folder. The safe ones can be cleaned from Cleanup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches que les apps gardent dans votre dossier Bibliothèque. Ceux qui sont sans risque se nettoient depuis la page Nettoyage.</translation>
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .cache, .npm and .nvm. Caches are safe to clear; keep tool installs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches, réglages et installations que les outils de développement et les apps gardent dans des dossiers masqués comme .cache, .npm et .nvm. Vous pouvez vider les caches sans risque&#xa0;; conservez les outils installés.</translation>
     </message>
     <message>
         <source>Xcode archives</source>
-        <translation type="unfinished"></translation>
+        <translation>Archives Xcode</translation>
     </message>
     <message>
         <source>Builds you archived for distribution. Keep the ones you may need to symbolicate crash reports for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Versions que vous avez archivées pour les distribuer. Conservez celles dont vous pourriez avoir besoin pour symboliser des rapports de plantage.</translation>
     </message>
     <message>
         <source>Docker disk image</source>
-        <translation type="unfinished"></translation>
+        <translation>Image disque Docker</translation>
     </message>
     <message>
         <source>The virtual disk holding Docker&apos;s images and containers. Shrink it with “docker system prune” or Docker Desktop&apos;s settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Disque virtuel qui contient les images et les conteneurs de Docker. Réduisez-le avec «&#xa0;docker system prune&#xa0;» ou dans les réglages de Docker Desktop.</translation>
     </message>
     <message>
         <source>Mail attachments</source>
-        <translation type="unfinished"></translation>
+        <translation>Pièces jointes de Mail</translation>
     </message>
     <message>
         <source>Attachments Mail saved after you opened them. The originals stay in your mailbox.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pièces jointes que Mail a enregistrées quand vous les avez ouvertes. Les originaux restent dans votre boîte aux lettres.</translation>
     </message>
     <message>
         <source>Messages attachments</source>
-        <translation type="unfinished"></translation>
+        <translation>Pièces jointes de Messages</translation>
     </message>
     <message>
         <source>Photos, videos and files from your conversations. Remove large ones from Messages (Settings → General → Storage) to keep chats consistent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Photos, vidéos et fichiers de vos conversations. Supprimez les plus gros depuis Messages (Réglages → Général → Stockage) pour que vos conversations restent cohérentes.</translation>
     </message>
     <message>
         <source>System caches</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches système</translation>
     </message>
     <message>
         <source>Caches shared by all users and system services. macOS trims these itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caches communs à tous les utilisateurs et aux services du système. macOS les réduit lui-même.</translation>
     </message>
     <message>
         <source>System logs &amp; diagnostics</source>
-        <translation type="unfinished"></translation>
+        <translation>Journaux et diagnostics système</translation>
     </message>
     <message>
         <source>Unified logs and diagnostic reports. macOS rotates and deletes them automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Journaux unifiés et rapports de diagnostic. macOS les archive et les supprime automatiquement.</translation>
     </message>
     <message>
         <source>Virtual memory &amp; sleep image</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire virtuelle et image de veille</translation>
     </message>
     <message>
         <source>Swap files and the hibernation image. They grow and shrink with memory use and reset when you restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’échange et image d’hibernation. Leur taille suit l’utilisation de la mémoire et revient à zéro au redémarrage.</translation>
     </message>
     <message>
         <source>macOS assets &amp; updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Ressources et mises à jour macOS</translation>
     </message>
     <message>
         <source>Downloaded system assets (fonts, dictionaries, language and AI models) and staged software updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ressources système téléchargées (polices, dictionnaires, modèles de langue et d’IA) et mises à jour logicielles en attente.</translation>
     </message>
     <message>
         <source>Other Library data</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres données de Bibliothèque</translation>
     </message>
     <message>
         <source>Everything else in your Library folder: preferences, keychains, logs, and data for system services.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout le reste de votre dossier Bibliothèque&#xa0;: préférences, trousseaux, journaux et données des services du système.</translation>
     </message>
     <message>
         <source>System databases &amp; temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>Bases et fichiers temporaires système</translation>
     </message>
     <message>
         <source>Databases and per-app temporary folders used by macOS services. macOS manages these.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bases de données et dossiers temporaires par app utilisés par les services de macOS. macOS s’en occupe.</translation>
     </message>
     <message>
         <source>App data &amp; containers</source>
-        <translation type="unfinished"></translation>
+        <translation>Données et conteneurs des apps</translation>
     </message>
     <message>
         <source>Settings, databases and files apps keep for you. Remove an app&apos;s data by uninstalling the app or from within the app.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages, bases de données et fichiers que les apps gardent pour vous. Supprimez les données d’une app en la désinstallant ou depuis l’app elle-même.</translation>
     </message>
     <message>
         <source>1 snapshot</source>
@@ -2069,11 +2069,11 @@
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture refusée</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>au moins %1</translation>
     </message>
     <message>
         <source>1 device</source>
@@ -2088,254 +2088,254 @@
     <name>SystemDataPage</name>
     <message>
         <source>System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Données système</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>Réanalyser</translation>
     </message>
     <message>
         <source>See what&apos;s inside System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Découvrez le contenu des données système</translation>
     </message>
     <message>
         <source>Snapshots, backups, developer files, caches and more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instantanés, sauvegardes, fichiers de développement, caches et plus encore.</translation>
     </message>
     <message>
         <source>Scan System Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyser les données système</translation>
     </message>
     <message>
         <source>measured in System Data · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; you can act on</source>
-        <translation type="unfinished"></translation>
+        <translation>mesurés dans les données système · vous pouvez agir sur &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Working…</source>
-        <translation type="unfinished"></translation>
+        <translation>En cours…</translation>
     </message>
     <message>
         <source>Updating…</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise à jour…</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>You can reclaim</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace récupérable</translation>
     </message>
     <message>
         <source>Measuring System Data…</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesure des données système…</translation>
     </message>
     <message>
         <source>measured</source>
-        <translation type="unfinished"></translation>
+        <translation>mesurés</translation>
     </message>
     <message>
         <source>macOS will remove its local Time Machine snapshots on this disk. Your Time Machine backups on other drives aren&apos;t affected. macOS will ask for your administrator password.</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS va supprimer ses instantanés locaux Time Machine de ce disque. Vos sauvegardes Time Machine sur d’autres disques ne sont pas concernées. macOS vous demandera votre mot de passe d’administrateur.</translation>
     </message>
     <message>
         <source>Simulator devices whose iOS runtime is no longer installed will be deleted, with their apps and data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les appareils du simulateur dont le runtime iOS n’est plus installé seront supprimés, avec leurs apps et leurs données.</translation>
     </message>
     <message>
         <source>%1 will be moved to the Trash. Xcode recreates it when you connect a device again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise à la Corbeille de %1. Xcode recréera ces données quand vous connecterez de nouveau un appareil.</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Accès complet requis</translation>
     </message>
     <message>
         <source>No permission to read</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture refusée</translation>
     </message>
     <message>
         <source>at least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>au moins %1</translation>
     </message>
     <message>
         <source>Largest: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus gros&#xa0;: %1</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
-        <translation type="unfinished"></translation>
+        <translation>Géré par macOS</translation>
     </message>
     <message>
         <source>Managed by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Géré par le système</translation>
     </message>
     <message>
         <source>Only what you may read is counted. Folders that belong to the system or to other users are left out, and folders shared by several rows are counted once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seul ce que vous avez le droit de lire est compté. Les dossiers du système ou d’autres utilisateurs sont laissés de côté, et ceux que plusieurs lignes partagent ne sont comptés qu’une fois.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Why Storage settings shows a bigger number&lt;/b&gt;&lt;br&gt;macOS works out System Data as whatever is left on the disk after Apps, Documents, Photos and its other categories. That remainder also includes things no app can measure: the Spotlight index, APFS snapshots, purgeable space and root-only system files. Without Full Disk Access, Tarnwick also can&apos;t see protected folders, so its total is lower than what macOS reports.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Pourquoi les réglages Stockage affichent un chiffre plus élevé&lt;/b&gt;&lt;br&gt;Pour macOS, les données système sont tout ce qui reste sur le disque une fois déduits les apps, les documents, les photos et ses autres catégories. Ce reste comprend aussi ce qu’aucune app ne peut mesurer&#xa0;: l’index Spotlight, les instantanés APFS, l’espace purgeable et les fichiers système réservés à root. Sans l’accès complet au disque, Tarnwick ne voit pas non plus les dossiers protégés&#xa0;: son total est donc inférieur à celui de macOS.</translation>
     </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire</translation>
     </message>
     <message>
         <source>Maximize</source>
-        <translation type="unfinished"></translation>
+        <translation>Agrandir</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
     <name>Tray</name>
     <message>
         <source>Open Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir Tarnwick</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse intelligente</translation>
     </message>
     <message>
         <source>Find Large Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher les gros fichiers</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>Check for Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher les mises à jour</translation>
     </message>
     <message>
         <source>Quit Tarnwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter Tarnwick</translation>
     </message>
     <message>
         <source>%1 · %2 free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 libres</translation>
     </message>
 </context>
 <context>
     <name>Updater</name>
     <message>
         <source>Could not open the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir la mise à jour.</translation>
     </message>
     <message>
         <source>The server took too long to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a mis trop de temps à répondre.</translation>
     </message>
     <message>
         <source>The update information could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les informations sur la mise à jour n’ont pas pu être lues.</translation>
     </message>
     <message>
         <source>The server redirected to an address that is not safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a redirigé vers une adresse qui n’est pas sûre.</translation>
     </message>
     <message>
         <source>Too many redirects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop de redirections.</translation>
     </message>
     <message>
         <source>The update is not on Tarnwick&apos;s server.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mise à jour ne se trouve pas sur le serveur de Tarnwick.</translation>
     </message>
     <message>
         <source>The update has an unexpected size.</source>
-        <translation type="unfinished"></translation>
+        <translation>La taille de la mise à jour est inattendue.</translation>
     </message>
     <message>
         <source>Could not save the update: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’enregistrer la mise à jour&#xa0;: %1</translation>
     </message>
     <message>
         <source>The update could not be downloaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La mise à jour n’a pas pu être téléchargée&#xa0;: %1</translation>
     </message>
     <message>
         <source>Could not read the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire la mise à jour.</translation>
     </message>
     <message>
         <source>The update does not match the published checksum.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mise à jour ne correspond pas à la somme de contrôle publiée.</translation>
     </message>
     <message>
         <source>The update is not signed by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mise à jour n’est pas signée par %1.</translation>
     </message>
 </context>
 <context>
     <name>fmt</name>
     <message>
         <source>TB</source>
-        <translation type="unfinished"></translation>
+        <translation>To</translation>
     </message>
     <message>
         <source>GB</source>
-        <translation type="unfinished"></translation>
+        <translation>Go</translation>
     </message>
     <message>
         <source>MB</source>
-        <translation type="unfinished"></translation>
+        <translation>Mo</translation>
     </message>
     <message>
         <source>KB</source>
-        <translation type="unfinished"></translation>
+        <translation>Ko</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Aujourd’hui</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier</translation>
     </message>
     <message numerus="yes">
         <source>%n day(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Il y a %n jour</numerusform>
+            <numerusform>Il y a %n jours</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n week(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Il y a %n sem.</numerusform>
+            <numerusform>Il y a %n sem.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n month(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Il y a %n mois</numerusform>
+            <numerusform>Il y a %n mois</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n year(s) ago</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Il y a %n an</numerusform>
+            <numerusform>Il y a %n ans</numerusform>
         </translation>
     </message>
 </context>
