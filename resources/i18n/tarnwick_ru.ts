@@ -71,7 +71,7 @@
     </message>
     <message>
         <source>Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched.</source>
-        <translation>Сохранённые изображения, сценарии и страницы. Данные для входа, история, закладки и пароли не затрагиваются никогда.</translation>
+        <translation>Сохранённые изображения, скрипты и страницы. Данные для входа, история, закладки и пароли никогда не затрагиваются.</translation>
     </message>
     <message>
         <source>Logs &amp; crash reports</source>
@@ -218,9 +218,9 @@
     <message numerus="yes">
         <source>&lt;b&gt;%Ln file(s) skipped&lt;/b&gt; because they were in use or protected. Quit the apps using them and rescan to remove them.</source>
         <translation>
-            <numerusform>&lt;b&gt;Пропущен %Ln файл&lt;/b&gt;: занятые и защищённые файлы не удаляются. Завершите приложения, которые используют файлы, и повторите анализ.</numerusform>
-            <numerusform>&lt;b&gt;Пропущено %Ln файла&lt;/b&gt;: занятые и защищённые файлы не удаляются. Завершите приложения, которые используют файлы, и повторите анализ.</numerusform>
-            <numerusform>&lt;b&gt;Пропущено %Ln файлов&lt;/b&gt;: занятые и защищённые файлы не удаляются. Завершите приложения, которые используют файлы, и повторите анализ.</numerusform>
+            <numerusform>&lt;b&gt;Пропущен %Ln файл&lt;/b&gt;: занятые и защищённые файлы не удаляются. Чтобы удалить их, завершите приложения, которые их используют, и повторите анализ.</numerusform>
+            <numerusform>&lt;b&gt;Пропущено %Ln файла&lt;/b&gt;: занятые и защищённые файлы не удаляются. Чтобы удалить их, завершите приложения, которые их используют, и повторите анализ.</numerusform>
+            <numerusform>&lt;b&gt;Пропущено %Ln файлов&lt;/b&gt;: занятые и защищённые файлы не удаляются. Чтобы удалить их, завершите приложения, которые их используют, и повторите анализ.</numerusform>
         </translation>
     </message>
     <message>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>&lt;b&gt;Left caches of running apps alone:&lt;/b&gt; %1. Quit them and clean again to include them.</source>
-        <translation>&lt;b&gt;Не тронут кэш работающих приложений:&lt;/b&gt; %1. Чтобы удалить и его, завершите их и повторите очистку.</translation>
+        <translation>&lt;b&gt;Не тронут кэш работающих приложений:&lt;/b&gt; %1. Чтобы очистить и его, завершите эти приложения и повторите очистку.</translation>
     </message>
     <message>
         <source>Cleanup complete</source>
@@ -253,7 +253,7 @@
     </message>
     <message>
         <source>Moved to the %1. You can still restore anything.</source>
-        <translation>Всё перемещено в %1. Любой объект ещё можно восстановить.</translation>
+        <translation>Перемещено в %1. Любой объект ещё можно восстановить.</translation>
     </message>
     <message>
         <source>Items were deleted permanently.</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Largest so far</source>
-        <translation>Самые большие из найденных</translation>
+        <translation>Пока самые большие</translation>
     </message>
     <message>
         <source>Sort by</source>
@@ -1284,7 +1284,7 @@
     </message>
     <message>
         <source>Apps, documents &amp; system</source>
-        <translation>Программы, файлы, система</translation>
+        <translation>Приложения, файлы, система</translation>
     </message>
     <message>
         <source>Reclaimable</source>
@@ -1855,7 +1855,7 @@
     </message>
     <message>
         <source>System journal</source>
-        <translation>Системный журнал</translation>
+        <translation>Журнал systemd</translation>
     </message>
     <message>
         <source>The log of the system and its services, which journald keeps within a limit. “journalctl --vacuum-size=200M” trims it at once.</source>
@@ -1863,7 +1863,7 @@
     </message>
     <message>
         <source>System logs</source>
-        <translation>Файлы системных журналов</translation>
+        <translation>Системные журналы</translation>
     </message>
     <message>
         <source>Log files of services and of the package manager. logrotate compresses and deletes old ones.</source>
