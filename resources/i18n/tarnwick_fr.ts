@@ -20,19 +20,31 @@
     </message>
     <message>
         <source>1 file</source>
+        <extracomment>How many files were moved: %1 of “%1 (%2) moved to the %3”</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 (%2) moved to the %3</source>
-        <translation>Mis à la %3&#xa0;: %1 (%2)</translation>
+        <extracomment>%1: “1 file” or “%1 files”; %2: their size; %3: the Trash. The forms count the files</extracomment>
+        <translation type="unfinished">
+            <numerusform>Mis à la %3&#xa0;: %1 (%2)</numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source> · %1 in use, skipped</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Follows “… moved to the Trash”; %1: how many files stayed, as they were open</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Restored %Ln file(s)</source>
@@ -122,14 +134,17 @@
     </message>
     <message>
         <source>Safe</source>
+        <extracomment>A rating of what a category holds: may be cleaned without a thought</extracomment>
         <translation>Sûr</translation>
     </message>
     <message>
         <source>Review</source>
+        <extracomment>A rating of what a category holds: look at it before it is cleaned</extracomment>
         <translation>À vérifier</translation>
     </message>
     <message>
         <source>Permanent</source>
+        <extracomment>A rating of what a category holds: gone for good once cleaned</extracomment>
         <translation>Définitif</translation>
     </message>
     <message>
@@ -149,6 +164,7 @@
     <name>Cleaner</name>
     <message>
         <source>delete permanently</source>
+        <extracomment>In the head of a log, after “Mode: ”</extracomment>
         <translation>supprimer définitivement</translation>
     </message>
     <message>
@@ -168,6 +184,7 @@
     <name>CleanupPage</name>
     <message>
         <source>SAFE TO CLEAN</source>
+        <extracomment>Heading over some categories, always in capitals</extracomment>
         <translation>Nettoyage sans risque</translation>
     </message>
     <message>
@@ -180,18 +197,24 @@
     </message>
     <message>
         <source>Details shown</source>
+        <extracomment>Said by a screen reader of the category whose items are shown beside the list</extracomment>
         <translation>Détails affichés</translation>
     </message>
     <message>
         <source>Select all</source>
         <translation>Tout sélectionner</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Under the size of a category; %1: how many files it holds</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 is running</source>
+        <extracomment>Mark of a row; %1: an app</extracomment>
         <translation>Utilisé par %1</translation>
     </message>
     <message>
@@ -204,15 +227,24 @@
     </message>
     <message>
         <source>Show in %1</source>
+        <extracomment>Button; %1: the file manager, Finder or Files</extracomment>
         <translation>Voir dans %1</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Show %1 more</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Button under a list; %1: how many more rows it brings</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>and %1 more items</source>
-        <translation type="unfinished"></translation>
+        <extracomment>At the end of a list; %1: how many rows are not shown</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>&lt;b&gt;%Ln file(s) skipped&lt;/b&gt; because they were in use or protected. Quit the apps using them and rescan to remove them.</source>
@@ -223,6 +255,7 @@
     </message>
     <message>
         <source>For example: %1</source>
+        <extracomment>%1: a path; follows “… files skipped …”</extracomment>
         <translation>Par exemple&#xa0;: %1</translation>
     </message>
     <message>
@@ -235,10 +268,12 @@
     </message>
     <message>
         <source>Available before</source>
+        <extracomment>Free space on the disk before the cleanup, over a size</extracomment>
         <translation>Disponible avant</translation>
     </message>
     <message>
         <source>Available now</source>
+        <extracomment>Free space on the disk after the cleanup, over a size</extracomment>
         <translation>Disponible maintenant</translation>
     </message>
     <message>
@@ -247,6 +282,7 @@
     </message>
     <message>
         <source>Done</source>
+        <extracomment>Button that closes the report</extracomment>
         <translation>Terminé</translation>
     </message>
     <message>
@@ -291,6 +327,7 @@
     </message>
     <message>
         <source>%1 is open. Quit it to include its cache.</source>
+        <extracomment>%1: an app</extracomment>
         <translation>%1 est en cours d’exécution. Quittez cette app pour inclure son cache.</translation>
     </message>
     <message>
@@ -311,30 +348,37 @@
     </message>
     <message>
         <source>Cleanup</source>
+        <extracomment>Noun: the page for cleaning</extracomment>
         <translation>Nettoyage</translation>
     </message>
     <message>
         <source>Cleaning</source>
+        <extracomment>Heading while a cleanup runs</extracomment>
         <translation>Nettoyage</translation>
     </message>
     <message>
         <source>In progress</source>
+        <extracomment>Small heading over “Cleaning” and “Scanning”</extracomment>
         <translation>En cours</translation>
     </message>
     <message>
         <source>of %1</source>
+        <extracomment>Under the size that was cleaned so far; %1: the size of the whole</extracomment>
         <translation>sur %1</translation>
     </message>
     <message>
         <source>Select recommended</source>
+        <extracomment>Button: tick the recommended categories</extracomment>
         <translation>Sélection recommandée</translation>
     </message>
     <message>
         <source>Rescan</source>
+        <extracomment>Button: scan again</extracomment>
         <translation>Réanalyser</translation>
     </message>
     <message>
         <source>Selection</source>
+        <extracomment>Said by a screen reader of the bar that shows what is ticked</extracomment>
         <translation>Sélection</translation>
     </message>
     <message>
@@ -343,26 +387,32 @@
     </message>
     <message>
         <source>%1 can be cleaned</source>
+        <extracomment>Heading; %1: a size</extracomment>
         <translation>%1 à nettoyer</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected%3</source>
+        <extracomment>%2: a size; %3: nothing or “ · some need admin”; leave the tag as it is</extracomment>
         <translation>Sélection&#xa0;: &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt;%3</translation>
     </message>
     <message>
         <source> · some need admin</source>
+        <extracomment>Follows “… selected”: some of it needs administrator rights</extracomment>
         <translation> · droits d’admin requis</translation>
     </message>
     <message>
         <source>moved to the %1</source>
+        <extracomment>What will become of the selected files, as the tip of the button that cleans them; %1: the Trash</extracomment>
         <translation>mise à la %1</translation>
     </message>
     <message>
         <source>deleted permanently</source>
+        <extracomment>What will become of the selected files, as the tip of the button that cleans them</extracomment>
         <translation>suppression définitive</translation>
     </message>
     <message>
         <source>Clean %1</source>
+        <extracomment>Button; %1: a size</extracomment>
         <translation>Nettoyer %1</translation>
     </message>
     <message>
@@ -375,18 +425,22 @@
     </message>
     <message>
         <source>Scanning</source>
+        <extracomment>Heading while a scan runs</extracomment>
         <translation>Analyse</translation>
     </message>
     <message>
         <source>Items checked</source>
+        <extracomment>Caption of a counter</extracomment>
         <translation>Éléments examinés</translation>
     </message>
     <message>
         <source>Elapsed</source>
+        <extracomment>Caption of a counter: time since the start</extracomment>
         <translation>Écoulé</translation>
     </message>
     <message>
         <source>Remaining</source>
+        <extracomment>Caption of a counter: time until the end</extracomment>
         <translation>Restant</translation>
     </message>
     <message>
@@ -395,6 +449,7 @@
     </message>
     <message>
         <source>found</source>
+        <extracomment>Under a size: so much was found until now</extracomment>
         <translation>trouvés</translation>
     </message>
     <message>
@@ -458,6 +513,7 @@
     </message>
     <message>
         <source>%1 and %2</source>
+        <extracomment>%1: one or more words, with commas; %2: the last one</extracomment>
         <translation>%1 et %2</translation>
     </message>
     <message>
@@ -470,6 +526,7 @@
     </message>
     <message>
         <source>Usage: %1</source>
+        <extracomment>%1: a command line, which stays as it is</extracomment>
         <translation>Utilisation&#xa0;: %1</translation>
     </message>
     <message>
@@ -482,10 +539,12 @@
     </message>
     <message>
         <source>Say &quot;%1&quot; to learn about one.</source>
+        <extracomment>%1: a command line; one: one of the commands above</extracomment>
         <translation>Tapez «&#xa0;%1&#xa0;» pour en savoir plus sur une commande.</translation>
     </message>
     <message>
         <source>Categories: %1</source>
+        <extracomment>%1: ids, which stay as they are</extracomment>
         <translation>Catégories&#xa0;: %1</translation>
     </message>
     <message>
@@ -498,10 +557,12 @@
     </message>
     <message>
         <source>%1 is one word too many</source>
+        <extracomment>%1: a word in quotes</extracomment>
         <translation>%1 est de trop</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no --%2</source>
+        <extracomment>%1: a command; %2: an option</extracomment>
         <translation>«&#xa0;%1&#xa0;» n’accepte pas l’option --%2</translation>
     </message>
     <message>
@@ -534,6 +595,7 @@
     </message>
     <message>
         <source>Look at the rules in the settings of Tarnwick; or mend %1, or remove it together with %2.</source>
+        <extracomment>%1, %2: paths</extracomment>
         <translation>Vérifiez les règles dans les réglages de Tarnwick&#xa0;; sinon, réparez %1, ou supprimez ce fichier en même temps que %2.</translation>
     </message>
     <message>
@@ -554,26 +616,37 @@
     </message>
     <message>
         <source>Scanning</source>
+        <extracomment>What the program does now, in a line that tells how far it is</extracomment>
         <translation>Analyse</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Cleaning</source>
+        <extracomment>What the program does now, in a line that tells how far it is</extracomment>
         <translation>Nettoyage</translation>
     </message>
     <message>
         <source>%1 of %2</source>
+        <extracomment>%1, %2: sizes, or numbers of rows</extracomment>
         <translation>%1 sur %2</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 of %2 files</source>
-        <translation type="unfinished"></translation>
+        <extracomment>The forms count %2</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Searching</source>
+        <extracomment>What the program does now, in a line that tells how far it is</extracomment>
         <translation>Recherche</translation>
     </message>
     <message>
@@ -582,6 +655,7 @@
     </message>
     <message>
         <source>cancelling…</source>
+        <extracomment>What the program does now, in a line that tells how far it is</extracomment>
         <translation>annulation…</translation>
     </message>
     <message>
@@ -590,18 +664,22 @@
     </message>
     <message>
         <source>1 file</source>
+        <extracomment>Stands alone or as %1 or %2 of another text</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 ms</source>
+        <extracomment>Milliseconds</extracomment>
         <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 s</source>
+        <extracomment>Seconds</extracomment>
         <translation>%1 s</translation>
     </message>
     <message>
         <source>Not everything could be read: %1.</source>
+        <extracomment>%1: titles, with commas</extracomment>
         <translation>Tout n’a pas pu être lu&#xa0;: %1.</translation>
     </message>
     <message>
@@ -614,18 +692,22 @@
     </message>
     <message>
         <source>Size</source>
+        <extracomment>Head of a column</extracomment>
         <translation>Taille</translation>
     </message>
     <message>
         <source>Files</source>
+        <extracomment>Head of a column: how many</extracomment>
         <translation>Fichiers</translation>
     </message>
     <message>
         <source>Rating</source>
+        <extracomment>Head of a column: safe, review or permanent</extracomment>
         <translation>Niveau</translation>
     </message>
     <message>
         <source>Where</source>
+        <extracomment>Head of a column: the folder</extracomment>
         <translation>Emplacement</translation>
     </message>
     <message>
@@ -634,34 +716,44 @@
     </message>
     <message>
         <source>%1 of it is safe to clean: tarnwick-cli clean</source>
+        <extracomment>%1: a size; the command stays as it is</extracomment>
         <translation>Dont %1 à nettoyer sans risque&#xa0;: tarnwick-cli clean</translation>
     </message>
     <message>
         <source>%1 is running, so %2 of its data will stay.</source>
+        <extracomment>%1: an app; %2: a size</extracomment>
         <translation>%1 est en cours d’exécution&#xa0;: une partie de ses données (%2) restera en place.</translation>
     </message>
     <message>
         <source>Left alone unless you name it: %1. To clean it: --only %2</source>
+        <extracomment>%1: titles with sizes; %2: ids</extracomment>
         <translation>Laissé de côté sauf demande expresse&#xa0;: %1. Pour le nettoyer&#xa0;: --only %2</translation>
     </message>
     <message>
         <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
+        <extracomment>%1: a size</extracomment>
         <translation>Une partie (%1) se trouve sur un volume sans Corbeille et restera en place, sauf avec --delete.</translation>
     </message>
     <message>
         <source>deleted for good</source>
+        <extracomment>In a table: what will become of a category</extracomment>
         <translation>suppression définitive</translation>
     </message>
     <message>
         <source>moved to the Trash</source>
         <translation>mise à la Corbeille</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
-        <translation>Ignorés, %1 en tout&#xa0;; le journal dit pourquoi&#xa0;:</translation>
+        <extracomment>A list of files follows; %1: how many</extracomment>
+        <translation type="unfinished">
+            <numerusform>Ignorés, %1 en tout&#xa0;; le journal dit pourquoi&#xa0;:</numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Left alone, because they are running: %1.</source>
+        <extracomment>%1: apps, with commas</extracomment>
         <translation>Laissées de côté, car en cours d’exécution&#xa0;: %1.</translation>
     </message>
     <message>
@@ -670,6 +762,7 @@
     </message>
     <message>
         <source>Scanned in %1. Nothing was changed.</source>
+        <extracomment>%1: a time such as “2.1 s”</extracomment>
         <translation>Analyse effectuée en %1. Rien n’a été modifié.</translation>
     </message>
     <message>
@@ -678,6 +771,7 @@
     </message>
     <message>
         <source>Delete %1 for good?</source>
+        <extracomment>%1: a size, as %2 of the two that follow</extracomment>
         <translation>Supprimer définitivement %1&#xa0;?</translation>
     </message>
     <message>
@@ -692,9 +786,13 @@
         <source>This was a dry run: nothing was touched.</source>
         <translation>Ceci était une simulation&#xa0;: rien n’a été touché.</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Freed %1, removed %2.</source>
-        <translation>Espace libéré&#xa0;: %1&#xa0;; supprimé&#xa0;: %2.</translation>
+        <extracomment>%1: a size; %2: “1 file” or “%1 files”, which the forms count</extracomment>
+        <translation type="unfinished">
+            <numerusform>Espace libéré&#xa0;: %1&#xa0;; supprimé&#xa0;: %2.</numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
@@ -706,6 +804,7 @@
     </message>
     <message>
         <source>Kind</source>
+        <extracomment>Head of a column: the kind of a file</extracomment>
         <translation>Type</translation>
     </message>
     <message>
@@ -714,22 +813,33 @@
     </message>
     <message>
         <source>File</source>
+        <extracomment>Head of a column: a file&apos;s path</extracomment>
         <translation>Fichier</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>The largest %1 of %2 files are listed.</source>
-        <translation type="unfinished"></translation>
+        <extracomment>The forms count %2</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>No file in the home folder takes %1 or more.</source>
+        <extracomment>%1: a size</extracomment>
         <translation>Aucun fichier du dossier personnel n’occupe %1 ou plus.</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Searched %1 in %2. Nothing was changed.</source>
-        <translation>Recherche dans %1 en %2. Rien n’a été modifié.</translation>
+        <extracomment>%1: “1 file” or “%1 files”, which the forms count; %2: a time such as “2.1 s”</extracomment>
+        <translation type="unfinished">
+            <numerusform>Recherche dans %1 en %2. Rien n’a été modifié.</numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>at least %1</source>
+        <extracomment>%1: a size; not everything could be measured</extracomment>
         <translation>au moins %1</translation>
     </message>
     <message>
@@ -742,14 +852,17 @@
     </message>
     <message>
         <source>Largest: %1</source>
+        <extracomment>%1: names of folders, with commas</extracomment>
         <translation>Le plus gros&#xa0;: %1</translation>
     </message>
     <message>
         <source>You can reclaim</source>
+        <extracomment>Heading over the rows that the user can do something about</extracomment>
         <translation>Espace récupérable</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
+        <extracomment>Heading over the rows that the user can do nothing about</extracomment>
         <translation>Géré par macOS</translation>
     </message>
     <message>
@@ -758,6 +871,7 @@
     </message>
     <message>
         <source>%1 of it you can act on.</source>
+        <extracomment>%1: a size</extracomment>
         <translation>Vous pouvez agir sur %1 de ce total.</translation>
     </message>
     <message>
@@ -769,10 +883,12 @@
     <name>DiskOrb</name>
     <message>
         <source>%1% used</source>
+        <extracomment>Said by a screen reader; %1: how much of the disk</extracomment>
         <translation>%1&#xa0;% utilisés</translation>
     </message>
     <message>
         <source>%1 can be cleaned</source>
+        <extracomment>Said by a screen reader; %1: a size</extracomment>
         <translation>%1 à nettoyer</translation>
     </message>
 </context>
@@ -780,21 +896,73 @@
     <name>Gauge</name>
     <message>
         <source>%1 used</source>
+        <extracomment>Said by a screen reader; %1: a share such as “73%”</extracomment>
         <translation>%1 utilisés</translation>
     </message>
     <message>
         <source>used</source>
+        <extracomment>Under a share such as “73%”: so much of the disk is used</extracomment>
         <translation>utilisés</translation>
+    </message>
+</context>
+<context>
+    <name>LargeFileFinder</name>
+    <message>
+        <source>Disk image</source>
+        <extracomment>Kind of a file, as the following</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Partial download</source>
+        <extracomment>Kind of a file: a download that has not ended</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Installer</source>
+        <extracomment>Kind of a file: it installs a program</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <extracomment>Kind of a file: a picture</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <extracomment>Kind of a file: any other</extracomment>
+        <translation type="unfinished">Fichier</translation>
     </message>
 </context>
 <context>
     <name>LargeFilesPage</name>
     <message>
         <source>Selected</source>
+        <extracomment>Said by a screen reader of the column of ticks</extracomment>
         <translation>Sélection</translation>
     </message>
     <message>
         <source>ascending</source>
+        <extracomment>Said by a screen reader after a column: how it is sorted</extracomment>
         <translation>ordre croissant</translation>
     </message>
     <message>
@@ -803,10 +971,12 @@
     </message>
     <message>
         <source>Space Map</source>
+        <extracomment>Name of the page with the map of large files</extracomment>
         <translation>Carte du disque</translation>
     </message>
     <message>
         <source>Rescan</source>
+        <extracomment>Button: search again</extracomment>
         <translation>Réanalyser</translation>
     </message>
     <message>
@@ -823,10 +993,12 @@
     </message>
     <message>
         <source>Home folder · over %1</source>
+        <extracomment>Small heading; %1: the least size of files that are listed</extracomment>
         <translation>Dossier personnel · plus de %1</translation>
     </message>
     <message>
         <source>All</source>
+        <extracomment>Filter of a list of files: every file</extracomment>
         <translation>Tous</translation>
     </message>
     <message>
@@ -835,14 +1007,17 @@
     </message>
     <message>
         <source>Show in %1</source>
+        <extracomment>Button; %1: the file manager, Finder or Files</extracomment>
         <translation>Voir dans %1</translation>
     </message>
     <message>
         <source>Move to %1</source>
+        <extracomment>Button; %1: the Trash</extracomment>
         <translation>Mettre à la %1</translation>
     </message>
     <message>
         <source>Show</source>
+        <extracomment>Said by a screen reader of the filters: which files to show</extracomment>
         <translation>Afficher</translation>
     </message>
     <message>
@@ -853,13 +1028,21 @@
         <source>Largest files</source>
         <translation>Fichiers les plus gros</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Unused %1+ months</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Filter of a list of files: not opened for %1 months or more (3, 6, 12 or 24)</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
-        <translation type="unfinished"></translation>
+        <extracomment>%2, %3: sizes; %4: how many files are listed, which the forms count; leave the tag as it is</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Looking for large files…</source>
@@ -867,14 +1050,17 @@
     </message>
     <message>
         <source>Large files</source>
+        <extracomment>Caption of a counter</extracomment>
         <translation>Gros fichiers</translation>
     </message>
     <message>
         <source>Largest so far</source>
+        <extracomment>Heading of a list while the search runs</extracomment>
         <translation>Les plus gros à ce stade</translation>
     </message>
     <message>
         <source>Sort by</source>
+        <extracomment>Said by a screen reader of the heads of the columns</extracomment>
         <translation>Trier par</translation>
     </message>
 </context>
@@ -882,6 +1068,7 @@
     <name>LoginEntry</name>
     <message>
         <source>%1 is not from Tarnwick and was left as it is. Remove it to open Tarnwick at login.</source>
+        <extracomment>%1: a path</extracomment>
         <translation>%1 ne vient pas de Tarnwick et n’a pas été modifié. Supprimez ce fichier pour ouvrir Tarnwick avec la session.</translation>
     </message>
     <message>
@@ -901,6 +1088,7 @@
     </message>
     <message>
         <source>%1 is almost full. Run Smart Scan to free up space.</source>
+        <extracomment>%1: the disk, such as “System disk”</extracomment>
         <translation>Le volume «&#xa0;%1&#xa0;» est presque saturé. Lancez l’analyse intelligente pour libérer de l’espace.</translation>
     </message>
 </context>
@@ -964,6 +1152,7 @@
     </message>
     <message>
         <source>Cleanup</source>
+        <extracomment>Entry of the menu View: the page Cleanup</extracomment>
         <translation>Nettoyage</translation>
     </message>
     <message>
@@ -988,6 +1177,7 @@
     </message>
     <message>
         <source>Zoom</source>
+        <extracomment>Entry of the menu Window: make the window large, or as it was</extracomment>
         <translation>Agrandir</translation>
     </message>
     <message>
@@ -996,14 +1186,17 @@
     </message>
     <message>
         <source>Guide</source>
+        <extracomment>Entry of the menu Help: the guide on the website</extracomment>
         <translation>Guide</translation>
     </message>
     <message>
         <source>FAQ</source>
+        <extracomment>Entry of the menu Help: frequently asked questions</extracomment>
         <translation>FAQ</translation>
     </message>
     <message>
         <source>Open Log Folder</source>
+        <extracomment>Entry of the menu Help: the folder with the logs of cleanups</extracomment>
         <translation>Ouvrir le dossier des journaux</translation>
     </message>
     <message>
@@ -1016,6 +1209,7 @@
     </message>
     <message>
         <source>File</source>
+        <extracomment>Title of a menu</extracomment>
         <translation>Fichier</translation>
     </message>
     <message>
@@ -1087,6 +1281,7 @@
     </message>
     <message>
         <source>Quit</source>
+        <extracomment>Button: quit Tarnwick</extracomment>
         <translation>Quitter</translation>
     </message>
     <message>
@@ -1095,6 +1290,7 @@
     </message>
     <message>
         <source>Emptying the %1 can&apos;t be undone. Everything else goes to the %1.</source>
+        <extracomment>%1: the Trash</extracomment>
         <translation>Vider la %1 est irréversible. Tout le reste sera mis à la %1.</translation>
     </message>
     <message>
@@ -1103,22 +1299,27 @@
     </message>
     <message>
         <source>Clean and delete</source>
+        <extracomment>Button: clean, where some of it is deleted for good</extracomment>
         <translation>Nettoyer et supprimer</translation>
     </message>
     <message>
         <source>Clean</source>
+        <extracomment>Button: start the cleanup</extracomment>
         <translation>Nettoyer</translation>
     </message>
     <message>
         <source>Clean %1?</source>
+        <extracomment>Heading of the question; %1: a size</extracomment>
         <translation>Nettoyer %1&#xa0;?</translation>
     </message>
     <message>
         <source>%1 of it will stay: there is no %2 on its volume.</source>
+        <extracomment>%1: a size; %2: the Trash</extracomment>
         <translation>Une partie (%1) restera en place&#xa0;: il n’y a pas de %2 sur son volume.</translation>
     </message>
     <message>
         <source>%1 of it will stay while these apps are open: %2.</source>
+        <extracomment>%1: a size; %2: apps, with commas</extracomment>
         <translation>Une partie (%1) restera en place tant que ces apps sont ouvertes&#xa0;: %2.</translation>
     </message>
     <message>
@@ -1131,10 +1332,12 @@
     </message>
     <message>
         <source>Undo</source>
+        <extracomment>Button: put the files back that were moved to the Trash</extracomment>
         <translation>Annuler</translation>
     </message>
     <message>
         <source>Version %1 is available. You have %2.</source>
+        <extracomment>%1, %2: versions such as “1.2.0”</extracomment>
         <translation>La version %1 est disponible. Vous avez la version %2.</translation>
     </message>
     <message>
@@ -1143,6 +1346,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
+        <extracomment>How much of the update is there; %1, %2: sizes</extracomment>
         <translation>%1 sur %2</translation>
     </message>
     <message>
@@ -1187,6 +1391,7 @@
     </message>
     <message>
         <source>Retry</source>
+        <extracomment>Button: look for updates again</extracomment>
         <translation>Réessayer</translation>
     </message>
     <message>
@@ -1199,6 +1404,7 @@
     </message>
     <message>
         <source>Later</source>
+        <extracomment>Button: do not update now</extracomment>
         <translation>Plus tard</translation>
     </message>
 </context>
@@ -1206,14 +1412,17 @@
     <name>OverviewPage</name>
     <message>
         <source>Scanned %1</source>
+        <extracomment>%1: when, as “today”, “yesterday” or “3 days ago”</extracomment>
         <translation>Analysé %1</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>The scheduled scan is switched off</extracomment>
         <translation>Désactivée</translation>
     </message>
     <message>
         <source>Weekly</source>
+        <extracomment>How often the scheduled scan runs</extracomment>
         <translation>Hebdomadaire</translation>
     </message>
     <message>
@@ -1226,26 +1435,35 @@
     </message>
     <message>
         <source>Overview</source>
+        <extracomment>Small heading over “Smart Scan”</extracomment>
         <translation>Vue d’ensemble</translation>
     </message>
     <message>
         <source>Rescan</source>
+        <extracomment>Button: scan again</extracomment>
         <translation>Réanalyser</translation>
     </message>
     <message>
         <source>Disk health</source>
+        <extracomment>Small heading</extracomment>
         <translation>État du disque</translation>
     </message>
     <message>
         <source>System files protected</source>
+        <extracomment>Mark with a green dot: they are never touched</extracomment>
         <translation>Fichiers système protégés</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Freed in the last %1 months</source>
-        <translation>Espace libéré au cours des %1 derniers mois</translation>
+        <extracomment>Said by a screen reader of a small chart; %1: 6</extracomment>
+        <translation type="unfinished">
+            <numerusform>Espace libéré au cours des %1 derniers mois</numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>See all</source>
+        <extracomment>Button: all categories</extracomment>
         <translation>Tout voir</translation>
     </message>
     <message>
@@ -1254,10 +1472,12 @@
     </message>
     <message>
         <source>free of %1</source>
+        <extracomment>Under the size of the free space; %1: the size of the disk</extracomment>
         <translation>libres sur %1</translation>
     </message>
     <message>
         <source>Review</source>
+        <extracomment>Button: look at what was found</extracomment>
         <translation>Vérifier</translation>
     </message>
     <message>
@@ -1266,6 +1486,7 @@
     </message>
     <message>
         <source>%1 ready to clean</source>
+        <extracomment>Headline; %1: a size, which is painted in colours</extracomment>
         <translation>%1 à nettoyer</translation>
     </message>
     <message>
@@ -1278,6 +1499,7 @@
     </message>
     <message>
         <source>%1 purgeable</source>
+        <extracomment>%1: the size of what the system gives back by itself when space runs low</extracomment>
         <translation>%1 purgeables</translation>
     </message>
     <message>
@@ -1286,10 +1508,12 @@
     </message>
     <message>
         <source>Reclaimable</source>
+        <extracomment>Legend of the disk: what can be cleaned</extracomment>
         <translation>Récupérable</translation>
     </message>
     <message>
         <source>Available</source>
+        <extracomment>Legend of the disk: what is free</extracomment>
         <translation>Disponible</translation>
     </message>
     <message>
@@ -1298,10 +1522,12 @@
     </message>
     <message>
         <source>Last scan</source>
+        <extracomment>Caption under when it was</extracomment>
         <translation>Dernière analyse</translation>
     </message>
     <message>
         <source>Freed this month</source>
+        <extracomment>Caption under a size</extracomment>
         <translation>Libéré ce mois-ci</translation>
     </message>
     <message>
@@ -1317,18 +1543,22 @@
     <name>Platform</name>
     <message>
         <source>System disk</source>
+        <extracomment>The name of the disk that the system starts from</extracomment>
         <translation>Disque système</translation>
     </message>
     <message>
         <source>Trash</source>
+        <extracomment>The Trash by its name in this language; stands in other texts as “%1”</extracomment>
         <translation>Corbeille</translation>
     </message>
     <message>
         <source>Finder</source>
+        <extracomment>The file manager of macOS; stands in other texts as “%1”</extracomment>
         <translation>le Finder</translation>
     </message>
     <message>
         <source>Files</source>
+        <extracomment>The file manager of Linux desktops; stands in other texts as “%1”</extracomment>
         <translation>Fichiers</translation>
     </message>
 </context>
@@ -1336,6 +1566,7 @@
     <name>SettingsPage</name>
     <message>
         <source>Locked</source>
+        <extracomment>Beside a rule that can not be changed</extracomment>
         <translation>Verrouillé</translation>
     </message>
     <message>
@@ -1348,6 +1579,7 @@
     </message>
     <message>
         <source>Granted</source>
+        <extracomment>Beside a permission that Tarnwick has</extracomment>
         <translation>Accordé</translation>
     </message>
     <message>
@@ -1372,6 +1604,7 @@
     </message>
     <message>
         <source>System default (%1)</source>
+        <extracomment>Of the languages: follow the system; %1: the language that this is now</extracomment>
         <translation>Langue du système (%1)</translation>
     </message>
     <message>
@@ -1380,6 +1613,7 @@
     </message>
     <message>
         <source>Cleaning</source>
+        <extracomment>Heading of settings</extracomment>
         <translation>Nettoyage</translation>
     </message>
     <message>
@@ -1392,10 +1626,12 @@
     </message>
     <message>
         <source>Exclusions</source>
+        <extracomment>Heading of settings: what is never cleaned</extracomment>
         <translation>Exclusions</translation>
     </message>
     <message>
         <source>About</source>
+        <extracomment>Heading of settings: about Tarnwick</extracomment>
         <translation>À propos</translation>
     </message>
     <message>
@@ -1404,6 +1640,7 @@
     </message>
     <message>
         <source>Move items to the %1</source>
+        <extracomment>%1: the Trash</extracomment>
         <translation>Mettre les éléments à la %1</translation>
     </message>
     <message>
@@ -1440,10 +1677,12 @@
     </message>
     <message>
         <source>Used by the “Unused” filter.</source>
+        <extracomment>“Unused” as on the page Space Map</extracomment>
         <translation>Utilisé par le filtre «&#xa0;Inutilisés&#xa0;».</translation>
     </message>
     <message>
         <source>3 months</source>
+        <extracomment>How long a file has not been opened</extracomment>
         <translation>3 mois</translation>
     </message>
     <message>
@@ -1468,6 +1707,7 @@
     </message>
     <message>
         <source>Off</source>
+        <extracomment>Of the scheduled scan: never</extracomment>
         <translation>Désactivée</translation>
     </message>
     <message>
@@ -1532,6 +1772,7 @@
     </message>
     <message>
         <source>Theme</source>
+        <extracomment>Light or dark colours</extracomment>
         <translation>Thème</translation>
     </message>
     <message>
@@ -1540,14 +1781,17 @@
     </message>
     <message>
         <source>System</source>
+        <extracomment>Of the theme: as the system has it</extracomment>
         <translation>Système</translation>
     </message>
     <message>
         <source>Light</source>
+        <extracomment>Of the theme: light colours</extracomment>
         <translation>Clair</translation>
     </message>
     <message>
         <source>Dark</source>
+        <extracomment>Of the theme: dark colours</extracomment>
         <translation>Sombre</translation>
     </message>
     <message>
@@ -1568,6 +1812,7 @@
     </message>
     <message>
         <source> — always skipped.</source>
+        <extracomment>Follows a list of folders</extracomment>
         <translation> — toujours ignorés.</translation>
     </message>
     <message>
@@ -1616,10 +1861,12 @@
     </message>
     <message>
         <source>These are my rules</source>
+        <extracomment>Button: the rules were looked at and are right</extracomment>
         <translation>Ce sont mes règles</translation>
     </message>
     <message>
         <source>Remove</source>
+        <extracomment>Button that takes a rule away; a screen reader says the rule after it</extracomment>
         <translation>Retirer</translation>
     </message>
     <message>
@@ -1639,10 +1886,12 @@
     <name>Sidebar</name>
     <message>
         <source>%1 available of %2</source>
+        <extracomment>Sizes of the free space and of the disk</extracomment>
         <translation>%1 disponibles sur %2</translation>
     </message>
     <message>
         <source>%1 free</source>
+        <extracomment>%1: the size of the free space</extracomment>
         <translation>%1 libres</translation>
     </message>
     <message>
@@ -1655,6 +1904,7 @@
     </message>
     <message>
         <source>Cleanup</source>
+        <extracomment>Noun: the page for cleaning</extracomment>
         <translation>Nettoyage</translation>
     </message>
     <message>
@@ -1671,6 +1921,7 @@
     </message>
     <message>
         <source>Clean</source>
+        <extracomment>Heading over the pages of the sidebar: what one comes here for</extracomment>
         <translation>Nettoyer</translation>
     </message>
     <message>
@@ -1682,6 +1933,7 @@
     <name>StepBar</name>
     <message>
         <source>Waiting</source>
+        <extracomment>State of a step of the scan, said by a screen reader</extracomment>
         <translation>En attente</translation>
     </message>
     <message>
@@ -1690,6 +1942,7 @@
     </message>
     <message>
         <source>Done</source>
+        <extracomment>State of a step of the scan, said by a screen reader</extracomment>
         <translation>Terminé</translation>
     </message>
 </context>
@@ -1697,6 +1950,7 @@
     <name>SystemData</name>
     <message>
         <source>Review in Finder</source>
+        <extracomment>Button of a row on the page System Data</extracomment>
         <translation>Voir dans le Finder</translation>
     </message>
     <message>
@@ -1713,10 +1967,12 @@
     </message>
     <message>
         <source>Delete unavailable</source>
+        <extracomment>Button: delete the simulator devices that can not be used any more</extracomment>
         <translation>Supprimer les indisponibles</translation>
     </message>
     <message>
         <source>Clean in Cleanup</source>
+        <extracomment>Button: go to the page Cleanup to clean it there</extracomment>
         <translation>Aller à Nettoyage</translation>
     </message>
     <message>
@@ -1725,27 +1981,40 @@
     </message>
     <message>
         <source>Couldn&apos;t open %1</source>
+        <extracomment>%1: a path</extracomment>
         <translation>Impossible d’ouvrir %1</translation>
     </message>
     <message>
         <source>1 item</source>
+        <extracomment>How many items were moved: %1 of “Moved %1 to the Trash”</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
-        <translation>Mis à la Corbeille&#xa0;: %1&#xa0;; impossible à déplacer&#xa0;: %2</translation>
+        <extracomment>%1: “1 item” or “%1 items”, which the forms count; %2: how many others</extracomment>
+        <translation type="unfinished">
+            <numerusform>Mis à la Corbeille&#xa0;: %1&#xa0;; impossible à déplacer&#xa0;: %2</numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Nothing to move</source>
         <translation>Rien à déplacer</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Moved %1 to the Trash</source>
-        <translation>Mis à la Corbeille&#xa0;: %1</translation>
+        <extracomment>%1: “1 item” or “%1 items”, which the forms count</extracomment>
+        <translation type="unfinished">
+            <numerusform>Mis à la Corbeille&#xa0;: %1</numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>There are no local snapshots to remove</source>
@@ -1755,12 +2024,17 @@
         <source>Snapshots were not removed</source>
         <translation>Les instantanés n’ont pas été supprimés</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Removed %1 of %2 snapshots</source>
-        <translation type="unfinished"></translation>
+        <extracomment>The forms count %2, how many there were</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Simulator cleanup failed: %1</source>
+        <extracomment>%1: what the tool said, in English</extracomment>
         <translation>Échec du nettoyage du simulateur&#xa0;: %1</translation>
     </message>
     <message>
@@ -1771,9 +2045,12 @@
         <source>Deleted 1 unavailable simulator device</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Deleted %1 unavailable simulator devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Xcode isn&apos;t installed</source>
@@ -2063,9 +2340,12 @@
         <source>1 snapshot</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>No permission to read</source>
@@ -2073,25 +2353,31 @@
     </message>
     <message>
         <source>at least %1</source>
+        <extracomment>%1: “1 snapshot” or “%1 snapshots”</extracomment>
         <translation>au moins %1</translation>
     </message>
     <message>
         <source>1 device</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>SystemDataPage</name>
     <message>
         <source>System Data</source>
+        <extracomment>Name of the page, and of what the system calls so in its own view of the disk</extracomment>
         <translation>Données système</translation>
     </message>
     <message>
         <source>Rescan</source>
+        <extracomment>Button: measure again</extracomment>
         <translation>Réanalyser</translation>
     </message>
     <message>
@@ -2108,10 +2394,12 @@
     </message>
     <message>
         <source>measured in System Data · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; you can act on</source>
+        <extracomment>Follows a size in large figures; %2: a size; leave the tag as it is</extracomment>
         <translation>mesurés dans les données système · vous pouvez agir sur &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Working…</source>
+        <extracomment>While what the user asked for is being done</extracomment>
         <translation>En cours…</translation>
     </message>
     <message>
@@ -2120,10 +2408,12 @@
     </message>
     <message>
         <source>%1 · %2</source>
+        <extracomment>%1: what it is; %2: its size</extracomment>
         <translation>%1 · %2</translation>
     </message>
     <message>
         <source>You can reclaim</source>
+        <extracomment>Heading over the rows that the user can do something about</extracomment>
         <translation>Espace récupérable</translation>
     </message>
     <message>
@@ -2132,6 +2422,7 @@
     </message>
     <message>
         <source>measured</source>
+        <extracomment>Under a size: so much was measured until now</extracomment>
         <translation>mesurés</translation>
     </message>
     <message>
@@ -2156,14 +2447,17 @@
     </message>
     <message>
         <source>at least %1</source>
+        <extracomment>%1: a size; not everything could be measured</extracomment>
         <translation>au moins %1</translation>
     </message>
     <message>
         <source>Largest: %1</source>
+        <extracomment>%1: names of folders, with commas</extracomment>
         <translation>Le plus gros&#xa0;: %1</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
+        <extracomment>Heading over the rows that the user can do nothing about</extracomment>
         <translation>Géré par macOS</translation>
     </message>
     <message>
@@ -2183,18 +2477,22 @@
     <name>TitleBar</name>
     <message>
         <source>Menu</source>
+        <extracomment>Button with the program’s menu</extracomment>
         <translation>Menu</translation>
     </message>
     <message>
         <source>Minimize</source>
+        <extracomment>Button of the window</extracomment>
         <translation>Réduire</translation>
     </message>
     <message>
         <source>Maximize</source>
+        <extracomment>Button of the window</extracomment>
         <translation>Agrandir</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button of the window</extracomment>
         <translation>Fermer</translation>
     </message>
 </context>
@@ -2226,6 +2524,7 @@
     </message>
     <message>
         <source>%1 · %2 free</source>
+        <extracomment>%1: the disk; %2: the size of its free space</extracomment>
         <translation>%1 · %2 libres</translation>
     </message>
 </context>
@@ -2261,10 +2560,12 @@
     </message>
     <message>
         <source>Could not save the update: %1</source>
+        <extracomment>%1: what the system says about it</extracomment>
         <translation>Impossible d’enregistrer la mise à jour&#xa0;: %1</translation>
     </message>
     <message>
         <source>The update could not be downloaded: %1</source>
+        <extracomment>%1: what the system says about it</extracomment>
         <translation>La mise à jour n’a pas pu être téléchargée&#xa0;: %1</translation>
     </message>
     <message>
@@ -2284,6 +2585,7 @@
     <name>fmt</name>
     <message>
         <source>TB</source>
+        <extracomment>A terabyte</extracomment>
         <translation>To</translation>
     </message>
     <message>
@@ -2300,10 +2602,12 @@
     </message>
     <message>
         <source>%1 %2</source>
+        <extracomment>A size; %1: a number; %2: a unit such as “GB”</extracomment>
         <translation>%1 %2</translation>
     </message>
     <message>
         <source>Today</source>
+        <extracomment>When something was done or opened last</extracomment>
         <translation>Aujourd’hui</translation>
     </message>
     <message>

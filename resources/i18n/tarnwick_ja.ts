@@ -20,19 +20,28 @@
     </message>
     <message>
         <source>1 file</source>
+        <extracomment>How many files were moved: %1 of “%1 (%2) moved to the %3”</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 (%2) moved to the %3</source>
-        <translation type="unfinished"></translation>
+        <extracomment>%1: “1 file” or “%1 files”; %2: their size; %3: the Trash. The forms count the files</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source> · %1 in use, skipped</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Follows “… moved to the Trash”; %1: how many files stayed, as they were open</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Restored %Ln file(s)</source>
@@ -121,14 +130,17 @@
     </message>
     <message>
         <source>Safe</source>
+        <extracomment>A rating of what a category holds: may be cleaned without a thought</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Review</source>
+        <extracomment>A rating of what a category holds: look at it before it is cleaned</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Permanent</source>
+        <extracomment>A rating of what a category holds: gone for good once cleaned</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -148,6 +160,7 @@
     <name>Cleaner</name>
     <message>
         <source>delete permanently</source>
+        <extracomment>In the head of a log, after “Mode: ”</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -167,6 +180,7 @@
     <name>CleanupPage</name>
     <message>
         <source>SAFE TO CLEAN</source>
+        <extracomment>Heading over some categories, always in capitals</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -179,18 +193,23 @@
     </message>
     <message>
         <source>Details shown</source>
+        <extracomment>Said by a screen reader of the category whose items are shown beside the list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Select all</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Under the size of a category; %1: how many files it holds</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 is running</source>
+        <extracomment>Mark of a row; %1: an app</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -203,15 +222,22 @@
     </message>
     <message>
         <source>Show in %1</source>
+        <extracomment>Button; %1: the file manager, Finder or Files</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Show %1 more</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Button under a list; %1: how many more rows it brings</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>and %1 more items</source>
-        <translation type="unfinished"></translation>
+        <extracomment>At the end of a list; %1: how many rows are not shown</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>&lt;b&gt;%Ln file(s) skipped&lt;/b&gt; because they were in use or protected. Quit the apps using them and rescan to remove them.</source>
@@ -221,6 +247,7 @@
     </message>
     <message>
         <source>For example: %1</source>
+        <extracomment>%1: a path; follows “… files skipped …”</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -233,10 +260,12 @@
     </message>
     <message>
         <source>Available before</source>
+        <extracomment>Free space on the disk before the cleanup, over a size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Available now</source>
+        <extracomment>Free space on the disk after the cleanup, over a size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -245,6 +274,7 @@
     </message>
     <message>
         <source>Done</source>
+        <extracomment>Button that closes the report</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -289,6 +319,7 @@
     </message>
     <message>
         <source>%1 is open. Quit it to include its cache.</source>
+        <extracomment>%1: an app</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -309,30 +340,37 @@
     </message>
     <message>
         <source>Cleanup</source>
+        <extracomment>Noun: the page for cleaning</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Cleaning</source>
+        <extracomment>Heading while a cleanup runs</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>In progress</source>
+        <extracomment>Small heading over “Cleaning” and “Scanning”</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>of %1</source>
+        <extracomment>Under the size that was cleaned so far; %1: the size of the whole</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Select recommended</source>
+        <extracomment>Button: tick the recommended categories</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Rescan</source>
+        <extracomment>Button: scan again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Selection</source>
+        <extracomment>Said by a screen reader of the bar that shows what is ticked</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -341,26 +379,32 @@
     </message>
     <message>
         <source>%1 can be cleaned</source>
+        <extracomment>Heading; %1: a size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected%3</source>
+        <extracomment>%2: a size; %3: nothing or “ · some need admin”; leave the tag as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source> · some need admin</source>
+        <extracomment>Follows “… selected”: some of it needs administrator rights</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>moved to the %1</source>
+        <extracomment>What will become of the selected files, as the tip of the button that cleans them; %1: the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>deleted permanently</source>
+        <extracomment>What will become of the selected files, as the tip of the button that cleans them</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Clean %1</source>
+        <extracomment>Button; %1: a size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -373,18 +417,22 @@
     </message>
     <message>
         <source>Scanning</source>
+        <extracomment>Heading while a scan runs</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Items checked</source>
+        <extracomment>Caption of a counter</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Elapsed</source>
+        <extracomment>Caption of a counter: time since the start</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Remaining</source>
+        <extracomment>Caption of a counter: time until the end</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -393,6 +441,7 @@
     </message>
     <message>
         <source>found</source>
+        <extracomment>Under a size: so much was found until now</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -456,6 +505,7 @@
     </message>
     <message>
         <source>%1 and %2</source>
+        <extracomment>%1: one or more words, with commas; %2: the last one</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -468,6 +518,7 @@
     </message>
     <message>
         <source>Usage: %1</source>
+        <extracomment>%1: a command line, which stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -480,10 +531,12 @@
     </message>
     <message>
         <source>Say &quot;%1&quot; to learn about one.</source>
+        <extracomment>%1: a command line; one: one of the commands above</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Categories: %1</source>
+        <extracomment>%1: ids, which stay as they are</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -496,10 +549,12 @@
     </message>
     <message>
         <source>%1 is one word too many</source>
+        <extracomment>%1: a word in quotes</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no --%2</source>
+        <extracomment>%1: a command; %2: an option</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -532,6 +587,7 @@
     </message>
     <message>
         <source>Look at the rules in the settings of Tarnwick; or mend %1, or remove it together with %2.</source>
+        <extracomment>%1, %2: paths</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -552,26 +608,35 @@
     </message>
     <message>
         <source>Scanning</source>
+        <extracomment>What the program does now, in a line that tells how far it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Cleaning</source>
+        <extracomment>What the program does now, in a line that tells how far it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 of %2</source>
+        <extracomment>%1, %2: sizes, or numbers of rows</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 of %2 files</source>
-        <translation type="unfinished"></translation>
+        <extracomment>The forms count %2</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Searching</source>
+        <extracomment>What the program does now, in a line that tells how far it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -580,6 +645,7 @@
     </message>
     <message>
         <source>cancelling…</source>
+        <extracomment>What the program does now, in a line that tells how far it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -588,18 +654,22 @@
     </message>
     <message>
         <source>1 file</source>
+        <extracomment>Stands alone or as %1 or %2 of another text</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 ms</source>
+        <extracomment>Milliseconds</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 s</source>
+        <extracomment>Seconds</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Not everything could be read: %1.</source>
+        <extracomment>%1: titles, with commas</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -612,18 +682,22 @@
     </message>
     <message>
         <source>Size</source>
+        <extracomment>Head of a column</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Files</source>
+        <extracomment>Head of a column: how many</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Rating</source>
+        <extracomment>Head of a column: safe, review or permanent</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Where</source>
+        <extracomment>Head of a column: the folder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -632,34 +706,43 @@
     </message>
     <message>
         <source>%1 of it is safe to clean: tarnwick-cli clean</source>
+        <extracomment>%1: a size; the command stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 is running, so %2 of its data will stay.</source>
+        <extracomment>%1: an app; %2: a size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Left alone unless you name it: %1. To clean it: --only %2</source>
+        <extracomment>%1: titles with sizes; %2: ids</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
+        <extracomment>%1: a size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>deleted for good</source>
+        <extracomment>In a table: what will become of a category</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>moved to the Trash</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A list of files follows; %1: how many</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Left alone, because they are running: %1.</source>
+        <extracomment>%1: apps, with commas</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -668,6 +751,7 @@
     </message>
     <message>
         <source>Scanned in %1. Nothing was changed.</source>
+        <extracomment>%1: a time such as “2.1 s”</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -676,6 +760,7 @@
     </message>
     <message>
         <source>Delete %1 for good?</source>
+        <extracomment>%1: a size, as %2 of the two that follow</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -690,9 +775,12 @@
         <source>This was a dry run: nothing was touched.</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Freed %1, removed %2.</source>
-        <translation type="unfinished"></translation>
+        <extracomment>%1: a size; %2: “1 file” or “%1 files”, which the forms count</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
@@ -704,6 +792,7 @@
     </message>
     <message>
         <source>Kind</source>
+        <extracomment>Head of a column: the kind of a file</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -712,22 +801,31 @@
     </message>
     <message>
         <source>File</source>
+        <extracomment>Head of a column: a file&apos;s path</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>The largest %1 of %2 files are listed.</source>
-        <translation type="unfinished"></translation>
+        <extracomment>The forms count %2</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>No file in the home folder takes %1 or more.</source>
+        <extracomment>%1: a size</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Searched %1 in %2. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <extracomment>%1: “1 file” or “%1 files”, which the forms count; %2: a time such as “2.1 s”</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>at least %1</source>
+        <extracomment>%1: a size; not everything could be measured</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -740,14 +838,17 @@
     </message>
     <message>
         <source>Largest: %1</source>
+        <extracomment>%1: names of folders, with commas</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>You can reclaim</source>
+        <extracomment>Heading over the rows that the user can do something about</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Managed by macOS</source>
+        <extracomment>Heading over the rows that the user can do nothing about</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -756,6 +857,7 @@
     </message>
     <message>
         <source>%1 of it you can act on.</source>
+        <extracomment>%1: a size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -767,10 +869,12 @@
     <name>DiskOrb</name>
     <message>
         <source>%1% used</source>
+        <extracomment>Said by a screen reader; %1: how much of the disk</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 can be cleaned</source>
+        <extracomment>Said by a screen reader; %1: a size</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -778,10 +882,60 @@
     <name>Gauge</name>
     <message>
         <source>%1 used</source>
+        <extracomment>Said by a screen reader; %1: a share such as “73%”</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>used</source>
+        <extracomment>Under a share such as “73%”: so much of the disk is used</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LargeFileFinder</name>
+    <message>
+        <source>Disk image</source>
+        <extracomment>Kind of a file, as the following</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Partial download</source>
+        <extracomment>Kind of a file: a download that has not ended</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Installer</source>
+        <extracomment>Kind of a file: it installs a program</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <extracomment>Kind of a file: a picture</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <extracomment>Kind of a file: any other</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -789,10 +943,12 @@
     <name>LargeFilesPage</name>
     <message>
         <source>Selected</source>
+        <extracomment>Said by a screen reader of the column of ticks</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>ascending</source>
+        <extracomment>Said by a screen reader after a column: how it is sorted</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -801,10 +957,12 @@
     </message>
     <message>
         <source>Space Map</source>
+        <extracomment>Name of the page with the map of large files</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Rescan</source>
+        <extracomment>Button: search again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -821,10 +979,12 @@
     </message>
     <message>
         <source>Home folder · over %1</source>
+        <extracomment>Small heading; %1: the least size of files that are listed</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>All</source>
+        <extracomment>Filter of a list of files: every file</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -833,14 +993,17 @@
     </message>
     <message>
         <source>Show in %1</source>
+        <extracomment>Button; %1: the file manager, Finder or Files</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Move to %1</source>
+        <extracomment>Button; %1: the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Show</source>
+        <extracomment>Said by a screen reader of the filters: which files to show</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -851,13 +1014,19 @@
         <source>Largest files</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Unused %1+ months</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Filter of a list of files: not opened for %1 months or more (3, 6, 12 or 24)</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
-        <translation type="unfinished"></translation>
+        <extracomment>%2, %3: sizes; %4: how many files are listed, which the forms count; leave the tag as it is</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Looking for large files…</source>
@@ -865,14 +1034,17 @@
     </message>
     <message>
         <source>Large files</source>
+        <extracomment>Caption of a counter</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Largest so far</source>
+        <extracomment>Heading of a list while the search runs</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Sort by</source>
+        <extracomment>Said by a screen reader of the heads of the columns</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -880,6 +1052,7 @@
     <name>LoginEntry</name>
     <message>
         <source>%1 is not from Tarnwick and was left as it is. Remove it to open Tarnwick at login.</source>
+        <extracomment>%1: a path</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -899,6 +1072,7 @@
     </message>
     <message>
         <source>%1 is almost full. Run Smart Scan to free up space.</source>
+        <extracomment>%1: the disk, such as “System disk”</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -962,6 +1136,7 @@
     </message>
     <message>
         <source>Cleanup</source>
+        <extracomment>Entry of the menu View: the page Cleanup</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -986,6 +1161,7 @@
     </message>
     <message>
         <source>Zoom</source>
+        <extracomment>Entry of the menu Window: make the window large, or as it was</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -994,14 +1170,17 @@
     </message>
     <message>
         <source>Guide</source>
+        <extracomment>Entry of the menu Help: the guide on the website</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>FAQ</source>
+        <extracomment>Entry of the menu Help: frequently asked questions</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Open Log Folder</source>
+        <extracomment>Entry of the menu Help: the folder with the logs of cleanups</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1014,6 +1193,7 @@
     </message>
     <message>
         <source>File</source>
+        <extracomment>Title of a menu</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1085,6 +1265,7 @@
     </message>
     <message>
         <source>Quit</source>
+        <extracomment>Button: quit Tarnwick</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1093,6 +1274,7 @@
     </message>
     <message>
         <source>Emptying the %1 can&apos;t be undone. Everything else goes to the %1.</source>
+        <extracomment>%1: the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1101,22 +1283,27 @@
     </message>
     <message>
         <source>Clean and delete</source>
+        <extracomment>Button: clean, where some of it is deleted for good</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Clean</source>
+        <extracomment>Button: start the cleanup</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Clean %1?</source>
+        <extracomment>Heading of the question; %1: a size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 of it will stay: there is no %2 on its volume.</source>
+        <extracomment>%1: a size; %2: the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 of it will stay while these apps are open: %2.</source>
+        <extracomment>%1: a size; %2: apps, with commas</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1129,10 +1316,12 @@
     </message>
     <message>
         <source>Undo</source>
+        <extracomment>Button: put the files back that were moved to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Version %1 is available. You have %2.</source>
+        <extracomment>%1, %2: versions such as “1.2.0”</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1141,6 +1330,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
+        <extracomment>How much of the update is there; %1, %2: sizes</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1185,6 +1375,7 @@
     </message>
     <message>
         <source>Retry</source>
+        <extracomment>Button: look for updates again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1197,6 +1388,7 @@
     </message>
     <message>
         <source>Later</source>
+        <extracomment>Button: do not update now</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1204,14 +1396,17 @@
     <name>OverviewPage</name>
     <message>
         <source>Scanned %1</source>
+        <extracomment>%1: when, as “today”, “yesterday” or “3 days ago”</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>The scheduled scan is switched off</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Weekly</source>
+        <extracomment>How often the scheduled scan runs</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1224,26 +1419,34 @@
     </message>
     <message>
         <source>Overview</source>
+        <extracomment>Small heading over “Smart Scan”</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Rescan</source>
+        <extracomment>Button: scan again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Disk health</source>
+        <extracomment>Small heading</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>System files protected</source>
+        <extracomment>Mark with a green dot: they are never touched</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Freed in the last %1 months</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Said by a screen reader of a small chart; %1: 6</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>See all</source>
+        <extracomment>Button: all categories</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1252,10 +1455,12 @@
     </message>
     <message>
         <source>free of %1</source>
+        <extracomment>Under the size of the free space; %1: the size of the disk</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Review</source>
+        <extracomment>Button: look at what was found</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1264,6 +1469,7 @@
     </message>
     <message>
         <source>%1 ready to clean</source>
+        <extracomment>Headline; %1: a size, which is painted in colours</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1276,6 +1482,7 @@
     </message>
     <message>
         <source>%1 purgeable</source>
+        <extracomment>%1: the size of what the system gives back by itself when space runs low</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1284,10 +1491,12 @@
     </message>
     <message>
         <source>Reclaimable</source>
+        <extracomment>Legend of the disk: what can be cleaned</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Available</source>
+        <extracomment>Legend of the disk: what is free</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1296,10 +1505,12 @@
     </message>
     <message>
         <source>Last scan</source>
+        <extracomment>Caption under when it was</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Freed this month</source>
+        <extracomment>Caption under a size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1315,18 +1526,22 @@
     <name>Platform</name>
     <message>
         <source>System disk</source>
+        <extracomment>The name of the disk that the system starts from</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Trash</source>
+        <extracomment>The Trash by its name in this language; stands in other texts as “%1”</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Finder</source>
+        <extracomment>The file manager of macOS; stands in other texts as “%1”</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Files</source>
+        <extracomment>The file manager of Linux desktops; stands in other texts as “%1”</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1334,6 +1549,7 @@
     <name>SettingsPage</name>
     <message>
         <source>Locked</source>
+        <extracomment>Beside a rule that can not be changed</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1346,6 +1562,7 @@
     </message>
     <message>
         <source>Granted</source>
+        <extracomment>Beside a permission that Tarnwick has</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1370,6 +1587,7 @@
     </message>
     <message>
         <source>System default (%1)</source>
+        <extracomment>Of the languages: follow the system; %1: the language that this is now</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1378,6 +1596,7 @@
     </message>
     <message>
         <source>Cleaning</source>
+        <extracomment>Heading of settings</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1390,10 +1609,12 @@
     </message>
     <message>
         <source>Exclusions</source>
+        <extracomment>Heading of settings: what is never cleaned</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>About</source>
+        <extracomment>Heading of settings: about Tarnwick</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1402,6 +1623,7 @@
     </message>
     <message>
         <source>Move items to the %1</source>
+        <extracomment>%1: the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1438,10 +1660,12 @@
     </message>
     <message>
         <source>Used by the “Unused” filter.</source>
+        <extracomment>“Unused” as on the page Space Map</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>3 months</source>
+        <extracomment>How long a file has not been opened</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1466,6 +1690,7 @@
     </message>
     <message>
         <source>Off</source>
+        <extracomment>Of the scheduled scan: never</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1530,6 +1755,7 @@
     </message>
     <message>
         <source>Theme</source>
+        <extracomment>Light or dark colours</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1538,14 +1764,17 @@
     </message>
     <message>
         <source>System</source>
+        <extracomment>Of the theme: as the system has it</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Light</source>
+        <extracomment>Of the theme: light colours</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Dark</source>
+        <extracomment>Of the theme: dark colours</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1566,6 +1795,7 @@
     </message>
     <message>
         <source> — always skipped.</source>
+        <extracomment>Follows a list of folders</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1614,10 +1844,12 @@
     </message>
     <message>
         <source>These are my rules</source>
+        <extracomment>Button: the rules were looked at and are right</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Remove</source>
+        <extracomment>Button that takes a rule away; a screen reader says the rule after it</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1637,10 +1869,12 @@
     <name>Sidebar</name>
     <message>
         <source>%1 available of %2</source>
+        <extracomment>Sizes of the free space and of the disk</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 free</source>
+        <extracomment>%1: the size of the free space</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1653,6 +1887,7 @@
     </message>
     <message>
         <source>Cleanup</source>
+        <extracomment>Noun: the page for cleaning</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1669,6 +1904,7 @@
     </message>
     <message>
         <source>Clean</source>
+        <extracomment>Heading over the pages of the sidebar: what one comes here for</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1680,6 +1916,7 @@
     <name>StepBar</name>
     <message>
         <source>Waiting</source>
+        <extracomment>State of a step of the scan, said by a screen reader</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1688,6 +1925,7 @@
     </message>
     <message>
         <source>Done</source>
+        <extracomment>State of a step of the scan, said by a screen reader</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1695,6 +1933,7 @@
     <name>SystemData</name>
     <message>
         <source>Review in Finder</source>
+        <extracomment>Button of a row on the page System Data</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1711,10 +1950,12 @@
     </message>
     <message>
         <source>Delete unavailable</source>
+        <extracomment>Button: delete the simulator devices that can not be used any more</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Clean in Cleanup</source>
+        <extracomment>Button: go to the page Cleanup to clean it there</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1723,27 +1964,37 @@
     </message>
     <message>
         <source>Couldn&apos;t open %1</source>
+        <extracomment>%1: a path</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>1 item</source>
+        <extracomment>How many items were moved: %1 of “Moved %1 to the Trash”</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
-        <translation type="unfinished"></translation>
+        <extracomment>%1: “1 item” or “%1 items”, which the forms count; %2: how many others</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Nothing to move</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Moved %1 to the Trash</source>
-        <translation type="unfinished"></translation>
+        <extracomment>%1: “1 item” or “%1 items”, which the forms count</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>There are no local snapshots to remove</source>
@@ -1753,12 +2004,16 @@
         <source>Snapshots were not removed</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Removed %1 of %2 snapshots</source>
-        <translation type="unfinished"></translation>
+        <extracomment>The forms count %2, how many there were</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Simulator cleanup failed: %1</source>
+        <extracomment>%1: what the tool said, in English</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1769,9 +2024,11 @@
         <source>Deleted 1 unavailable simulator device</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Deleted %1 unavailable simulator devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Xcode isn&apos;t installed</source>
@@ -2061,9 +2318,11 @@
         <source>1 snapshot</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>No permission to read</source>
@@ -2071,25 +2330,30 @@
     </message>
     <message>
         <source>at least %1</source>
+        <extracomment>%1: “1 snapshot” or “%1 snapshots”</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>1 device</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>SystemDataPage</name>
     <message>
         <source>System Data</source>
+        <extracomment>Name of the page, and of what the system calls so in its own view of the disk</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Rescan</source>
+        <extracomment>Button: measure again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2106,10 +2370,12 @@
     </message>
     <message>
         <source>measured in System Data · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; you can act on</source>
+        <extracomment>Follows a size in large figures; %2: a size; leave the tag as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Working…</source>
+        <extracomment>While what the user asked for is being done</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2118,10 +2384,12 @@
     </message>
     <message>
         <source>%1 · %2</source>
+        <extracomment>%1: what it is; %2: its size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>You can reclaim</source>
+        <extracomment>Heading over the rows that the user can do something about</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2130,6 +2398,7 @@
     </message>
     <message>
         <source>measured</source>
+        <extracomment>Under a size: so much was measured until now</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2154,14 +2423,17 @@
     </message>
     <message>
         <source>at least %1</source>
+        <extracomment>%1: a size; not everything could be measured</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Largest: %1</source>
+        <extracomment>%1: names of folders, with commas</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Managed by macOS</source>
+        <extracomment>Heading over the rows that the user can do nothing about</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2181,18 +2453,22 @@
     <name>TitleBar</name>
     <message>
         <source>Menu</source>
+        <extracomment>Button with the program’s menu</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Minimize</source>
+        <extracomment>Button of the window</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Maximize</source>
+        <extracomment>Button of the window</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button of the window</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2224,6 +2500,7 @@
     </message>
     <message>
         <source>%1 · %2 free</source>
+        <extracomment>%1: the disk; %2: the size of its free space</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2259,10 +2536,12 @@
     </message>
     <message>
         <source>Could not save the update: %1</source>
+        <extracomment>%1: what the system says about it</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The update could not be downloaded: %1</source>
+        <extracomment>%1: what the system says about it</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2282,6 +2561,7 @@
     <name>fmt</name>
     <message>
         <source>TB</source>
+        <extracomment>A terabyte</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2298,10 +2578,12 @@
     </message>
     <message>
         <source>%1 %2</source>
+        <extracomment>A size; %1: a number; %2: a unit such as “GB”</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Today</source>
+        <extracomment>When something was done or opened last</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>

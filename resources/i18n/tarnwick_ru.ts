@@ -20,19 +20,34 @@
     </message>
     <message>
         <source>1 file</source>
+        <extracomment>How many files were moved: %1 of “%1 (%2) moved to the %3”</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 (%2) moved to the %3</source>
-        <translation>Перемещено в %3: %1 (%2)</translation>
+        <extracomment>%1: “1 file” or “%1 files”; %2: their size; %3: the Trash. The forms count the files</extracomment>
+        <translation type="unfinished">
+            <numerusform>Перемещено в %3: %1 (%2)</numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source> · %1 in use, skipped</source>
-        <translation> · занято и пропущено: %1</translation>
+        <extracomment>Follows “… moved to the Trash”; %1: how many files stayed, as they were open</extracomment>
+        <translation type="unfinished">
+            <numerusform> · занято и пропущено: %1</numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Restored %Ln file(s)</source>
@@ -123,14 +138,17 @@
     </message>
     <message>
         <source>Safe</source>
+        <extracomment>A rating of what a category holds: may be cleaned without a thought</extracomment>
         <translation>Безопасно</translation>
     </message>
     <message>
         <source>Review</source>
+        <extracomment>A rating of what a category holds: look at it before it is cleaned</extracomment>
         <translation>Проверить</translation>
     </message>
     <message>
         <source>Permanent</source>
+        <extracomment>A rating of what a category holds: gone for good once cleaned</extracomment>
         <translation>Безвозвратно</translation>
     </message>
     <message>
@@ -150,6 +168,7 @@
     <name>Cleaner</name>
     <message>
         <source>delete permanently</source>
+        <extracomment>In the head of a log, after “Mode: ”</extracomment>
         <translation>безвозвратное удаление</translation>
     </message>
     <message>
@@ -169,6 +188,7 @@
     <name>CleanupPage</name>
     <message>
         <source>SAFE TO CLEAN</source>
+        <extracomment>Heading over some categories, always in capitals</extracomment>
         <translation>Безопасно очистить</translation>
     </message>
     <message>
@@ -181,18 +201,25 @@
     </message>
     <message>
         <source>Details shown</source>
+        <extracomment>Said by a screen reader of the category whose items are shown beside the list</extracomment>
         <translation>Подробности показаны</translation>
     </message>
     <message>
         <source>Select all</source>
         <translation>Выбрать всё</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Under the size of a category; %1: how many files it holds</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 is running</source>
+        <extracomment>Mark of a row; %1: an app</extracomment>
         <translation>Работает %1</translation>
     </message>
     <message>
@@ -205,15 +232,26 @@
     </message>
     <message>
         <source>Show in %1</source>
+        <extracomment>Button; %1: the file manager, Finder or Files</extracomment>
         <translation>Показать в %1</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Show %1 more</source>
-        <translation>Показать ещё %1</translation>
+        <extracomment>Button under a list; %1: how many more rows it brings</extracomment>
+        <translation type="unfinished">
+            <numerusform>Показать ещё %1</numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>and %1 more items</source>
-        <translation type="unfinished"></translation>
+        <extracomment>At the end of a list; %1: how many rows are not shown</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>&lt;b&gt;%Ln file(s) skipped&lt;/b&gt; because they were in use or protected. Quit the apps using them and rescan to remove them.</source>
@@ -225,6 +263,7 @@
     </message>
     <message>
         <source>For example: %1</source>
+        <extracomment>%1: a path; follows “… files skipped …”</extracomment>
         <translation>Например: %1</translation>
     </message>
     <message>
@@ -237,10 +276,12 @@
     </message>
     <message>
         <source>Available before</source>
+        <extracomment>Free space on the disk before the cleanup, over a size</extracomment>
         <translation>Было доступно</translation>
     </message>
     <message>
         <source>Available now</source>
+        <extracomment>Free space on the disk after the cleanup, over a size</extracomment>
         <translation>Доступно сейчас</translation>
     </message>
     <message>
@@ -249,6 +290,7 @@
     </message>
     <message>
         <source>Done</source>
+        <extracomment>Button that closes the report</extracomment>
         <translation>Готово</translation>
     </message>
     <message>
@@ -293,6 +335,7 @@
     </message>
     <message>
         <source>%1 is open. Quit it to include its cache.</source>
+        <extracomment>%1: an app</extracomment>
         <translation>Сейчас работает %1. Чтобы очистить и кэш этого приложения, завершите его.</translation>
     </message>
     <message>
@@ -313,30 +356,37 @@
     </message>
     <message>
         <source>Cleanup</source>
+        <extracomment>Noun: the page for cleaning</extracomment>
         <translation>Очистка</translation>
     </message>
     <message>
         <source>Cleaning</source>
+        <extracomment>Heading while a cleanup runs</extracomment>
         <translation>Очистка</translation>
     </message>
     <message>
         <source>In progress</source>
+        <extracomment>Small heading over “Cleaning” and “Scanning”</extracomment>
         <translation>Выполняется</translation>
     </message>
     <message>
         <source>of %1</source>
+        <extracomment>Under the size that was cleaned so far; %1: the size of the whole</extracomment>
         <translation>из %1</translation>
     </message>
     <message>
         <source>Select recommended</source>
+        <extracomment>Button: tick the recommended categories</extracomment>
         <translation>Выбрать рекомендуемое</translation>
     </message>
     <message>
         <source>Rescan</source>
+        <extracomment>Button: scan again</extracomment>
         <translation>Новый анализ</translation>
     </message>
     <message>
         <source>Selection</source>
+        <extracomment>Said by a screen reader of the bar that shows what is ticked</extracomment>
         <translation>Выбранное</translation>
     </message>
     <message>
@@ -345,26 +395,32 @@
     </message>
     <message>
         <source>%1 can be cleaned</source>
+        <extracomment>Heading; %1: a size</extracomment>
         <translation>Можно очистить %1</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected%3</source>
+        <extracomment>%2: a size; %3: nothing or “ · some need admin”; leave the tag as it is</extracomment>
         <translation>Выбрано &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt;%3</translation>
     </message>
     <message>
         <source> · some need admin</source>
+        <extracomment>Follows “… selected”: some of it needs administrator rights</extracomment>
         <translation> · не на всё хватает прав</translation>
     </message>
     <message>
         <source>moved to the %1</source>
+        <extracomment>What will become of the selected files, as the tip of the button that cleans them; %1: the Trash</extracomment>
         <translation>перемещение в %1</translation>
     </message>
     <message>
         <source>deleted permanently</source>
+        <extracomment>What will become of the selected files, as the tip of the button that cleans them</extracomment>
         <translation>безвозвратное удаление</translation>
     </message>
     <message>
         <source>Clean %1</source>
+        <extracomment>Button; %1: a size</extracomment>
         <translation>Очистить %1</translation>
     </message>
     <message>
@@ -377,18 +433,22 @@
     </message>
     <message>
         <source>Scanning</source>
+        <extracomment>Heading while a scan runs</extracomment>
         <translation>Анализ</translation>
     </message>
     <message>
         <source>Items checked</source>
+        <extracomment>Caption of a counter</extracomment>
         <translation>Проверено</translation>
     </message>
     <message>
         <source>Elapsed</source>
+        <extracomment>Caption of a counter: time since the start</extracomment>
         <translation>Прошло</translation>
     </message>
     <message>
         <source>Remaining</source>
+        <extracomment>Caption of a counter: time until the end</extracomment>
         <translation>Осталось</translation>
     </message>
     <message>
@@ -397,6 +457,7 @@
     </message>
     <message>
         <source>found</source>
+        <extracomment>Under a size: so much was found until now</extracomment>
         <translation>найдено</translation>
     </message>
     <message>
@@ -460,6 +521,7 @@
     </message>
     <message>
         <source>%1 and %2</source>
+        <extracomment>%1: one or more words, with commas; %2: the last one</extracomment>
         <translation>%1 и %2</translation>
     </message>
     <message>
@@ -472,6 +534,7 @@
     </message>
     <message>
         <source>Usage: %1</source>
+        <extracomment>%1: a command line, which stays as it is</extracomment>
         <translation>Использование: %1</translation>
     </message>
     <message>
@@ -484,10 +547,12 @@
     </message>
     <message>
         <source>Say &quot;%1&quot; to learn about one.</source>
+        <extracomment>%1: a command line; one: one of the commands above</extracomment>
         <translation>Справка по команде: «%1».</translation>
     </message>
     <message>
         <source>Categories: %1</source>
+        <extracomment>%1: ids, which stay as they are</extracomment>
         <translation>Категории: %1</translation>
     </message>
     <message>
@@ -500,10 +565,12 @@
     </message>
     <message>
         <source>%1 is one word too many</source>
+        <extracomment>%1: a word in quotes</extracomment>
         <translation>лишнее слово: %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no --%2</source>
+        <extracomment>%1: a command; %2: an option</extracomment>
         <translation>команда «%1» не принимает --%2</translation>
     </message>
     <message>
@@ -536,6 +603,7 @@
     </message>
     <message>
         <source>Look at the rules in the settings of Tarnwick; or mend %1, or remove it together with %2.</source>
+        <extracomment>%1, %2: paths</extracomment>
         <translation>Проверьте правила в настройках Tarnwick либо исправьте %1 или удалите этот файл вместе с %2.</translation>
     </message>
     <message>
@@ -556,26 +624,39 @@
     </message>
     <message>
         <source>Scanning</source>
+        <extracomment>What the program does now, in a line that tells how far it is</extracomment>
         <translation>Анализ</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Cleaning</source>
+        <extracomment>What the program does now, in a line that tells how far it is</extracomment>
         <translation>Очистка</translation>
     </message>
     <message>
         <source>%1 of %2</source>
+        <extracomment>%1, %2: sizes, or numbers of rows</extracomment>
         <translation>%1 из %2</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 of %2 files</source>
-        <translation type="unfinished"></translation>
+        <extracomment>The forms count %2</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Searching</source>
+        <extracomment>What the program does now, in a line that tells how far it is</extracomment>
         <translation>Поиск</translation>
     </message>
     <message>
@@ -584,6 +665,7 @@
     </message>
     <message>
         <source>cancelling…</source>
+        <extracomment>What the program does now, in a line that tells how far it is</extracomment>
         <translation>отмена…</translation>
     </message>
     <message>
@@ -592,18 +674,22 @@
     </message>
     <message>
         <source>1 file</source>
+        <extracomment>Stands alone or as %1 or %2 of another text</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 ms</source>
+        <extracomment>Milliseconds</extracomment>
         <translation>%1 мс</translation>
     </message>
     <message>
         <source>%1 s</source>
+        <extracomment>Seconds</extracomment>
         <translation>%1 с</translation>
     </message>
     <message>
         <source>Not everything could be read: %1.</source>
+        <extracomment>%1: titles, with commas</extracomment>
         <translation>Удалось прочитать не всё: %1.</translation>
     </message>
     <message>
@@ -616,18 +702,22 @@
     </message>
     <message>
         <source>Size</source>
+        <extracomment>Head of a column</extracomment>
         <translation>Размер</translation>
     </message>
     <message>
         <source>Files</source>
+        <extracomment>Head of a column: how many</extracomment>
         <translation>Файлы</translation>
     </message>
     <message>
         <source>Rating</source>
+        <extracomment>Head of a column: safe, review or permanent</extracomment>
         <translation>Оценка</translation>
     </message>
     <message>
         <source>Where</source>
+        <extracomment>Head of a column: the folder</extracomment>
         <translation>Где</translation>
     </message>
     <message>
@@ -636,34 +726,45 @@
     </message>
     <message>
         <source>%1 of it is safe to clean: tarnwick-cli clean</source>
+        <extracomment>%1: a size; the command stays as it is</extracomment>
         <translation>Из этого можно безопасно очистить %1: tarnwick-cli clean</translation>
     </message>
     <message>
         <source>%1 is running, so %2 of its data will stay.</source>
+        <extracomment>%1: an app; %2: a size</extracomment>
         <translation>Сейчас работает %1, поэтому данные этого приложения останутся (%2).</translation>
     </message>
     <message>
         <source>Left alone unless you name it: %1. To clean it: --only %2</source>
+        <extracomment>%1: titles with sizes; %2: ids</extracomment>
         <translation>Без прямого указания не очищается: %1. Чтобы очистить: --only %2</translation>
     </message>
     <message>
         <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
+        <extracomment>%1: a size</extracomment>
         <translation>Из этого %1 лежит на томе без Корзины и без --delete останется.</translation>
     </message>
     <message>
         <source>deleted for good</source>
+        <extracomment>In a table: what will become of a category</extracomment>
         <translation>удаляется безвозвратно</translation>
     </message>
     <message>
         <source>moved to the Trash</source>
         <translation>перемещается в Корзину</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
-        <translation>Пропущено, всего %1; причины указаны в журнале:</translation>
+        <extracomment>A list of files follows; %1: how many</extracomment>
+        <translation type="unfinished">
+            <numerusform>Пропущено, всего %1; причины указаны в журнале:</numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Left alone, because they are running: %1.</source>
+        <extracomment>%1: apps, with commas</extracomment>
         <translation>Не тронуты, потому что сейчас работают: %1.</translation>
     </message>
     <message>
@@ -672,6 +773,7 @@
     </message>
     <message>
         <source>Scanned in %1. Nothing was changed.</source>
+        <extracomment>%1: a time such as “2.1 s”</extracomment>
         <translation>Анализ занял %1. Ничего не изменено.</translation>
     </message>
     <message>
@@ -680,6 +782,7 @@
     </message>
     <message>
         <source>Delete %1 for good?</source>
+        <extracomment>%1: a size, as %2 of the two that follow</extracomment>
         <translation>Безвозвратно удалить %1?</translation>
     </message>
     <message>
@@ -694,9 +797,14 @@
         <source>This was a dry run: nothing was touched.</source>
         <translation>Это был пробный запуск: ничего не тронуто.</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Freed %1, removed %2.</source>
-        <translation>Освобождено: %1, удалено: %2.</translation>
+        <extracomment>%1: a size; %2: “1 file” or “%1 files”, which the forms count</extracomment>
+        <translation type="unfinished">
+            <numerusform>Освобождено: %1, удалено: %2.</numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
@@ -708,6 +816,7 @@
     </message>
     <message>
         <source>Kind</source>
+        <extracomment>Head of a column: the kind of a file</extracomment>
         <translation>Тип</translation>
     </message>
     <message>
@@ -716,22 +825,35 @@
     </message>
     <message>
         <source>File</source>
+        <extracomment>Head of a column: a file&apos;s path</extracomment>
         <translation>Файл</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>The largest %1 of %2 files are listed.</source>
-        <translation>Показаны самые большие файлы: %1 из %2.</translation>
+        <extracomment>The forms count %2</extracomment>
+        <translation type="unfinished">
+            <numerusform>Показаны самые большие файлы: %1 из %2.</numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>No file in the home folder takes %1 or more.</source>
+        <extracomment>%1: a size</extracomment>
         <translation>В домашней папке нет файлов размером от %1.</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Searched %1 in %2. Nothing was changed.</source>
-        <translation>Просмотрено: %1 за %2. Ничего не изменено.</translation>
+        <extracomment>%1: “1 file” or “%1 files”, which the forms count; %2: a time such as “2.1 s”</extracomment>
+        <translation type="unfinished">
+            <numerusform>Просмотрено: %1 за %2. Ничего не изменено.</numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>at least %1</source>
+        <extracomment>%1: a size; not everything could be measured</extracomment>
         <translation>минимум %1</translation>
     </message>
     <message>
@@ -744,14 +866,17 @@
     </message>
     <message>
         <source>Largest: %1</source>
+        <extracomment>%1: names of folders, with commas</extracomment>
         <translation>Крупнейшие: %1</translation>
     </message>
     <message>
         <source>You can reclaim</source>
+        <extracomment>Heading over the rows that the user can do something about</extracomment>
         <translation>Можно освободить</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
+        <extracomment>Heading over the rows that the user can do nothing about</extracomment>
         <translation>Под управлением macOS</translation>
     </message>
     <message>
@@ -760,6 +885,7 @@
     </message>
     <message>
         <source>%1 of it you can act on.</source>
+        <extracomment>%1: a size</extracomment>
         <translation>Из этого можно освободить %1.</translation>
     </message>
     <message>
@@ -771,10 +897,12 @@
     <name>DiskOrb</name>
     <message>
         <source>%1% used</source>
+        <extracomment>Said by a screen reader; %1: how much of the disk</extracomment>
         <translation>занято %1&#xa0;%</translation>
     </message>
     <message>
         <source>%1 can be cleaned</source>
+        <extracomment>Said by a screen reader; %1: a size</extracomment>
         <translation>можно очистить %1</translation>
     </message>
 </context>
@@ -782,21 +910,73 @@
     <name>Gauge</name>
     <message>
         <source>%1 used</source>
+        <extracomment>Said by a screen reader; %1: a share such as “73%”</extracomment>
         <translation>занято %1</translation>
     </message>
     <message>
         <source>used</source>
+        <extracomment>Under a share such as “73%”: so much of the disk is used</extracomment>
         <translation>занято</translation>
+    </message>
+</context>
+<context>
+    <name>LargeFileFinder</name>
+    <message>
+        <source>Disk image</source>
+        <extracomment>Kind of a file, as the following</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Partial download</source>
+        <extracomment>Kind of a file: a download that has not ended</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Installer</source>
+        <extracomment>Kind of a file: it installs a program</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <extracomment>Kind of a file: a picture</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <extracomment>Kind of a file: any other</extracomment>
+        <translation type="unfinished">Файл</translation>
     </message>
 </context>
 <context>
     <name>LargeFilesPage</name>
     <message>
         <source>Selected</source>
+        <extracomment>Said by a screen reader of the column of ticks</extracomment>
         <translation>Выбрано</translation>
     </message>
     <message>
         <source>ascending</source>
+        <extracomment>Said by a screen reader after a column: how it is sorted</extracomment>
         <translation>по возрастанию</translation>
     </message>
     <message>
@@ -805,10 +985,12 @@
     </message>
     <message>
         <source>Space Map</source>
+        <extracomment>Name of the page with the map of large files</extracomment>
         <translation>Карта диска</translation>
     </message>
     <message>
         <source>Rescan</source>
+        <extracomment>Button: search again</extracomment>
         <translation>Новый поиск</translation>
     </message>
     <message>
@@ -825,10 +1007,12 @@
     </message>
     <message>
         <source>Home folder · over %1</source>
+        <extracomment>Small heading; %1: the least size of files that are listed</extracomment>
         <translation>Домашняя папка · больше %1</translation>
     </message>
     <message>
         <source>All</source>
+        <extracomment>Filter of a list of files: every file</extracomment>
         <translation>Все</translation>
     </message>
     <message>
@@ -837,14 +1021,17 @@
     </message>
     <message>
         <source>Show in %1</source>
+        <extracomment>Button; %1: the file manager, Finder or Files</extracomment>
         <translation>Показать в %1</translation>
     </message>
     <message>
         <source>Move to %1</source>
+        <extracomment>Button; %1: the Trash</extracomment>
         <translation>Переместить в %1</translation>
     </message>
     <message>
         <source>Show</source>
+        <extracomment>Said by a screen reader of the filters: which files to show</extracomment>
         <translation>Показывать</translation>
     </message>
     <message>
@@ -855,13 +1042,23 @@
         <source>Largest files</source>
         <translation>Самые большие файлы</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Unused %1+ months</source>
-        <translation>Не открывались %1+ мес.</translation>
+        <extracomment>Filter of a list of files: not opened for %1 months or more (3, 6, 12 or 24)</extracomment>
+        <translation type="unfinished">
+            <numerusform>Не открывались %1+ мес.</numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
-        <translation type="unfinished"></translation>
+        <extracomment>%2, %3: sizes; %4: how many files are listed, which the forms count; leave the tag as it is</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Looking for large files…</source>
@@ -869,14 +1066,17 @@
     </message>
     <message>
         <source>Large files</source>
+        <extracomment>Caption of a counter</extracomment>
         <translation>Большие файлы</translation>
     </message>
     <message>
         <source>Largest so far</source>
+        <extracomment>Heading of a list while the search runs</extracomment>
         <translation>Пока самые большие</translation>
     </message>
     <message>
         <source>Sort by</source>
+        <extracomment>Said by a screen reader of the heads of the columns</extracomment>
         <translation>Сортировка</translation>
     </message>
 </context>
@@ -884,6 +1084,7 @@
     <name>LoginEntry</name>
     <message>
         <source>%1 is not from Tarnwick and was left as it is. Remove it to open Tarnwick at login.</source>
+        <extracomment>%1: a path</extracomment>
         <translation>Файл %1 создан не Tarnwick и оставлен как есть. Удалите его, чтобы открывать Tarnwick при входе.</translation>
     </message>
     <message>
@@ -903,6 +1104,7 @@
     </message>
     <message>
         <source>%1 is almost full. Run Smart Scan to free up space.</source>
+        <extracomment>%1: the disk, such as “System disk”</extracomment>
         <translation>Том «%1» почти заполнен. Чтобы освободить место, запустите умный анализ.</translation>
     </message>
 </context>
@@ -966,6 +1168,7 @@
     </message>
     <message>
         <source>Cleanup</source>
+        <extracomment>Entry of the menu View: the page Cleanup</extracomment>
         <translation>Очистка</translation>
     </message>
     <message>
@@ -990,6 +1193,7 @@
     </message>
     <message>
         <source>Zoom</source>
+        <extracomment>Entry of the menu Window: make the window large, or as it was</extracomment>
         <translation>Изменить масштаб</translation>
     </message>
     <message>
@@ -998,14 +1202,17 @@
     </message>
     <message>
         <source>Guide</source>
+        <extracomment>Entry of the menu Help: the guide on the website</extracomment>
         <translation>Руководство</translation>
     </message>
     <message>
         <source>FAQ</source>
+        <extracomment>Entry of the menu Help: frequently asked questions</extracomment>
         <translation>Вопросы и ответы</translation>
     </message>
     <message>
         <source>Open Log Folder</source>
+        <extracomment>Entry of the menu Help: the folder with the logs of cleanups</extracomment>
         <translation>Открыть папку журналов</translation>
     </message>
     <message>
@@ -1018,6 +1225,7 @@
     </message>
     <message>
         <source>File</source>
+        <extracomment>Title of a menu</extracomment>
         <translation>Файл</translation>
     </message>
     <message>
@@ -1089,6 +1297,7 @@
     </message>
     <message>
         <source>Quit</source>
+        <extracomment>Button: quit Tarnwick</extracomment>
         <translation>Завершить</translation>
     </message>
     <message>
@@ -1097,6 +1306,7 @@
     </message>
     <message>
         <source>Emptying the %1 can&apos;t be undone. Everything else goes to the %1.</source>
+        <extracomment>%1: the Trash</extracomment>
         <translation>Если очистить %1, отменить это будет нельзя. Всё остальное будет перемещено в %1.</translation>
     </message>
     <message>
@@ -1105,22 +1315,27 @@
     </message>
     <message>
         <source>Clean and delete</source>
+        <extracomment>Button: clean, where some of it is deleted for good</extracomment>
         <translation>Очистить и удалить</translation>
     </message>
     <message>
         <source>Clean</source>
+        <extracomment>Button: start the cleanup</extracomment>
         <translation>Очистить</translation>
     </message>
     <message>
         <source>Clean %1?</source>
+        <extracomment>Heading of the question; %1: a size</extracomment>
         <translation>Очистить %1?</translation>
     </message>
     <message>
         <source>%1 of it will stay: there is no %2 on its volume.</source>
+        <extracomment>%1: a size; %2: the Trash</extracomment>
         <translation>Из этого объёма останется %1: том с этими файлами не поддерживает %2.</translation>
     </message>
     <message>
         <source>%1 of it will stay while these apps are open: %2.</source>
+        <extracomment>%1: a size; %2: apps, with commas</extracomment>
         <translation>Из этого объёма останется %1, пока открыты приложения: %2.</translation>
     </message>
     <message>
@@ -1133,10 +1348,12 @@
     </message>
     <message>
         <source>Undo</source>
+        <extracomment>Button: put the files back that were moved to the Trash</extracomment>
         <translation>Отменить</translation>
     </message>
     <message>
         <source>Version %1 is available. You have %2.</source>
+        <extracomment>%1, %2: versions such as “1.2.0”</extracomment>
         <translation>Доступна версия %1. У вас установлена %2.</translation>
     </message>
     <message>
@@ -1145,6 +1362,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
+        <extracomment>How much of the update is there; %1, %2: sizes</extracomment>
         <translation>%1 из %2</translation>
     </message>
     <message>
@@ -1189,6 +1407,7 @@
     </message>
     <message>
         <source>Retry</source>
+        <extracomment>Button: look for updates again</extracomment>
         <translation>Повторить</translation>
     </message>
     <message>
@@ -1201,6 +1420,7 @@
     </message>
     <message>
         <source>Later</source>
+        <extracomment>Button: do not update now</extracomment>
         <translation>Позже</translation>
     </message>
 </context>
@@ -1208,14 +1428,17 @@
     <name>OverviewPage</name>
     <message>
         <source>Scanned %1</source>
+        <extracomment>%1: when, as “today”, “yesterday” or “3 days ago”</extracomment>
         <translation>Анализ был %1</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>The scheduled scan is switched off</extracomment>
         <translation>Выкл.</translation>
     </message>
     <message>
         <source>Weekly</source>
+        <extracomment>How often the scheduled scan runs</extracomment>
         <translation>Еженедельно</translation>
     </message>
     <message>
@@ -1228,26 +1451,36 @@
     </message>
     <message>
         <source>Overview</source>
+        <extracomment>Small heading over “Smart Scan”</extracomment>
         <translation>Обзор</translation>
     </message>
     <message>
         <source>Rescan</source>
+        <extracomment>Button: scan again</extracomment>
         <translation>Новый анализ</translation>
     </message>
     <message>
         <source>Disk health</source>
+        <extracomment>Small heading</extracomment>
         <translation>Состояние диска</translation>
     </message>
     <message>
         <source>System files protected</source>
+        <extracomment>Mark with a green dot: they are never touched</extracomment>
         <translation>Системные файлы защищены</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Freed in the last %1 months</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Said by a screen reader of a small chart; %1: 6</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>See all</source>
+        <extracomment>Button: all categories</extracomment>
         <translation>Показать всё</translation>
     </message>
     <message>
@@ -1256,10 +1489,12 @@
     </message>
     <message>
         <source>free of %1</source>
+        <extracomment>Under the size of the free space; %1: the size of the disk</extracomment>
         <translation>свободно из %1</translation>
     </message>
     <message>
         <source>Review</source>
+        <extracomment>Button: look at what was found</extracomment>
         <translation>Просмотр</translation>
     </message>
     <message>
@@ -1268,6 +1503,7 @@
     </message>
     <message>
         <source>%1 ready to clean</source>
+        <extracomment>Headline; %1: a size, which is painted in colours</extracomment>
         <translation>Можно очистить %1</translation>
     </message>
     <message>
@@ -1280,6 +1516,7 @@
     </message>
     <message>
         <source>%1 purgeable</source>
+        <extracomment>%1: the size of what the system gives back by itself when space runs low</extracomment>
         <translation>%1 очищаемого места</translation>
     </message>
     <message>
@@ -1288,10 +1525,12 @@
     </message>
     <message>
         <source>Reclaimable</source>
+        <extracomment>Legend of the disk: what can be cleaned</extracomment>
         <translation>К очистке</translation>
     </message>
     <message>
         <source>Available</source>
+        <extracomment>Legend of the disk: what is free</extracomment>
         <translation>Доступно</translation>
     </message>
     <message>
@@ -1300,10 +1539,12 @@
     </message>
     <message>
         <source>Last scan</source>
+        <extracomment>Caption under when it was</extracomment>
         <translation>Последний анализ</translation>
     </message>
     <message>
         <source>Freed this month</source>
+        <extracomment>Caption under a size</extracomment>
         <translation>Освобождено за месяц</translation>
     </message>
     <message>
@@ -1319,18 +1560,22 @@
     <name>Platform</name>
     <message>
         <source>System disk</source>
+        <extracomment>The name of the disk that the system starts from</extracomment>
         <translation>Системный диск</translation>
     </message>
     <message>
         <source>Trash</source>
+        <extracomment>The Trash by its name in this language; stands in other texts as “%1”</extracomment>
         <translation>Корзину</translation>
     </message>
     <message>
         <source>Finder</source>
+        <extracomment>The file manager of macOS; stands in other texts as “%1”</extracomment>
         <translation>Finder</translation>
     </message>
     <message>
         <source>Files</source>
+        <extracomment>The file manager of Linux desktops; stands in other texts as “%1”</extracomment>
         <translation>Файлах</translation>
     </message>
 </context>
@@ -1338,6 +1583,7 @@
     <name>SettingsPage</name>
     <message>
         <source>Locked</source>
+        <extracomment>Beside a rule that can not be changed</extracomment>
         <translation>Защищено</translation>
     </message>
     <message>
@@ -1350,6 +1596,7 @@
     </message>
     <message>
         <source>Granted</source>
+        <extracomment>Beside a permission that Tarnwick has</extracomment>
         <translation>Есть</translation>
     </message>
     <message>
@@ -1374,6 +1621,7 @@
     </message>
     <message>
         <source>System default (%1)</source>
+        <extracomment>Of the languages: follow the system; %1: the language that this is now</extracomment>
         <translation>Как в системе (%1)</translation>
     </message>
     <message>
@@ -1382,6 +1630,7 @@
     </message>
     <message>
         <source>Cleaning</source>
+        <extracomment>Heading of settings</extracomment>
         <translation>Очистка</translation>
     </message>
     <message>
@@ -1394,10 +1643,12 @@
     </message>
     <message>
         <source>Exclusions</source>
+        <extracomment>Heading of settings: what is never cleaned</extracomment>
         <translation>Исключения</translation>
     </message>
     <message>
         <source>About</source>
+        <extracomment>Heading of settings: about Tarnwick</extracomment>
         <translation>О программе</translation>
     </message>
     <message>
@@ -1406,6 +1657,7 @@
     </message>
     <message>
         <source>Move items to the %1</source>
+        <extracomment>%1: the Trash</extracomment>
         <translation>Перемещать объекты в %1</translation>
     </message>
     <message>
@@ -1442,10 +1694,12 @@
     </message>
     <message>
         <source>Used by the “Unused” filter.</source>
+        <extracomment>“Unused” as on the page Space Map</extracomment>
         <translation>Используется фильтром «Не открывались».</translation>
     </message>
     <message>
         <source>3 months</source>
+        <extracomment>How long a file has not been opened</extracomment>
         <translation>3 месяца</translation>
     </message>
     <message>
@@ -1470,6 +1724,7 @@
     </message>
     <message>
         <source>Off</source>
+        <extracomment>Of the scheduled scan: never</extracomment>
         <translation>Выкл.</translation>
     </message>
     <message>
@@ -1534,6 +1789,7 @@
     </message>
     <message>
         <source>Theme</source>
+        <extracomment>Light or dark colours</extracomment>
         <translation>Тема</translation>
     </message>
     <message>
@@ -1542,14 +1798,17 @@
     </message>
     <message>
         <source>System</source>
+        <extracomment>Of the theme: as the system has it</extracomment>
         <translation>Системная</translation>
     </message>
     <message>
         <source>Light</source>
+        <extracomment>Of the theme: light colours</extracomment>
         <translation>Светлая</translation>
     </message>
     <message>
         <source>Dark</source>
+        <extracomment>Of the theme: dark colours</extracomment>
         <translation>Тёмная</translation>
     </message>
     <message>
@@ -1570,6 +1829,7 @@
     </message>
     <message>
         <source> — always skipped.</source>
+        <extracomment>Follows a list of folders</extracomment>
         <translation> — всегда пропускаются.</translation>
     </message>
     <message>
@@ -1618,10 +1878,12 @@
     </message>
     <message>
         <source>These are my rules</source>
+        <extracomment>Button: the rules were looked at and are right</extracomment>
         <translation>Это мои правила</translation>
     </message>
     <message>
         <source>Remove</source>
+        <extracomment>Button that takes a rule away; a screen reader says the rule after it</extracomment>
         <translation>Удалить</translation>
     </message>
     <message>
@@ -1641,10 +1903,12 @@
     <name>Sidebar</name>
     <message>
         <source>%1 available of %2</source>
+        <extracomment>Sizes of the free space and of the disk</extracomment>
         <translation>Доступно %1 из %2</translation>
     </message>
     <message>
         <source>%1 free</source>
+        <extracomment>%1: the size of the free space</extracomment>
         <translation>Свободно %1</translation>
     </message>
     <message>
@@ -1657,6 +1921,7 @@
     </message>
     <message>
         <source>Cleanup</source>
+        <extracomment>Noun: the page for cleaning</extracomment>
         <translation>Очистка</translation>
     </message>
     <message>
@@ -1673,6 +1938,7 @@
     </message>
     <message>
         <source>Clean</source>
+        <extracomment>Heading over the pages of the sidebar: what one comes here for</extracomment>
         <translation>Уход за диском</translation>
     </message>
     <message>
@@ -1684,6 +1950,7 @@
     <name>StepBar</name>
     <message>
         <source>Waiting</source>
+        <extracomment>State of a step of the scan, said by a screen reader</extracomment>
         <translation>Ожидание</translation>
     </message>
     <message>
@@ -1692,6 +1959,7 @@
     </message>
     <message>
         <source>Done</source>
+        <extracomment>State of a step of the scan, said by a screen reader</extracomment>
         <translation>Готово</translation>
     </message>
 </context>
@@ -1699,6 +1967,7 @@
     <name>SystemData</name>
     <message>
         <source>Review in Finder</source>
+        <extracomment>Button of a row on the page System Data</extracomment>
         <translation>Просмотреть в Finder</translation>
     </message>
     <message>
@@ -1715,10 +1984,12 @@
     </message>
     <message>
         <source>Delete unavailable</source>
+        <extracomment>Button: delete the simulator devices that can not be used any more</extracomment>
         <translation>Удалить недоступные</translation>
     </message>
     <message>
         <source>Clean in Cleanup</source>
+        <extracomment>Button: go to the page Cleanup to clean it there</extracomment>
         <translation>Перейти к очистке</translation>
     </message>
     <message>
@@ -1727,27 +1998,43 @@
     </message>
     <message>
         <source>Couldn&apos;t open %1</source>
+        <extracomment>%1: a path</extracomment>
         <translation>Не удалось открыть %1</translation>
     </message>
     <message>
         <source>1 item</source>
+        <extracomment>How many items were moved: %1 of “Moved %1 to the Trash”</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
-        <translation>Перемещено в Корзину: %1, не удалось переместить: %2</translation>
+        <extracomment>%1: “1 item” or “%1 items”, which the forms count; %2: how many others</extracomment>
+        <translation type="unfinished">
+            <numerusform>Перемещено в Корзину: %1, не удалось переместить: %2</numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Nothing to move</source>
         <translation>Перемещать нечего</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Moved %1 to the Trash</source>
-        <translation>Перемещено в Корзину: %1</translation>
+        <extracomment>%1: “1 item” or “%1 items”, which the forms count</extracomment>
+        <translation type="unfinished">
+            <numerusform>Перемещено в Корзину: %1</numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>There are no local snapshots to remove</source>
@@ -1757,12 +2044,18 @@
         <source>Snapshots were not removed</source>
         <translation>Снимки не удалены</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Removed %1 of %2 snapshots</source>
-        <translation type="unfinished"></translation>
+        <extracomment>The forms count %2, how many there were</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Simulator cleanup failed: %1</source>
+        <extracomment>%1: what the tool said, in English</extracomment>
         <translation>Не удалось очистить симуляторы: %1</translation>
     </message>
     <message>
@@ -1773,9 +2066,13 @@
         <source>Deleted 1 unavailable simulator device</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Deleted %1 unavailable simulator devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Xcode isn&apos;t installed</source>
@@ -2065,9 +2362,13 @@
         <source>1 snapshot</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>No permission to read</source>
@@ -2075,25 +2376,32 @@
     </message>
     <message>
         <source>at least %1</source>
+        <extracomment>%1: “1 snapshot” or “%1 snapshots”</extracomment>
         <translation>минимум %1</translation>
     </message>
     <message>
         <source>1 device</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>SystemDataPage</name>
     <message>
         <source>System Data</source>
+        <extracomment>Name of the page, and of what the system calls so in its own view of the disk</extracomment>
         <translation>Системные данные</translation>
     </message>
     <message>
         <source>Rescan</source>
+        <extracomment>Button: measure again</extracomment>
         <translation>Новый анализ</translation>
     </message>
     <message>
@@ -2110,10 +2418,12 @@
     </message>
     <message>
         <source>measured in System Data · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; you can act on</source>
+        <extracomment>Follows a size in large figures; %2: a size; leave the tag as it is</extracomment>
         <translation>занимают системные данные · из них &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; можно освободить</translation>
     </message>
     <message>
         <source>Working…</source>
+        <extracomment>While what the user asked for is being done</extracomment>
         <translation>Выполняется…</translation>
     </message>
     <message>
@@ -2122,10 +2432,12 @@
     </message>
     <message>
         <source>%1 · %2</source>
+        <extracomment>%1: what it is; %2: its size</extracomment>
         <translation>%1 · %2</translation>
     </message>
     <message>
         <source>You can reclaim</source>
+        <extracomment>Heading over the rows that the user can do something about</extracomment>
         <translation>Можно освободить</translation>
     </message>
     <message>
@@ -2134,6 +2446,7 @@
     </message>
     <message>
         <source>measured</source>
+        <extracomment>Under a size: so much was measured until now</extracomment>
         <translation>подсчитано</translation>
     </message>
     <message>
@@ -2158,14 +2471,17 @@
     </message>
     <message>
         <source>at least %1</source>
+        <extracomment>%1: a size; not everything could be measured</extracomment>
         <translation>минимум %1</translation>
     </message>
     <message>
         <source>Largest: %1</source>
+        <extracomment>%1: names of folders, with commas</extracomment>
         <translation>Крупнейшие: %1</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
+        <extracomment>Heading over the rows that the user can do nothing about</extracomment>
         <translation>Под управлением macOS</translation>
     </message>
     <message>
@@ -2185,18 +2501,22 @@
     <name>TitleBar</name>
     <message>
         <source>Menu</source>
+        <extracomment>Button with the program’s menu</extracomment>
         <translation>Меню</translation>
     </message>
     <message>
         <source>Minimize</source>
+        <extracomment>Button of the window</extracomment>
         <translation>Свернуть</translation>
     </message>
     <message>
         <source>Maximize</source>
+        <extracomment>Button of the window</extracomment>
         <translation>Развернуть</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button of the window</extracomment>
         <translation>Закрыть</translation>
     </message>
 </context>
@@ -2228,6 +2548,7 @@
     </message>
     <message>
         <source>%1 · %2 free</source>
+        <extracomment>%1: the disk; %2: the size of its free space</extracomment>
         <translation>%1 · свободно %2</translation>
     </message>
 </context>
@@ -2263,10 +2584,12 @@
     </message>
     <message>
         <source>Could not save the update: %1</source>
+        <extracomment>%1: what the system says about it</extracomment>
         <translation>Не удалось сохранить обновление: %1</translation>
     </message>
     <message>
         <source>The update could not be downloaded: %1</source>
+        <extracomment>%1: what the system says about it</extracomment>
         <translation>Не удалось загрузить обновление: %1</translation>
     </message>
     <message>
@@ -2286,6 +2609,7 @@
     <name>fmt</name>
     <message>
         <source>TB</source>
+        <extracomment>A terabyte</extracomment>
         <translation>ТБ</translation>
     </message>
     <message>
@@ -2302,10 +2626,12 @@
     </message>
     <message>
         <source>%1 %2</source>
+        <extracomment>A size; %1: a number; %2: a unit such as “GB”</extracomment>
         <translation>%1 %2</translation>
     </message>
     <message>
         <source>Today</source>
+        <extracomment>When something was done or opened last</extracomment>
         <translation>Сегодня</translation>
     </message>
     <message>

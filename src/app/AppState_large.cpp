@@ -39,9 +39,13 @@ struct AppState::LargeMoves {
 
   [[nodiscard]] QString text() const {
     const qsizetype moved = undo.size();
-    const QString count = moved == 1 ? tr("1 file") : tr("%1 files").arg(moved);
-    const QString text = tr("%1 (%2) moved to the %3").arg(count, fmt::bytes(bytes), platform::trashName());
-    return skipped > 0 ? text + tr(" · %1 in use, skipped").arg(skipped) : text;
+    const int n = fmt::plural(moved);
+    //: How many files were moved: %1 of “%1 (%2) moved to the %3”
+    const QString count = moved == 1 ? tr("1 file") : tr("%1 files", nullptr, n).arg(moved);
+    //: %1: “1 file” or “%1 files”; %2: their size; %3: the Trash. The forms count the files
+    const QString text = tr("%1 (%2) moved to the %3", nullptr, n).arg(count, fmt::bytes(bytes), platform::trashName());
+    //: Follows “… moved to the Trash”; %1: how many files stayed, as they were open
+    return skipped > 0 ? text + tr(" · %1 in use, skipped", nullptr, fmt::plural(skipped)).arg(skipped) : text;
   }
 };
 

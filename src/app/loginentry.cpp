@@ -18,6 +18,7 @@ QString words(login::Outcome outcome, bool on) {
   case login::Outcome::Done:
     break;
   case login::Outcome::Taken:
+    //: %1: a path
     return Words::tr("%1 is not from Tarnwick and was left as it is. Remove it to open Tarnwick at login.")
         .arg(fmt::shortPath(login::path()));
   case login::Outcome::Failed:

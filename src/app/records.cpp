@@ -16,6 +16,7 @@ struct SystemData {
 QString SystemDataItem::actionLabel() const {
   switch (action) {
   case RevealInFinder:
+    //: Button of a row on the page System Data
     return platform::host() == platform::Host::Mac ? SystemData::tr("Review in Finder")
                                                    : SystemData::tr("Show in Files");
   case MoveToTrash:
@@ -23,8 +24,10 @@ QString SystemDataItem::actionLabel() const {
   case RemoveSnapshots:
     return SystemData::tr("Remove snapshots");
   case DeleteUnavailable:
+    //: Button: delete the simulator devices that can not be used any more
     return SystemData::tr("Delete unavailable");
   case CleanInCleanup:
+    //: Button: go to the page Cleanup to clean it there
     return SystemData::tr("Clean in Cleanup");
   case OpenXcode:
     return SystemData::tr("Open Xcode");

@@ -71,20 +71,27 @@ void Progress::setNote(const QString& note) {
 
 QString Progress::scanning() const {
   const QString title = m_state.scanDefs.value(m_state.scanCategory).title;
+  //: What the program does now, in a line that tells how far it is
   return (title.isEmpty() ? Words::tr("Scanning") : title) + kGap + fmt::bytes(m_state.scanBytes) + kGap +
-         Words::tr("%1 files").arg(fmt::count(m_state.scanFiles)); // always many, so that the line stands still
+         Words::tr("%1 files", nullptr, fmt::plural(m_state.scanFiles)).arg(fmt::count(m_state.scanFiles));
 }
 
 QString Progress::cleaning() const {
   const QString& title = m_state.cleanCategory;
+  //: What the program does now, in a line that tells how far it is
   return (title.isEmpty() ? Words::tr("Cleaning") : title) + kGap +
+         //: %1, %2: sizes, or numbers of rows
          Words::tr("%1 of %2").arg(fmt::bytes(m_done), fmt::bytes(m_total)) + kGap +
-         Words::tr("%1 of %2 files").arg(fmt::count(m_state.cleanFiles), fmt::count(m_state.cleanFilesTotal));
+         //: The forms count %2
+         Words::tr("%1 of %2 files", nullptr, fmt::plural(m_state.cleanFilesTotal))
+             .arg(fmt::count(m_state.cleanFiles), fmt::count(m_state.cleanFilesTotal));
 }
 
 QString Progress::searching() const {
+  //: What the program does now, in a line that tells how far it is
   return Words::tr("Searching") + kGap + fmt::bytes(m_done) + kGap +
-         Words::tr("%1 of %2 files").arg(fmt::count(m_found), fmt::count(m_state.largeProgressCount));
+         Words::tr("%1 of %2 files", nullptr, fmt::plural(m_state.largeProgressCount))
+             .arg(fmt::count(m_found), fmt::count(m_state.largeProgressCount));
 }
 
 QString Progress::measuring() const {

@@ -35,6 +35,7 @@ bool readInput(QByteArray* line) {
 
 qint64 Session::scan(const RunOptions& options) {
   m_state.startScan(options);
+  //: What the program does now, in a line that tells how far it is
   waitWhile(AppState::Scanning, Words::tr("cancelling…"), &AppState::cancelScan);
   return m_state.scanTimer.elapsed();
 }

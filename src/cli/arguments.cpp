@@ -89,6 +89,7 @@ QString verbNames() {
   QStringList names;
   for (const VerbRow& row : kVerbs) names << u'"' + QLatin1String(row.name) + u'"';
   const QString last = names.takeLast();
+  //: %1: one or more words, with commas; %2: the last one
   return Words::tr("%1 and %2").arg(names.join(u", "_s), last);
 }
 
@@ -109,9 +110,11 @@ QString commonHelp() {
 }
 
 QString generalHelp() {
+  //: %1: a command line, which stays as it is
   QString text = Words::tr("Usage: %1").arg(kProgram + u" COMMAND [OPTIONS]\n\n"_s) + Words::tr("Commands:") + u'\n';
   for (const VerbRow& row : kVerbs) text += helpLine(u"  "_s + QLatin1String(row.name), Words::tr(row.summary));
   text += u'\n' + Words::tr("Options:") + u'\n' + commonHelp() + u'\n';
+  //: %1: a command line; one: one of the commands above
   return text + Words::tr("Say \"%1\" to learn about one.").arg(kProgram + u" COMMAND --help"_s) + u'\n';
 }
 
@@ -125,6 +128,7 @@ QString helpOf(const VerbRow& verb, const QStringList& categoryIds) {
     text += helpLine(u"  --"_s + QLatin1String(row.name) + value, Words::tr(row.text));
   }
   text += commonHelp();
+  //: %1: ids, which stay as they are
   if (hasCategories(verb.verb)) text += u'\n' + Words::tr("Categories: %1").arg(categoryIds.join(u", "_s)) + u'\n';
   return text;
 }
@@ -161,6 +165,7 @@ QString misworded(const QStringList& words) {
   if (words.isEmpty()) return {};
   if (!findVerb(words.first()))
     return Words::tr("there is no command %1, only %2").arg(quoted(words.first()), verbNames());
+  //: %1: a word in quotes
   if (words.size() > 1) return Words::tr("%1 is one word too many").arg(quoted(words.at(1)));
   return {};
 }
@@ -169,6 +174,7 @@ QString misworded(const QStringList& words) {
 QString mismatched(const QCommandLineParser& parser, const VerbRow& verb) {
   for (const OptionRow& row : kOptions)
     if (parser.isSet(QLatin1String(row.name)) && !(row.takers & takerOf(verb.verb)))
+      //: %1: a command; %2: an option
       return Words::tr("\"%1\" takes no --%2").arg(QLatin1String(verb.name), QLatin1String(row.name));
   if (parser.isSet(u"delete"_s) && parser.isSet(u"trash"_s))
     return Words::tr("--delete and --trash exclude each other");

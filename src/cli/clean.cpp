@@ -88,6 +88,7 @@ bool Clean::agreed(const Plan& plan) {
 QString wayOut() {
   const AppSettings& settings = AppSettings::instance();
   if (settings.lastLook() == AppSettings::Store::Sound) return {};
+  //: %1, %2: paths
   return u' ' + Words::tr("Look at the rules in the settings of Tarnwick; or mend %1, or remove it together with %2.")
                     .arg(names::escaped(settings.path()), names::escaped(settings.memoryPath()));
 }

@@ -19,15 +19,19 @@ constexpr int kMsPerSecond = 1000;
 bool hasRoomForBars(const Paper& paper) { return paper.isTerminal && paper.width >= kWidthForBars; }
 
 QString filesText(qint64 files) {
-  return files == 1 ? Words::tr("1 file") : Words::tr("%1 files").arg(fmt::count(files));
+  //: Stands alone or as %1 or %2 of another text
+  return files == 1 ? Words::tr("1 file") : Words::tr("%1 files", nullptr, fmt::plural(files)).arg(fmt::count(files));
 }
 
 QString timeText(qint64 elapsedMs) {
+  //: Milliseconds
   if (elapsedMs < kMsPerSecond) return Words::tr("%1 ms").arg(elapsedMs);
+  //: Seconds
   return Words::tr("%1 s").arg(QLocale().toString(static_cast<double>(elapsedMs) / kMsPerSecond, 'f', 1));
 }
 
 QString unreadNote(const QStringList& titles) {
+  //: %1: titles, with commas
   return titles.isEmpty() ? QString() : Words::tr("Not everything could be read: %1.").arg(titles.join(u", "_s));
 }
 

@@ -49,14 +49,18 @@ QList<Cell> scanRow(const CategoryResult& one, qint64 largest, bool bars) {
 Table scanTable(const QList<CategoryResult>& all, bool bars) {
   QList<Table::Side> columns = {kLeft, kRight, kRight, kLeft};
   QList<Cell> head = {{Words::tr("Category"), Tone::Faint},
+                      //: Head of a column
                       {Words::tr("Size"), Tone::Faint},
+                      //: Head of a column: how many
                       {Words::tr("Files"), Tone::Faint},
+                      //: Head of a column: safe, review or permanent
                       {Words::tr("Rating"), Tone::Faint}};
   if (bars) {
     columns << kLeft;
     head << Cell{};
   }
   Table table(columns << kLeft);
+  //: Head of a column: the folder
   table.add(head << Cell{Words::tr("Where"), Tone::Faint});
   qint64 largest = 0;
   for (const CategoryResult& one : all) largest = std::max(largest, one.bytes);
@@ -80,6 +84,7 @@ QString safeNote(const QList<CategoryResult>& all) {
   for (const CategoryResult& one : all)
     if (one.def.safety == Safe) bytes += one.bytes;
   if (bytes < 1) return {};
+  //: %1: a size; the command stays as it is
   return Words::tr("%1 of it is safe to clean: tarnwick-cli clean").arg(fmt::bytes(bytes));
 }
 
@@ -93,6 +98,7 @@ QString runningNote(const QList<CategoryResult>& chosen) {
       if (!item.owner.isEmpty()) owners[item.owner] += item.bytes;
   QStringList notes; // a line each
   for (auto owner = owners.cbegin(); owner != owners.cend(); ++owner)
+    //: %1: an app; %2: a size
     notes << Words::tr("%1 is running, so %2 of its data will stay.")
                  .arg(names::escaped(owner.key()), fmt::bytes(owner.value()));
   return notes.join(u'\n');
@@ -106,12 +112,14 @@ QString leftNote(const QList<CategoryResult>& left) {
     parts << u"%1 (%2)"_s.arg(one.def.title, fmt::bytes(one.bytes));
     ids << one.def.id;
   }
+  //: %1: titles with sizes; %2: ids
   return Words::tr("Left alone unless you name it: %1. To clean it: --only %2")
       .arg(parts.join(u", "_s), ids.join(u','));
 }
 
 QString withoutTrashNote(qint64 bytes) {
   if (bytes < 1) return {};
+  //: %1: a size
   return Words::tr("%1 of it lies on a volume without a Trash and will stay, unless you say --delete.")
       .arg(fmt::bytes(bytes));
 }
@@ -123,6 +131,7 @@ Table planTable(const Plan& plan) {
     table.add({{one.def.title},
                {fmt::bytes(one.bytes), Tone::Strong},
                {filesText(one.files)},
+               //: In a table: what will become of a category
                {deleted ? Words::tr("deleted for good") : Words::tr("moved to the Trash"),
                 deleted ? Tone::Grave : Tone::Good}});
   }
@@ -137,7 +146,9 @@ Table planTable(const Plan& plan) {
 
 QString skippedText(const CleanReport& report) {
   if (report.skipped < 1) return {};
-  QString text = Words::tr("Skipped, %1 in all; the log tells why:").arg(fmt::count(report.skipped));
+  //: A list of files follows; %1: how many
+  QString text = Words::tr("Skipped, %1 in all; the log tells why:", nullptr, fmt::plural(report.skipped))
+                     .arg(fmt::count(report.skipped));
   for (const QString& path : report.skippedSamples) text += u"\n  "_s + names::escaped(path);
   if (report.skipped > report.skippedSamples.size()) text += u"\n  …"_s;
   return text;
@@ -145,6 +156,7 @@ QString skippedText(const CleanReport& report) {
 
 QString runningText(const CleanReport& report) {
   if (report.runningApps.isEmpty()) return {};
+  //: %1: apps, with commas
   return Words::tr("Left alone, because they are running: %1.").arg(names::escaped(report.runningApps.join(u", "_s)));
 }
 
@@ -159,6 +171,7 @@ Paper Paper::of(int fd) { return {terminal::width(fd), terminal::isTerminal(fd),
 
 QString scanText(const QList<CategoryResult>& categories, qint64 elapsedMs, const Paper& paper) {
   const bool bars = hasRoomForBars(paper);
+  //: %1: a time such as “2.1 s”
   const QString time = Words::tr("Scanned in %1. Nothing was changed.").arg(timeText(elapsedMs));
   return tableText(scanTable(categories, bars), paper) +
          paragraph({deniedNote(categories), safeNote(categories)}, paper) +
@@ -176,6 +189,7 @@ QString planQuestion(const Plan& plan) {
   qint64 deleted = 0;
   qint64 moved = 0;
   for (const CategoryResult& one : plan.chosen) (isDeleted(one, plan.toTrash) ? deleted : moved) += one.bytes;
+  //: %1: a size, as %2 of the two that follow
   const QString pattern = moved == 0     ? Words::tr("Delete %1 for good?")
                           : deleted == 0 ? Words::tr("Move %2 to the Trash?")
                                          : Words::tr("Delete %1 for good and move %2 to the Trash?");
@@ -187,7 +201,9 @@ QString planQuestion(const Plan& plan) {
 QString reportText(const CleanReport& report, bool dryRun, bool toTrash, const Paper& paper) {
   if (dryRun) return report.dryRunLog + paragraph({Words::tr("This was a dry run: nothing was touched.")}, paper);
   const QString head =
-      Words::tr("Freed %1, removed %2.").arg(fmt::bytes(report.freedBytes), filesText(report.removedFiles));
+      //: %1: a size; %2: “1 file” or “%1 files”, which the forms count
+      Words::tr("Freed %1, removed %2.", nullptr, fmt::plural(report.removedFiles))
+          .arg(fmt::bytes(report.freedBytes), filesText(report.removedFiles));
   const QString admin =
       report.needsAdmin ? Words::tr("Some files belong to the system and were left alone.") : QString();
   QString text = toned(head, Tone::Strong, paper.colours) + u'\n';

@@ -36,6 +36,7 @@ QList<SystemDataItem> half(QList<SystemDataItem> items, bool actionable) {
 
 QString sizeText(const SystemDataItem& item) {
   if (item.bytes < 1) return u"—"_s;
+  //: %1: a size; not everything could be measured
   return item.denied ? Words::tr("at least %1").arg(fmt::bytes(item.bytes)) : fmt::bytes(item.bytes);
 }
 
@@ -52,6 +53,7 @@ QString detailText(const SystemDataItem& item) {
     return isMac() ? Words::tr("Needs Full Disk Access") : Words::tr("No permission to read");
   if (item.detail.isEmpty()) return placesText(item);
   const QString detail = names::escaped(item.detail);
+  //: %1: names of folders, with commas
   return item.id == u"hidden" ? Words::tr("Largest: %1").arg(detail) : detail;
 }
 
@@ -74,7 +76,9 @@ Table table(const QList<SystemDataItem>& items, bool bars) {
     for (const SystemDataItem& one : some) table.add(row(one, largest, bars));
     table.addRule();
   };
+  //: Heading over the rows that the user can do something about
   add(Words::tr("You can reclaim"), half(items, true));
+  //: Heading over the rows that the user can do nothing about
   add(isMac() ? Words::tr("Managed by macOS") : Words::tr("Managed by the system"), half(items, false));
   table.add({{Words::tr("Total"), Tone::Strong}, {fmt::bytes(sum(items)), Tone::Strong}});
   return table;
@@ -83,6 +87,7 @@ Table table(const QList<SystemDataItem>& items, bool bars) {
 QString actNote(QList<SystemDataItem> items) {
   items.removeIf([](const SystemDataItem& one) { return !one.actionable; });
   const qint64 bytes = sum(items);
+  //: %1: a size
   return bytes < 1 ? QString() : Words::tr("%1 of it you can act on.").arg(fmt::bytes(bytes));
 }
 

@@ -22,6 +22,7 @@ struct Step {
   const char* unit;
 };
 constexpr Step kSteps[] = {
+    //: A terabyte
     {1'000'000'000'000, 1e12, Figure::Fixed, 1, QT_TRANSLATE_NOOP("fmt", "TB")},
     {100'000'000'000, 1e9, Figure::Fixed, 0, QT_TRANSLATE_NOOP("fmt", "GB")},
     {1'000'000'000, 1e9, Figure::Fixed, 1, QT_TRANSLATE_NOOP("fmt", "GB")},
@@ -30,6 +31,7 @@ constexpr Step kSteps[] = {
 };
 
 QString withUnit(const QString& number, const char* unit) {
+  //: A size; %1: a number; %2: a unit such as “GB”
   return QCoreApplication::translate("fmt", "%1 %2").arg(number, QCoreApplication::translate("fmt", unit));
 }
 
@@ -65,9 +67,15 @@ int monthsSince(const QDateTime& when, QDate today) {
 
 QString age(const QDateTime& when) { return age(when, QDate::currentDate()); }
 
+QString ageWithin(const QDateTime& when) {
+  const QString words = age(when);
+  return words.left(1).toLower() + words.mid(1);
+}
+
 QString age(const QDateTime& when, QDate today) {
   if (!when.isValid()) return {};
   const qint64 days = when.date().daysTo(today);
+  //: When something was done or opened last
   if (days < 1) return QCoreApplication::translate("fmt", "Today");
   if (days == 1) return QCoreApplication::translate("fmt", "Yesterday");
   if (days < 7) return ago(QT_TRANSLATE_N_NOOP("fmt", "%n day(s) ago"), days);

@@ -5,6 +5,8 @@
 #include <QDateTime>
 #include <QString>
 
+#include <limits>
+
 namespace fmt {
 
 /// Bytes in a kilobyte.
@@ -15,13 +17,22 @@ namespace fmt {
 [[nodiscard]] QString bytes(qint64 bytes);
 /// A count with group separators.
 [[nodiscard]] QString count(qint64 n);
+/// @p n as the number that a translated text chooses its plural form by, where count() shows it: one that fits, with
+/// the same form in every language, which goes by the last two digits at most and by whether it is 0 or 1.
+[[nodiscard]] constexpr int plural(qint64 n) {
+  constexpr int kMost = std::numeric_limits<int>::max();
+  constexpr int kRound = 1'000'000'000;
+  return n <= kMost ? static_cast<int>(n) : kRound + static_cast<int>(n % 1'000'000);
+}
 /// Whole calendar months from @p when to today; 0 for an invalid or future date. A month is whole on the same day of
 /// the month: from January 31 to February 28 there are none.
 [[nodiscard]] int monthsSince(const QDateTime& when);
 /// How long ago, in words: "Today" (future dates too), "Yesterday", then days, weeks, months, years; empty for an
 /// invalid date.
 [[nodiscard]] QString age(const QDateTime& when);
-/// The same as seen on the day @p today, which the two above take from the clock.
+/// The same within a sentence: its first letter, and no other, is a small one ("today", "vor 3 Tagen").
+[[nodiscard]] QString ageWithin(const QDateTime& when);
+/// Both as seen on the day @p today, which the above take from the clock.
 [[nodiscard]] int monthsSince(const QDateTime& when, QDate today);
 [[nodiscard]] QString age(const QDateTime& when, QDate today);
 /// Minutes and seconds, "62:05"; a negative value counts as 0.

@@ -37,6 +37,7 @@ QString volumeName(const QString& label, const QString& mountPoint, VolumeRole r
   if (host() == Host::Mac) return root || label.isEmpty() ? QStringLiteral("Macintosh HD") : label;
   if (!label.isEmpty()) return label;
   const QString name = mountPoint.section(QLatin1Char('/'), -1, -1, QString::SectionSkipEmpty);
+  //: The name of the disk that the system starts from
   return root || name.isEmpty() ? QCoreApplication::translate("Platform", "System disk") : name;
 }
 
@@ -46,11 +47,14 @@ void applyImportantCapacity(Volume* volume, qint64 importantBytes) {
   volume->availableBytes = importantBytes;
 }
 
+//: The Trash by its name in this language; stands in other texts as “%1”
 QString trashName() { return QCoreApplication::translate("Platform", "Trash"); }
 
 QString fileManagerName() {
-  return host() == Host::Mac ? QCoreApplication::translate("Platform", "Finder")
-                             : QCoreApplication::translate("Platform", "Files");
+  //: The file manager of macOS; stands in other texts as “%1”
+  if (host() == Host::Mac) return QCoreApplication::translate("Platform", "Finder");
+  //: The file manager of Linux desktops; stands in other texts as “%1”
+  return QCoreApplication::translate("Platform", "Files");
 }
 
 bool queryRecycleBin(qint64* /*bytes*/, qint64* /*items*/) { return false; }

@@ -109,6 +109,7 @@ bool CleanLog::isOwnFile(const QString& path) const {
 
 void CleanLog::head(const QDateTime& when, bool moveToTrash, qint64 selectedBytes) {
   const QString mode = moveToTrash ? "move to "_L1 + platform::trashName()
+                                   //: In the head of a log, after “Mode: ”
                                    : QCoreApplication::translate("Cleaner", "delete permanently");
   m_stream << "Tarnwick cleanup "_L1 << when.toString(Qt::ISODate) << '\n';
   m_stream << "Mode: "_L1 << mode << '\n';

@@ -27,16 +27,24 @@ struct Kind {
 };
 
 constexpr Kind kKinds[] = {
-    {"Disk image", "iso img dmg vhd vhdx vmdk vdi qcow2 hdd wim esd vmem vmsn nvram"},
-    {"Partial download", "part crdownload download partial tmp"},
-    {"Video", "mp4 mov mkv avi wmv m4v webm mts m2ts flv"},
-    {"Archive", "zip rar 7z tar gz tgz bz2 xz zst cab"},
-    {"Installer", "exe msi msix appx pkg mpkg apk ipa"},
-    {"Audio", "mp3 wav flac aac m4a aiff ogg"},
-    {"Image", "psd psb tif tiff raw cr2 nef arw dng png jpg heic"},
-    {"Document", "pdf csv json xlsx docx pptx txt log sql db sqlite parquet"},
-    {"Backup", "bak backup tm"},
+    //: Kind of a file, as the following
+    {QT_TRANSLATE_NOOP("LargeFileFinder", "Disk image"),
+     "iso img dmg vhd vhdx vmdk vdi qcow2 hdd wim esd vmem vmsn nvram"},
+    //: Kind of a file: a download that has not ended
+    {QT_TRANSLATE_NOOP("LargeFileFinder", "Partial download"), "part crdownload download partial tmp"},
+    {QT_TRANSLATE_NOOP("LargeFileFinder", "Video"), "mp4 mov mkv avi wmv m4v webm mts m2ts flv"},
+    {QT_TRANSLATE_NOOP("LargeFileFinder", "Archive"), "zip rar 7z tar gz tgz bz2 xz zst cab"},
+    //: Kind of a file: it installs a program
+    {QT_TRANSLATE_NOOP("LargeFileFinder", "Installer"), "exe msi msix appx pkg mpkg apk ipa"},
+    {QT_TRANSLATE_NOOP("LargeFileFinder", "Audio"), "mp3 wav flac aac m4a aiff ogg"},
+    //: Kind of a file: a picture
+    {QT_TRANSLATE_NOOP("LargeFileFinder", "Image"), "psd psb tif tiff raw cr2 nef arw dng png jpg heic"},
+    {QT_TRANSLATE_NOOP("LargeFileFinder", "Document"), "pdf csv json xlsx docx pptx txt log sql db sqlite parquet"},
+    {QT_TRANSLATE_NOOP("LargeFileFinder", "Backup"), "bak backup tm"},
 };
+
+//: Kind of a file: any other
+constexpr const char* kOther = QT_TRANSLATE_NOOP("LargeFileFinder", "File");
 
 /// Folders that hold what is no file of this disk, or what a tool brings back by itself.
 constexpr const char* kLeftOut[] = {"node_modules", "Mobile Documents", "$Recycle.Bin", "CloudStorage"};
@@ -240,7 +248,9 @@ void LargeFileFinder::run(qint64 minBytes, const QList<QString>& exclusions) {
 
 QString LargeFileFinder::kindFor(const QString& name) {
   static const QHash<QString, QString> labels = labelsBySuffix();
-  return labels.value(QFileInfo(name).suffix().toLower(), u"File"_s);
+  return labels.value(QFileInfo(name).suffix().toLower(), QString::fromLatin1(kOther));
 }
+
+QString LargeFileFinder::kindName(const QString& kind) { return tr(kind.toLatin1().constData()); }
 
 #include "moc_LargeFileFinder.cpp"

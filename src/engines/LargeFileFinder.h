@@ -42,6 +42,8 @@ class LargeFileFinder : public QObject {
 
   /// The label of a file's kind by its name's suffix, untranslated; "File" for all that isn't known.
   [[nodiscard]] static QString kindFor(const QString& name);
+  /// A label of kindFor() in the language in force.
+  [[nodiscard]] static QString kindName(const QString& kind);
 
  signals:
   // All are emitted on the worker thread.

@@ -1,5 +1,6 @@
 #include "engines/SystemDataScanner.h"
 
+#include "core/fmt.h"
 #include "core/fs.h"
 #include "core/platform.h"
 #include "engines/systemdata_counts.h"
@@ -38,7 +39,7 @@ QString largestOf(QList<Location> locations) {
 }
 
 QString snapshotsText(qsizetype count) {
-  return count == 1 ? Words::tr("1 snapshot") : Words::tr("%1 snapshots").arg(count);
+  return count == 1 ? Words::tr("1 snapshot") : Words::tr("%1 snapshots", nullptr, fmt::plural(count)).arg(count);
 }
 
 void countLocalSnapshots(SystemDataItem* item, const SystemDataWorld& world) {
@@ -55,12 +56,13 @@ void countKeptSnapshots(SystemDataItem* item, const SystemDataWorld& world) {
     return;
   }
   item->count = kept.count;
+  //: %1: “1 snapshot” or “%1 snapshots”
   item->detail = kept.denied ? Words::tr("at least %1").arg(snapshotsText(kept.count)) : snapshotsText(kept.count);
 }
 
 void countDevices(SystemDataItem* item) {
   const int devices = systemdata::countFolders(item->paths.value(0));
-  item->detail = devices == 1 ? Words::tr("1 device") : Words::tr("%1 devices").arg(devices);
+  item->detail = devices == 1 ? Words::tr("1 device") : Words::tr("%1 devices", nullptr, devices).arg(devices);
 }
 
 } // namespace

@@ -238,10 +238,13 @@ QList<CategoryDef> categories::forThisPlatform() {
 QString categories::safetyLabel(Safety safety) {
   switch (static_cast<int>(safety)) {
   case Safe:
+    //: A rating of what a category holds: may be cleaned without a thought
     return QCoreApplication::translate("Categories", "Safe");
   case Review:
+    //: A rating of what a category holds: look at it before it is cleaned
     return QCoreApplication::translate("Categories", "Review");
   case Permanent:
+    //: A rating of what a category holds: gone for good once cleaned
     return QCoreApplication::translate("Categories", "Permanent");
   default:
     return {};

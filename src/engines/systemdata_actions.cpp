@@ -1,4 +1,5 @@
 // What the rows' actions do, and what they say afterwards.
+#include "core/fmt.h"
 #include "core/fs.h"
 #include "core/places.h"
 #include "core/platform.h"
@@ -56,6 +57,7 @@ bool show(const QString& target, const SystemDataWorld& world) {
 Outcome reveal(const SystemDataItem& item, const SystemDataWorld& world) {
   const QString target = targetOf(item);
   if (show(target, world)) return {true, {}};
+  //: %1: a path
   return {false, Words::tr("Couldn't open %1").arg(target)};
 }
 
@@ -82,11 +84,15 @@ Moves moveContents(const QList<QString>& folders, const QList<QString>& exclusio
 
 Outcome moveToTrash(const SystemDataItem& item, const QList<QString>& exclusions, const SystemDataWorld& world) {
   const Moves moves = moveContents(item.paths, exclusions, world);
-  const QString count = moves.moved == 1 ? Words::tr("1 item") : Words::tr("%1 items").arg(moves.moved);
+  const int n = fmt::plural(moves.moved);
+  //: How many items were moved: %1 of “Moved %1 to the Trash”
+  const QString count = moves.moved == 1 ? Words::tr("1 item") : Words::tr("%1 items", nullptr, n).arg(moves.moved);
   if (moves.failed > 0)
-    return {false, Words::tr("Moved %1 to the Trash, %2 couldn't be moved").arg(count).arg(moves.failed)};
+    //: %1: “1 item” or “%1 items”, which the forms count; %2: how many others
+    return {false, Words::tr("Moved %1 to the Trash, %2 couldn't be moved", nullptr, n).arg(count).arg(moves.failed)};
   if (moves.moved == 0) return {true, Words::tr("Nothing to move")};
-  return {true, Words::tr("Moved %1 to the Trash").arg(count)};
+  //: %1: “1 item” or “%1 items”, which the forms count
+  return {true, Words::tr("Moved %1 to the Trash", nullptr, n).arg(count)};
 }
 
 // ---- snapshots
@@ -104,7 +110,8 @@ Outcome removeSnapshots(const SystemDataWorld& world) {
   const qsizetype after = localSnapshots(world).size();
   if (code != 0) return {false, Words::tr("Snapshots were not removed")};
   const qsizetype gone = std::max<qsizetype>(before - after, 0); // new ones may have come
-  return {true, Words::tr("Removed %1 of %2 snapshots").arg(gone).arg(before)};
+  //: The forms count %2, how many there were
+  return {true, Words::tr("Removed %1 of %2 snapshots", nullptr, fmt::plural(before)).arg(gone).arg(before)};
 }
 
 // ---- simulators
@@ -115,11 +122,12 @@ Outcome deleteUnavailable(const SystemDataItem& item, const SystemDataWorld& wor
   int code = -1;
   const QString output = process::run(world.xcrun, {u"simctl"_s, u"delete"_s, u"unavailable"_s}, world.simulatorLimitMs,
                                       &code, process::Read::OutputAndErrors);
+  //: %1: what the tool said, in English
   if (code != 0) return {false, Words::tr("Simulator cleanup failed: %1").arg(output.trimmed().section(u'\n', -1, -1))};
   const int gone = before - countFolders(folder);
   if (gone < 1) return {true, Words::tr("No unavailable simulator devices — nothing to delete")};
   if (gone == 1) return {true, Words::tr("Deleted 1 unavailable simulator device")};
-  return {true, Words::tr("Deleted %1 unavailable simulator devices").arg(gone)};
+  return {true, Words::tr("Deleted %1 unavailable simulator devices", nullptr, gone).arg(gone)};
 }
 
 // ---- the developer tools

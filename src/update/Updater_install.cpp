@@ -20,6 +20,7 @@ constexpr qsizetype kMostNameBytes = 200; // a file system's limit is 255, and "
 constexpr QLatin1String kCanceled("canceled");
 
 QString unexpectedSize() { return Updater::tr("The update has an unexpected size."); }
+//: %1: what the system says about it
 QString notSaved(const QString& why) { return Updater::tr("Could not save the update: %1").arg(why); }
 
 /// Neither a control character, nor one that turns the direction of what follows, nor a line break of any kind.
@@ -96,6 +97,7 @@ void Updater::downloadFinished(const QString& failure) {
   m_part.reset(); // closed before anything opens it, gone before anyone hears of a failure
   received = total = 0;
   if (wrong.isEmpty()) return handOver(path);
+  //: %1: what the system says about it
   error = wrong == kCanceled ? QString() : tr("The update could not be downloaded: %1").arg(wrong);
   setState(Available);
 }

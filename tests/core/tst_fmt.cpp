@@ -21,6 +21,7 @@ class Catalogue : public QTranslator {
     const QString key = QString::fromUtf8(text);
     if (key == u"%1 %2"_s) return u"%2~%1"_s;
     if (key == u"KB"_s) return u"Ko"_s;
+    if (key == u"Yesterday"_s) return u"Gestern, am Tag davor"_s;
     if (key == u"%n month(s) ago"_s) return n == 1 ? u"one month"_s : u"%n months"_s;
     return {};
   }
@@ -147,6 +148,26 @@ class TestFmt : public QObject {
     QCOMPARE(fmt::age(now.addDays(-400)), fmt::age(now.addDays(-400), QDate::currentDate()));
     QCOMPARE(fmt::age(now.addDays(40)), u"Today"_s);
     QCOMPARE(fmt::monthsSince(now.addYears(-2)), 24);
+  }
+
+  void ageWithinASentenceBeginsSmall() {
+    const QDateTime now = QDateTime::currentDateTime();
+    QCOMPARE(fmt::ageWithin(now.addDays(3)), u"today"_s);
+    QCOMPARE(fmt::ageWithin(now.addDays(-3)), u"3 day(s) ago"_s);
+    QCOMPARE(fmt::ageWithin(QDateTime()), QString());
+    Catalogue catalogue;
+    QCoreApplication::installTranslator(&catalogue);
+    QCOMPARE(fmt::ageWithin(now.addDays(-1)), u"gestern, am Tag davor"_s); // only the first letter
+  }
+
+  void pluralKeepsTheFormOfWhatDoesNotFit() {
+    for (const int n : {0, 1, 2, 21, 1'000'000, std::numeric_limits<int>::max()}) QCOMPARE(fmt::plural(n), n);
+    for (const qint64 more : {0, 1, 2, 11, 21, 99}) {
+      const int n = fmt::plural(5'000'000'000 + more);
+      QVERIFY(n > 1);
+      QCOMPARE(n % 100, int(more));
+    }
+    QVERIFY(fmt::plural(std::numeric_limits<qint64>::max()) > 1);
   }
 
   void clock() {

@@ -7,6 +7,7 @@
 
 #include <QSemaphore>
 #include <QTest>
+#include <QTranslator>
 
 #include <algorithm>
 #include <memory>
@@ -24,6 +25,15 @@ constexpr int kPatienceMs = 60'000;
 constexpr qint64 kBlock = 4096; ///< what sizes on disk are whole numbers of
 constexpr qint64 kMin = 4 * kBlock;
 constexpr int kFilesPerLook = 16;
+
+/// A language in which the kinds of files stand in angle brackets.
+class Kinds : public QTranslator {
+ public:
+  [[nodiscard]] bool isEmpty() const override { return false; }
+  QString translate(const char* context, const char* text, const char*, int) const override {
+    return qstrcmp(context, "LargeFileFinder") == 0 ? u"<%1>"_s.arg(QLatin1String(text)) : QString();
+  }
+};
 
 struct Told {
   qint64 filesSeen;
@@ -185,6 +195,12 @@ void tst_LargeFileFinder::kinds() {
   QCOMPARE(LargeFileFinder::kindFor(u".hidden"_s), u"File"_s);
   QCOMPARE(LargeFileFinder::kindFor(u"Movie.MOV"_s), u"Video"_s);
   QCOMPARE(LargeFileFinder::kindFor(u"x.tm"_s), u"Backup"_s);
+  QCOMPARE(LargeFileFinder::kindName(u"Backup"_s), u"Backup"_s);
+  Kinds kinds;
+  QCoreApplication::installTranslator(&kinds);
+  QCOMPARE(LargeFileFinder::kindName(LargeFileFinder::kindFor(u"x.mov"_s)), u"<Video>"_s);
+  QCOMPARE(LargeFileFinder::kindName(LargeFileFinder::kindFor(u"noext"_s)), u"<File>"_s);
+  QCOMPARE(LargeFileFinder::kindFor(u"x.mov"_s), u"Video"_s); // the label itself is a key
 }
 
 void tst_LargeFileFinder::describesAFile() {

@@ -199,6 +199,11 @@ void tst_i18n::englishPlurals() {
   };
   QCOMPARE(restored(1), u"Restored 1 file"_s);
   QCOMPARE(restored(0), u"Restored 0 files"_s);
+  const auto files = [](int count) {
+    return QCoreApplication::translate("Cli", "%1 files", nullptr, count).arg(fmt::count(count));
+  };
+  QCOMPARE(files(1), u"1 file"_s);
+  QCOMPARE(files(1200), u"1,200 files"_s);
 }
 
 void tst_i18n::missingCatalogueLeavesTheSourceTexts() {

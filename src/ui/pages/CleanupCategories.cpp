@@ -47,6 +47,7 @@ struct Group {
   const char* heading;
 };
 constexpr Group kGroups[] = {
+    //: Heading over some categories, always in capitals
     {Safe, QT_TRANSLATE_NOOP("CleanupPage", "SAFE TO CLEAN")},
     {Review, QT_TRANSLATE_NOOP("CleanupPage", "REVIEW BEFORE CLEANING")},
     {Permanent, QT_TRANSLATE_NOOP("CleanupPage", "CANNOT BE UNDONE")},
@@ -63,6 +64,7 @@ QString spoken(const CategoryResult& result) {
 /// What its group tells of the row, and its look of being the one on show.
 QString describing(const CategoryResult& result, bool active) {
   const QString safety = categories::safetyLabel(result.def.safety);
+  //: Said by a screen reader of the category whose items are shown beside the list
   return active ? safety + ", "_L1 + CleanupWords::tr("Details shown") : safety;
 }
 

@@ -97,7 +97,10 @@ QVBoxLayout* sizeColumn(const CategoryResult& result) {
   value->setStyleSheet(u"font-size: 26px;"_s);
   value->setObjectName("detailValue"_L1);
   QLabel* caption = rightLabel(
-      blocked ? CleanupWords::blocked() : CleanupWords::tr("%1 items").arg(fmt::count(result.files)), "mono");
+      //: Under the size of a category; %1: how many files it holds
+      blocked ? CleanupWords::blocked()
+              : CleanupWords::tr("%1 items", nullptr, fmt::plural(result.files)).arg(fmt::count(result.files)),
+      "mono");
   caption->setObjectName("detailCaption"_L1);
   QVBoxLayout* column = vbox();
   column->addWidget(value);
@@ -107,6 +110,7 @@ QVBoxLayout* sizeColumn(const CategoryResult& result) {
 
 ElidedLabel* secondLine(const CleanItem& item) {
   if (item.owner.isEmpty()) return cell("folder", fmt::shortPath(QFileInfo(item.path).path()), "mono");
+  //: Mark of a row; %1: an app
   return cell("owner", CleanupWords::tr("%1 is running").arg(item.owner), "warn");
 }
 
@@ -266,6 +270,7 @@ void CleanupDetail::addItemsHeading(const CategoryResult& result) {
   heading->addStretch();
   const QString largest = result.items.first().path;
   if (!largest.isEmpty()) {
+    //: Button; %1: the file manager, Finder or Files
     auto* reveal = new Button(CleanupWords::tr("Show in %1").arg(platform::fileManagerName()), "link", u"external"_s);
     connect(reveal, &Button::clicked, this, [largest] { platform::revealInFileManager(largest); });
     heading->addWidget(reveal);
@@ -320,10 +325,13 @@ QCheckBox* CleanupDetail::buildItemBox(const CleanItem& item) {
 void CleanupDetail::addRemainder(qsizetype rest, qsizetype shown) {
   if (rest <= 0) return;
   const qsizetype step = std::min(rest, kMoreItems);
-  auto* more = new Button(CleanupWords::tr("Show %1 more").arg(step), "link");
+  //: Button under a list; %1: how many more rows it brings
+  auto* more = new Button(CleanupWords::tr("Show %1 more", nullptr, fmt::plural(step)).arg(step), "link");
   connect(more, &Button::clicked, this, [this, limit = shown + step] { showMore(limit); });
   QHBoxLayout* line = hbox(kItemSpacing, kRemainderMargins);
-  line->addWidget(label(CleanupWords::tr("and %1 more items").arg(fmt::count(rest)), "sub"));
+  //: At the end of a list; %1: how many rows are not shown
+  line->addWidget(
+      label(CleanupWords::tr("and %1 more items", nullptr, fmt::plural(rest)).arg(fmt::count(rest)), "sub"));
   line->addStretch();
   line->addWidget(more);
   m_detailLayout->addLayout(line);

@@ -52,6 +52,7 @@ QString skippedText(const CleanReport& report, const QFontMetrics& metrics) {
                                   nullptr, count);
   if (report.skippedSamples.isEmpty()) return text;
   const QString sample = metrics.elidedText(report.skippedSamples.first(), Qt::ElideMiddle, kExampleWidth);
+  //: %1: a path; follows “… files skipped …”
   return text + u' ' + CleanupWords::tr("For example: %1").arg(sample.toHtmlEscaped());
 }
 
@@ -118,7 +119,9 @@ void CleanupDoneView::addResult(QVBoxLayout* column) {
 }
 
 void CleanupDoneView::addCounters(QVBoxLayout* column) {
+  //: Free space on the disk before the cleanup, over a size
   const StatPair before = statPair(CleanupWords::tr("Available before"), kCounterSizes);
+  //: Free space on the disk after the cleanup, over a size
   const StatPair now = statPair(CleanupWords::tr("Available now"), kCounterSizes);
   m_beforeValue = before.value;
   m_nowValue = now.value;
@@ -146,6 +149,7 @@ void CleanupDoneView::addNotes(QVBoxLayout* column) {
 void CleanupDoneView::addButtons(QVBoxLayout* column) {
   auto* log = new Button(CleanupWords::tr("View log"), nullptr, u"file"_s);
   connect(log, &Button::clicked, this, &CleanupDoneView::openLog);
+  //: Button that closes the report
   m_done = new Button(CleanupWords::tr("Done"), "primary");
   connect(m_done, &Button::clicked, this, &CleanupDoneView::dismissed);
   QHBoxLayout* row = hbox(kButtonSpacing);

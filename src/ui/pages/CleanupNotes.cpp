@@ -95,6 +95,7 @@ Note* accessNote(const CategoryResult& result) { return isMac() ? accessNoteOnMa
 Note* runningNote(const QList<CleanItem>& items) {
   const QStringList owners = ownersOf(items);
   if (owners.isEmpty()) return nullptr;
+  //: %1: an app
   const QString text = owners.size() == 1 ? CleanupWords::tr("%1 is open. Quit it to include its cache.")
                                           : CleanupWords::tr("%1 are open. Quit them to include their caches.");
   return spokenNote(Note::Caution, u"alert"_s, text.arg(owners.join(", "_L1).toHtmlEscaped()));

@@ -55,6 +55,7 @@ QWidget* CleanupPage::buildEmpty() {
   auto* view = new QWidget;
   QVBoxLayout* root = vbox();
   view->setLayout(root);
+  //: Noun: the page for cleaning
   root->addWidget(new PageHeader(CleanupWords::tr("Cleanup")));
   root->addWidget(centred(block.layout, kStartWidth), 1);
   return view;

@@ -22,7 +22,9 @@ constexpr int kPathWidth = 640;
 
 CleanupProgressView::CleanupProgressView(QWidget* parent)
     : QWidget(parent), m_ring(new ProgressRing), m_cleanPath(new PathLabel) {
+  //: Heading while a cleanup runs
   auto* header = new PageHeader(CleanupWords::tr("Cleaning"));
+  //: Small heading over “Cleaning” and “Scanning”
   header->setEyebrow(CleanupWords::tr("In progress"));
   m_ring->success = true;
   m_ring->setAccessibleName(CleanupWords::tr("Cleaning"));
@@ -40,6 +42,7 @@ void CleanupProgressView::reset(qint64 total) { setProgress(0, total, {}); }
 
 void CleanupProgressView::setProgress(qint64 done, qint64 total, const QString& path) {
   m_ring->setProgress(total < 1 ? 0 : double(done) / double(total));
+  //: Under the size that was cleaned so far; %1: the size of the whole
   m_ring->setText(fmt::bytes(done), CleanupWords::tr("of %1").arg(fmt::bytes(total)));
   if (!path.isEmpty()) m_cleanPath->setPath(path, kPathWidth);
 }

@@ -44,6 +44,14 @@ constexpr int kFigureWeight = 400;
 /// Sizes stand in the font of numbers, within a text in another one.
 QString figureFamily() { return Theme::get().mono(kFigureSize, kFigureWeight).family(); }
 
+/// What will become of what is selected.
+QString fate() {
+  //: What will become of the selected files, as the tip of the button that cleans them
+  if (!AppSettings::instance().moveToTrash()) return CleanupWords::tr("deleted permanently");
+  //: What will become of the selected files, as the tip of the button that cleans them; %1: the Trash
+  return CleanupWords::tr("moved to the %1").arg(platform::trashName());
+}
+
 } // namespace
 
 CleanupReviewView::CleanupReviewView(AppState* state, QWidget* parent)
@@ -73,8 +81,10 @@ CleanupReviewView::CleanupReviewView(AppState* state, QWidget* parent)
 
 PageHeader* CleanupReviewView::buildHeader() {
   auto* header = new PageHeader({});
+  //: Button: tick the recommended categories
   auto* recommended = new Button(CleanupWords::tr("Select recommended"), "ghost");
   connect(recommended, &Button::clicked, m_state, &AppState::selectRecommended);
+  //: Button: scan again
   auto* rescan = new Button(CleanupWords::tr("Rescan"), nullptr, u"refresh"_s);
   connect(rescan, &Button::clicked, m_state, [state = m_state] { state->startScan(); });
   header->addAction(recommended);
@@ -85,6 +95,7 @@ PageHeader* CleanupReviewView::buildHeader() {
 FooterBar* CleanupReviewView::buildFooter() {
   m_selectionLabel->setObjectName("selectionLabel"_L1);
   m_cleanButton->setObjectName("cleanButton"_L1);
+  //: Said by a screen reader of the bar that shows what is ticked
   m_stackBar->setAccessibleName(CleanupWords::tr("Selection"));
   auto* footer = new FooterBar;
   footer->row()->addWidget(m_selectionLabel);
@@ -127,9 +138,10 @@ void CleanupReviewView::refresh() {
 void CleanupReviewView::refreshTitle() {
   const QString total =
       u"<span style=\"font-family:'%1'\">%2</span>"_s.arg(figureFamily(), fmt::bytes(m_state->totalReclaimable()));
+  //: Heading; %1: a size
   m_reviewHeader->setTitle(CleanupWords::tr("%1 can be cleaned").arg(total));
   m_reviewHeader->setEyebrow(
-      QCoreApplication::translate("OverviewPage", "Scanned %1").arg(fmt::age(m_state->lastScan).toLower()));
+      QCoreApplication::translate("OverviewPage", "Scanned %1").arg(fmt::ageWithin(m_state->lastScan)));
   m_reviewHeader->setSubtitle({});
 }
 
@@ -162,12 +174,12 @@ void CleanupReviewView::refreshFooter() {
   const qint64 selected = m_state->selectedBytes();
   const QString size = fmt::bytes(selected);
   const QString look = u"%1; font-family:'%2'; font-size:15px"_s.arg(Theme::get().text.name(), figureFamily());
-  m_selectionLabel->setText(
-      CleanupWords::tr("<b style='color:%1'>%2</b> selected%3")
-          .arg(look, size, m_state->selectionNeedsAdmin() ? CleanupWords::tr(" · some need admin") : QString()));
-  m_cleanButton->setToolTip(AppSettings::instance().moveToTrash()
-                                ? CleanupWords::tr("moved to the %1").arg(platform::trashName())
-                                : CleanupWords::tr("deleted permanently"));
+  //: Follows “… selected”: some of it needs administrator rights
+  const QString admin = m_state->selectionNeedsAdmin() ? CleanupWords::tr(" · some need admin") : QString();
+  //: %2: a size; %3: nothing or “ · some need admin”; leave the tag as it is
+  m_selectionLabel->setText(CleanupWords::tr("<b style='color:%1'>%2</b> selected%3").arg(look, size, admin));
+  m_cleanButton->setToolTip(fate());
+  //: Button; %1: a size
   m_cleanButton->setText(CleanupWords::tr("Clean %1").arg(size));
   m_cleanButton->setEnabled(selected >= 1 && AppSettings::instance().lastLook() == AppSettings::Store::Sound);
 }

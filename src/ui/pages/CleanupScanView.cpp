@@ -35,9 +35,13 @@ QString stepName(qsizetype index) { return u"step%1"_s.arg(index); }
 CleanupScanView::CleanupScanView(AppState* state, QWidget* parent)
     : QWidget(parent),
       m_state(state),
+      //: Heading while a scan runs
       m_radarCard(new RadarCard(CleanupWords::tr("Scanning"))),
+      //: Caption of a counter
       m_itemsValue(m_radarCard->addCounter(CleanupWords::tr("Items checked"))),
+      //: Caption of a counter: time since the start
       m_elapsedValue(m_radarCard->addCounter(CleanupWords::tr("Elapsed"))),
+      //: Caption of a counter: time until the end
       m_remainingValue(m_radarCard->addCounter(CleanupWords::tr("Remaining"))),
       m_stepsLayout(vbox(kStepSpacing)) {
   m_radarCard->path()->setObjectName("scanPath"_L1);
@@ -101,6 +105,7 @@ void CleanupScanView::refresh() {
 
   Radar* radar = m_radarCard->radar();
   radar->setRunning(m_state->phase == AppState::Scanning);
+  //: Under a size: so much was found until now
   radar->setText(fmt::bytes(m_state->scanBytes), CleanupWords::tr("found"));
   m_radarCard->path()->setPath(m_state->scanPath, kPathWidth);
   const qint64 seconds = elapsedSeconds(m_state->scanTimer);

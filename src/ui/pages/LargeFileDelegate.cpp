@@ -1,6 +1,7 @@
 #include "ui/pages/LargeFileDelegate.h"
 
 #include "core/fmt.h"
+#include "engines/LargeFileFinder.h"
 #include "ui/Theme.h"
 #include "ui/icons.h"
 #include "ui/pages/LargeFileKind.h"
@@ -179,7 +180,7 @@ void LargeFileDelegate::paintCell(QPainter* painter, const QRect& cell, const QM
     break;
   case LargeFilesModel::Kind:
     painter->setFont(theme.font(kTextPx, kRegular));
-    paintText(painter, layout.text, kLeftMiddle, theme.text2, file.kind);
+    paintText(painter, layout.text, kLeftMiddle, theme.text2, LargeFileFinder::kindName(file.kind));
     break;
   case LargeFilesModel::LastOpened:
     paintAge(painter, layout.text, file.lastUsed, m_model->unusedMonths);

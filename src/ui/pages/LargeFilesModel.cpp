@@ -1,6 +1,7 @@
 #include "ui/pages/LargeFilesModel.h"
 
 #include "core/fmt.h"
+#include "engines/LargeFileFinder.h"
 #include "ui/TipStyler.h"
 #include "ui/pages/LargeFilesWords.h"
 
@@ -46,7 +47,7 @@ QString spoken(const LargeFile& file, int column) {
   case LargeFilesModel::Name:
     return file.name;
   case LargeFilesModel::Kind:
-    return file.kind;
+    return LargeFileFinder::kindName(file.kind);
   case LargeFilesModel::LastOpened:
     return fmt::age(file.lastUsed);
   default:
@@ -55,11 +56,14 @@ QString spoken(const LargeFile& file, int column) {
 }
 
 QString spokenHeader(int column, bool sorted, Qt::SortOrder order) {
+  //: Said by a screen reader of the column of ticks
   if (column == LargeFilesModel::Check) return LargeFilesWords::tr("Selected");
   const QString text = kHeaders[column].text;
   if (!sorted) return text;
-  return text + ", "_L1 +
-         (order == Qt::AscendingOrder ? LargeFilesWords::tr("ascending") : LargeFilesWords::tr("descending"));
+  //: Said by a screen reader after a column: how it is sorted
+  const QString way =
+      order == Qt::AscendingOrder ? LargeFilesWords::tr("ascending") : LargeFilesWords::tr("descending");
+  return text + ", "_L1 + way;
 }
 
 } // namespace

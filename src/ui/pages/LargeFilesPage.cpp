@@ -23,7 +23,9 @@ LargeFilesPage::LargeFilesPage(AppState* state, QWidget* parent)
     : QWidget(parent),
       m_state(state),
       m_model(new LargeFilesModel(this)),
+      //: Name of the page with the map of large files
       m_header(new PageHeader(LargeFilesWords::tr("Space Map"))),
+      //: Button: search again
       m_rescan(new Button(LargeFilesWords::tr("Rescan"), nullptr, u"refresh"_s)),
       m_views(new QStackedWidget),
       m_startView(buildStart()),
@@ -62,6 +64,7 @@ void LargeFilesPage::showEvent(QShowEvent* event) {
 
 void LargeFilesPage::syncState() {
   m_header->setSubtitle({});
+  //: Small heading; %1: the least size of files that are listed
   m_header->setEyebrow(LargeFilesWords::tr("Home folder · over %1")
                            .arg(fmt::bytes(AppSettings::instance().largeFileMB() * fmt::unit() * fmt::unit())));
   if (m_state->largeSearching) {

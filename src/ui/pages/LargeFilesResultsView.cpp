@@ -53,6 +53,7 @@ LargeFilesResultsView::LargeFilesResultsView(AppState* state, LargeFilesModel* m
     : QWidget(parent),
       m_state(state),
       m_model(model),
+      //: Filter of a list of files: every file
       m_segments(new Segmented({LargeFilesWords::tr("All"), LargeFilesWords::tr("Unused"), u"Downloads"_s})),
       m_search(new QLineEdit),
       m_searchIcon(m_search->addAction(searchIcon(), QLineEdit::LeadingPosition)),
@@ -60,7 +61,9 @@ LargeFilesResultsView::LargeFilesResultsView(AppState* state, LargeFilesModel* m
       m_mapCard(buildMap()),
       m_table(new LargeFilesTable(model)),
       m_sum(label({}, "sub")),
+      //: Button; %1: the file manager, Finder or Files
       m_reveal(new Button(LargeFilesWords::tr("Show in %1").arg(platform::fileManagerName()), nullptr, u"folder"_s)),
+      //: Button; %1: the Trash
       m_move(new Button(LargeFilesWords::tr("Move to %1").arg(platform::trashName()), "primary")),
       m_moveFocus(new KeyboardFocus(m_move)) {
   QVBoxLayout* body = vbox(kBodySpacing, {pageSide(), 0, pageSide(), 0});
@@ -84,6 +87,7 @@ LargeFilesResultsView::LargeFilesResultsView(AppState* state, LargeFilesModel* m
 }
 
 QWidget* LargeFilesResultsView::buildBar() {
+  //: Said by a screen reader of the filters: which files to show
   m_segments->setAccessibleName(LargeFilesWords::tr("Show"));
   m_search->setPlaceholderText(LargeFilesWords::tr("Search files"));
   m_search->setAccessibleName(LargeFilesWords::tr("Search files"));
@@ -135,7 +139,9 @@ void LargeFilesResultsView::refreshLook() {
 
 void LargeFilesResultsView::applyFilter() {
   const int months = AppSettings::instance().oldMonths();
-  m_segments->setItemText(LargeFilesFilter::Unused, LargeFilesWords::tr("Unused %1+ months").arg(months));
+  //: Filter of a list of files: not opened for %1 months or more (3, 6, 12 or 24)
+  m_segments->setItemText(LargeFilesFilter::Unused,
+                          LargeFilesWords::tr("Unused %1+ months", nullptr, months).arg(months));
   m_model->unusedMonths = months;
   const LargeFilesFilter filter{.segment = LargeFilesFilter::Segment(m_segments->current()),
                                 .months = months,
@@ -181,8 +187,10 @@ void LargeFilesResultsView::refreshFooter() {
   m_map->setSelected(visible);
   const QString look = u"%1; font-family:'%2'; font-size:15px"_s.arg(
       Theme::get().text.name(), Theme::get().mono(kFigurePx, kFigureWeight).family());
-  m_sum->setText(LargeFilesWords::tr("<b style='color:%1'>%2</b> selected of %3 · %4 files")
-                     .arg(look, fmt::bytes(selected), fmt::bytes(total), QString::number(m_model->rowCount())));
+  //: %2, %3: sizes; %4: how many files are listed, which the forms count; leave the tag as it is
+  m_sum->setText(
+      LargeFilesWords::tr("<b style='color:%1'>%2</b> selected of %3 · %4 files", nullptr, m_model->rowCount())
+          .arg(look, fmt::bytes(selected), fmt::bytes(total), QString::number(m_model->rowCount())));
   m_reveal->setEnabled(!visible.isEmpty());
   m_move->setEnabled(!visible.isEmpty());
 }

@@ -70,6 +70,7 @@ LargeFilesScanView::LargeFilesScanView(QWidget* parent)
     : QWidget(parent),
       m_radarCard(new RadarCard(LargeFilesWords::tr("Looking for large files…"))),
       m_itemsValue(m_radarCard->addCounter(CleanupWords::tr("Items checked"))),
+      //: Caption of a counter
       m_foundValue(m_radarCard->addCounter(LargeFilesWords::tr("Large files"))),
       m_elapsedValue(m_radarCard->addCounter(CleanupWords::tr("Elapsed"))),
       m_largest(vbox(kRowGap)),
@@ -83,6 +84,7 @@ LargeFilesScanView::LargeFilesScanView(QWidget* parent)
   m_tickTimer->setInterval(kTick);
   connect(m_tickTimer, &QTimer::timeout, this, &LargeFilesScanView::showElapsed);
   m_waiting->setContentsMargins(kWaitingMargins);
+  //: Heading of a list while the search runs
   auto* largest = new ListCard(LargeFilesWords::tr("Largest so far"));
   largest->column()->addLayout(m_largest);
   largest->column()->addWidget(m_waiting);

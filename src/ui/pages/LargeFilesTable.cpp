@@ -60,6 +60,7 @@ void LargeFilesTable::buildHeader() {
   header->setHighlightSections(false);
   header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   header->setSortIndicator(m_model->sortColumn(), m_model->sortOrder());
+  //: Said by a screen reader of the heads of the columns
   header->setAccessibleName(LargeFilesWords::tr("Sort by"));
   setSortingEnabled(true);
   header->setSortIndicatorShown(false); // the texts have a mark of their own

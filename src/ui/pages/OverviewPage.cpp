@@ -75,8 +75,10 @@ QBrush usedSwatch() {
 QString scheduleWord(AppSettings::Schedule schedule) {
   switch (schedule) {
   case AppSettings::Off:
+    //: The scheduled scan is switched off
     return Words::tr("Off");
   case AppSettings::Weekly:
+    //: How often the scheduled scan runs
     return Words::tr("Weekly");
   default:
     return Words::tr("Monthly");
@@ -110,7 +112,9 @@ OverviewPage::OverviewPage(AppState* state, QWidget* parent) : QWidget(parent), 
 
 QWidget* OverviewPage::buildHeader() {
   auto* header = new PageHeader(Words::tr("Smart Scan"));
+  //: Small heading over “Smart Scan”
   header->setEyebrow(Words::tr("Overview"));
+  //: Button: scan again
   m_rescanButton = new Button(Words::tr("Rescan"), nullptr, u"refresh"_s);
   header->addAction(m_rescanButton);
   connect(m_rescanButton, &Button::clicked, this, [this] {
@@ -138,6 +142,7 @@ QVBoxLayout* OverviewPage::buildHeroText() {
   m_legend = hbox(kLegendSpacing);
   QVBoxLayout* column = vbox();
   column->addStretch(1); // before the headline, which would take room too
+  //: Small heading
   column->addWidget(eyebrow(Words::tr("Disk health")));
   column->addSpacing(kEyebrowGap);
   column->addWidget(m_headline);
@@ -155,6 +160,7 @@ QHBoxLayout* OverviewPage::buildChips() {
   m_scanChipText = new ElidedLabel({}, "mono");
   m_scanChipText->setStyleSheet(u"font-size: 12px;"_s);
   QHBoxLayout* chips = hbox(kChipSpacing);
+  //: Mark with a green dot: they are never touched
   chips->addWidget(new Chip(new ElidedLabel(Words::tr("System files protected"), "caption"), Chip::Dot::Good), 1);
   chips->addWidget(new Chip(m_scanChipText), 1);
   chips->addStretch();
@@ -164,7 +170,8 @@ QHBoxLayout* OverviewPage::buildChips() {
 QWidget* OverviewPage::buildStats() {
   m_sparkline = new Sparkline;
   m_sparkline->setValueFormat(fmt::bytes);
-  m_sparkline->setAccessibleName(Words::tr("Freed in the last %1 months").arg(kHistoryMonths));
+  //: Said by a screen reader of a small chart; %1: 6
+  m_sparkline->setAccessibleName(Words::tr("Freed in the last %1 months", nullptr, kHistoryMonths).arg(kHistoryMonths));
   m_freed = new StatCard(m_sparkline);
   m_lastScan = new StatCard(new IconView(u"history"_s, Tone::Accent, kHistoryIconSize));
   m_schedule = new StatCard(new IconTile(u"calendar"_s, QColor::fromRgb(kCalendarHue), kCalendarIconSize));
@@ -178,6 +185,7 @@ QWidget* OverviewPage::buildStats() {
 QHBoxLayout* OverviewPage::buildTilesHead() {
   m_tilesHeading = label({}, "h3");
   m_tilesHeading->setContentsMargins(kTilesHeadMargins);
+  //: Button: all categories
   m_seeAllButton = new Button(Words::tr("See all"), "link");
   connect(m_seeAllButton, &Button::clicked, this, [this] { emit openCleanup({}); });
   QVBoxLayout* buttonColumn = vbox(0, kTilesHeadMargins);
@@ -234,9 +242,12 @@ void OverviewPage::showDisk() {
   const qint64 reclaimable = m_state->totalReclaimable();
   const double usedFraction = total < 1 ? 0.0 : double(total - available) / double(total);
   m_orb->setDisk(total, total - available, reclaimable);
+  //: Under the size of the free space; %1: the size of the disk
   m_orb->setCenter(fmt::bytes(available), Words::tr("free of %1").arg(fmt::bytes(total)),
+                   //: Button: look at what was found
                    hasResults() ? Words::tr("Review") : Words::tr("Scan"));
   if (hasResults())
+    //: Headline; %1: a size, which is painted in colours
     m_headline->set(Words::tr("%1 ready to clean"), fmt::bytes(reclaimable));
   else if (usedFraction > kAlmostFullAbove)
     m_headline->set(Words::tr("Your startup disk is almost full"));
@@ -248,6 +259,7 @@ void OverviewPage::showDiskLine() {
   const platform::Volume& volume = m_state->volume;
   QString line = QCoreApplication::translate("Sidebar", "%1 available of %2")
                      .arg(fmt::bytes(volume.availableBytes), fmt::bytes(volume.totalBytes));
+  //: %1: the size of what the system gives back by itself when space runs low
   if (volume.purgeableBytes > 0) line += u" · "_s + Words::tr("%1 purgeable").arg(fmt::bytes(volume.purgeableBytes));
   m_diskLine->setText(line);
 }
@@ -260,7 +272,9 @@ void OverviewPage::showLegend() {
   m_legend->addWidget(new LegendItem(Words::tr("Apps, documents & system"), fmt::bytes(rest), usedSwatch()));
   if (reclaimable > 0)
     m_legend->addWidget(
+        //: Legend of the disk: what can be cleaned
         new LegendItem(Words::tr("Reclaimable"), fmt::bytes(reclaimable), QColor::fromRgb(kReclaimableHue)));
+  //: Legend of the disk: what is free
   m_legend->addWidget(new LegendItem(Words::tr("Available"), fmt::bytes(available)));
   m_legend->addStretch();
 }
@@ -268,14 +282,17 @@ void OverviewPage::showLegend() {
 void OverviewPage::showLastScan() {
   const QDateTime& when = m_state->lastScan;
   const bool scanned = when.isValid();
-  const QString chip = scanned ? Words::tr("Scanned %1").arg(fmt::age(when).toLower()) : Words::tr("Never scanned");
+  //: %1: when, as “today”, “yesterday” or “3 days ago”
+  const QString chip = scanned ? Words::tr("Scanned %1").arg(fmt::ageWithin(when)) : Words::tr("Never scanned");
   m_scanChipText->setText(chip);
   m_scanChipText->setToolTip(chip);
+  //: Caption under when it was
   m_lastScan->set(scanned ? fmt::age(when) : u"—"_s, scanned ? Words::tr("Last scan") : Words::tr("Never scanned"));
 }
 
 void OverviewPage::showFreed() {
   const QList<qint64> history = AppSettings::instance().freedHistory(kHistoryMonths);
+  //: Caption under a size
   m_freed->set(fmt::bytes(history.last()), Words::tr("Freed this month"));
   m_sparkline->setValues(history);
 }

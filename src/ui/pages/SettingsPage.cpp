@@ -68,6 +68,7 @@ QWidget* choiceRow(const SettingsRowWords& words, const QList<SettingsChoice>& c
 }
 
 QWidget* lockedRow(const SettingsRowWords& words) {
+  //: Beside a rule that can not be changed
   return settingsRow(words, settingsStatus(u"shield"_s, SettingsWords::tr("Locked")));
 }
 
@@ -82,6 +83,7 @@ QWidget* administratorRow() {
   if (platform::isElevated())
     return settingsRow({u"lock"_s, title,
                         SettingsWords::tr("Tarnwick is running as administrator and can clean Windows Update files.")},
+                       //: Beside a permission that Tarnwick has
                        settingsStatus(u"check"_s, SettingsWords::tr("Granted")));
   return buttonRow({u"lock"_s, title, SettingsWords::tr("Only needed to clean Windows Update leftovers.")},
                    SettingsWords::tr("Restart as admin"), [] {
@@ -109,6 +111,7 @@ void restart() {
 /// The languages by their own names; the first item follows the system and has no code.
 Select* languageSelect() {
   auto* control = new Select;
+  //: Of the languages: follow the system; %1: the language that this is now
   control->addItem(SettingsWords::tr("System default (%1)").arg(i18n::nativeName(i18n::systemLanguage())), QString());
   for (const i18n::Language& one : i18n::languages()) control->addItem(one.name, one.code);
   control->setCurrentIndex(std::max(0, control->findData(settings().language())));
@@ -127,10 +130,13 @@ SettingsPage::SettingsPage(AppState* state, QWidget* parent)
   setLayout(root);
   root->addWidget(new PageHeader(SettingsWords::tr("Settings")));
   root->addWidget(m_scroll, 1);
+  //: Heading of settings
   addSettingsSection(column, SettingsWords::tr("Cleaning"), cleaningRows());
   addSettingsSection(column, SettingsWords::tr("Automation"), automationRows());
   addSettingsSection(column, SettingsWords::tr("Appearance"), appearanceRows());
+  //: Heading of settings: what is never cleaned
   addSettingsSection(column, SettingsWords::tr("Exclusions"), exclusionRows());
+  //: Heading of settings: about Tarnwick
   addSettingsSection(column, isLinux() ? SettingsWords::tr("About") : SettingsWords::tr("Permissions & about"),
                      aboutRows());
   column->addStretch();
@@ -141,6 +147,7 @@ SettingsPage::SettingsPage(AppState* state, QWidget* parent)
 }
 
 QList<QWidget*> SettingsPage::cleaningRows() {
+  //: %1: the Trash
   QWidget* trash = switchRow({u"trash"_s, SettingsWords::tr("Move items to the %1").arg(platform::trashName()),
                               SettingsWords::tr("Recommended. Turn off to delete files permanently.")},
                              settings().moveToTrash(), &AppSettings::setMoveToTrash);
@@ -154,13 +161,15 @@ QList<QWidget*> SettingsPage::cleaningRows() {
                                settings().setLargeFileMB(megabytes);
                                if (state->largeScanned) state->startLargeScan();
                              });
-  QWidget* old = choiceRow(
-      {u"clock"_s, SettingsWords::tr("Consider files old after"), SettingsWords::tr("Used by the “Unused” filter.")},
-      {{SettingsWords::tr("3 months"), 3},
-       {SettingsWords::tr("6 months"), 6},
-       {SettingsWords::tr("12 months"), 12},
-       {SettingsWords::tr("24 months"), 24}},
-      settings().oldMonths(), [](int months) { settings().setOldMonths(months); });
+  QWidget* old = choiceRow({u"clock"_s, SettingsWords::tr("Consider files old after"),
+                            //: “Unused” as on the page Space Map
+                            SettingsWords::tr("Used by the “Unused” filter.")},
+                           //: How long a file has not been opened
+                           {{SettingsWords::tr("3 months"), 3},
+                            {SettingsWords::tr("6 months"), 6},
+                            {SettingsWords::tr("12 months"), 12},
+                            {SettingsWords::tr("24 months"), 24}},
+                           settings().oldMonths(), [](int months) { settings().setOldMonths(months); });
   return {trash, large, old};
 }
 
@@ -168,6 +177,7 @@ QList<QWidget*> SettingsPage::automationRows() {
   QWidget* schedule = choiceRow(
       {u"calendar"_s, SettingsWords::tr("Scheduled scan"),
        SettingsWords::tr("Scans when Tarnwick starts if the last scan is older than this. Never cleans on its own.")},
+      //: Of the scheduled scan: never
       {{SettingsWords::tr("Off"), AppSettings::Off},
        {SettingsWords::tr("Weekly"), AppSettings::Weekly},
        {SettingsWords::tr("Monthly"), AppSettings::Monthly}},
@@ -227,9 +237,13 @@ QWidget* SettingsPage::closeRow() {
 
 QList<QWidget*> SettingsPage::appearanceRows() {
   QWidget* theme = choiceRow(
+      //: Light or dark colours
       {u"image"_s, SettingsWords::tr("Theme"), SettingsWords::tr("Follow the system, or always use light or dark.")},
+      //: Of the theme: as the system has it
       {{SettingsWords::tr("System"), AppSettings::System},
+       //: Of the theme: light colours
        {SettingsWords::tr("Light"), AppSettings::Light},
+       //: Of the theme: dark colours
        {SettingsWords::tr("Dark"), AppSettings::Dark}},
       settings().themeMode(), [](int value) { settings().setThemeMode(AppSettings::ThemeMode(value)); });
   return {theme, languageRow()};
@@ -255,9 +269,11 @@ QWidget* SettingsPage::languageRow() {
 QList<QWidget*> SettingsPage::exclusionRows() {
   return {rulesRow(),
           lockedRow({u"lock"_s, SettingsWords::tr("Protected system locations"),
+                     //: Follows a list of folders
                      safety::protectedSummary() + SettingsWords::tr(" — always skipped.")}),
           lockedRow({u"shield"_s, SettingsWords::tr("Protected apps"),
                      appguard::protectedSummary() +
+                         //: Follows a list of kinds of apps
                          SettingsWords::tr(" — their data is never cleaned. Caches of running apps and open files are "
                                            "skipped too.")})};
 }

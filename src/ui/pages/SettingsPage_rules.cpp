@@ -84,6 +84,7 @@ QWidget* SettingsPage::rulesRow() {
 
 QWidget* SettingsPage::buildRulesNote() {
   m_rulesNote = spokenNote(Note::Caution, u"alert"_s, {});
+  //: Button: the rules were looked at and are right
   m_acceptButton = m_rulesNote->addAction(SettingsWords::tr("These are my rules"));
   connect(m_acceptButton, &QPushButton::clicked, this, &SettingsPage::acceptRules);
   auto* holder = new QWidget;
@@ -118,6 +119,7 @@ Button* SettingsPage::addRuleCard(const QString& rule) {
   remove->setFixedWidth(kRemoveSide);
   remove->setOwnHeight(kRemoveSide);
   remove->setStyleSheet(u"padding: 0; min-height: 24px; max-height: 24px;"_s);
+  //: Button that takes a rule away; a screen reader says the rule after it
   remove->setToolTip(SettingsWords::tr("Remove"));
   remove->setAccessibleName(SettingsWords::tr("Remove") + u' ' + rule);
   connect(remove, &Button::clicked, this, [this, rule] { removeRule(rule); });

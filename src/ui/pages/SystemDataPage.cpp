@@ -49,7 +49,9 @@ SystemDataPage::SystemDataPage(AppState* state, QWidget* parent)
 }
 
 QWidget* SystemDataPage::buildHeader() {
+  //: Name of the page, and of what the system calls so in its own view of the disk
   auto* header = new PageHeader(SystemDataWords::tr("System Data"));
+  //: Button: measure again
   auto* rescan = new Button(SystemDataWords::tr("Rescan"), nullptr, u"refresh"_s);
   connect(rescan, &Button::clicked, m_state, &AppState::startSystemDataScan);
   header->addAction(rescan);

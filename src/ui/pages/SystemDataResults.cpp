@@ -77,6 +77,7 @@ class HeadlineCard : public Card, public AccessibleText {
 };
 
 QString headlineText(const QList<SystemDataItem>& items) {
+  //: Follows a size in large figures; %2: a size; leave the tag as it is
   return SystemDataWords::tr("measured in System Data · <b style='color:%1'>%2</b> you can act on")
       .arg(Theme::get().text.name(), fmt::bytes(sumOf(items, true)));
 }
@@ -91,6 +92,7 @@ QLayout* headlineLine(const QString& total, const QString& html, SystemDataWork 
   if (work == SystemDataWork::None) return line;
   line->addWidget(new Spinner(kSpinner));
   line->addWidget(label(
+      //: While what the user asked for is being done
       work == SystemDataWork::Acting ? SystemDataWords::tr("Working…") : SystemDataWords::tr("Updating…"), "caption"));
   return line;
 }
@@ -102,6 +104,7 @@ StackBar* shareBar(const QList<SystemDataItem>& items, qint64 total) {
     if (item.bytes < 1) break;
     segments << StackBar::Segment{.bytes = item.bytes,
                                   .colour = item.color,
+                                  //: %1: what it is; %2: its size
                                   .tip = SystemDataWords::tr("%1 · %2").arg(item.title, fmt::bytes(item.bytes))};
   }
   auto* bar = new StackBar(kBarHeight);
@@ -166,6 +169,7 @@ void SystemDataResults::rebuild(const QList<SystemDataItem>& items, SystemDataWo
   const int column = systemDataColumn(items);
   addHeadline(items, work);
   if (std::ranges::any_of(items, &SystemDataItem::denied)) addNote();
+  //: Heading over the rows that the user can do something about
   addList(SystemDataWords::tr("You can reclaim"), actionable, column, busy);
   addList(SystemDataWords::managed(), others, column, busy);
 

@@ -123,6 +123,7 @@ void SystemDataScanView::showSteps() {
     total += std::max<qint64>(0, m_steps.at(i).bytes);
   }
   keepInView();
+  //: Under a size: so much was measured until now
   m_radarCard->radar()->setText(fmt::bytes(total), SystemDataWords::tr("measured"));
 }
 

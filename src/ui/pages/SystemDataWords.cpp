@@ -37,14 +37,17 @@ QString SystemDataWords::sizeOf(const SystemDataItem& item) {
   if (isCounted(item)) return item.detail;
   if (!item.denied) return fmt::bytes(item.bytes);
   if (item.bytes == 0) return isMac() ? tr("Needs Full Disk Access") : tr("No permission to read");
+  //: %1: a size; not everything could be measured
   return tr("at least %1").arg(fmt::bytes(item.bytes));
 }
 
 QString SystemDataWords::detailOf(const SystemDataItem& item) {
   if (isCounted(item) || item.detail.isEmpty()) return {};
+  //: %1: names of folders, with commas
   return item.id == "hidden"_L1 ? tr("Largest: %1").arg(item.detail) : item.detail;
 }
 
+//: Heading over the rows that the user can do nothing about
 QString SystemDataWords::managed() { return isMac() ? tr("Managed by macOS") : tr("Managed by the system"); }
 
 QString SystemDataWords::explanation() {

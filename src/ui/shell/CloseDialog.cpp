@@ -46,6 +46,7 @@ CloseDialog::CloseDialog(QWidget* parent)
 
   auto* keep = new Button(OverlayWords::tr("Keep in tray"), "primary");
   keep->setDefault(true);
+  //: Button: quit Tarnwick
   auto* quit = new Button(OverlayWords::tr("Quit"));
   connect(keep, &QPushButton::clicked, this, [this] { choose(true); });
   connect(quit, &QPushButton::clicked, this, [this] { choose(false); });

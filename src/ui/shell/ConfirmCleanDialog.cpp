@@ -37,6 +37,7 @@ QLabel* wrapped(const QString& text) {
 QString message(bool toTrash, bool anyPermanent) {
   if (!toTrash) return OverlayWords::tr("Permanent delete is on. These files can't be recovered.");
   const QString text = anyPermanent
+                           //: %1: the Trash
                            ? OverlayWords::tr("Emptying the %1 can't be undone. Everything else goes to the %1.")
                            : OverlayWords::tr("Everything will be moved to the %1, so you can restore it later.");
   return text.arg(platform::trashName());
@@ -66,6 +67,13 @@ InUse inUse(const QList<CategoryResult>& selection) {
   return found;
 }
 
+QString confirmText(bool danger) {
+  //: Button: clean, where some of it is deleted for good
+  if (danger) return OverlayWords::tr("Clean and delete");
+  //: Button: start the cleanup
+  return OverlayWords::tr("Clean");
+}
+
 } // namespace
 
 ConfirmCleanDialog::ConfirmCleanDialog(AppState* state, QWidget* parent) : Overlay(parent), m_state(state) {
@@ -78,8 +86,7 @@ ConfirmCleanDialog::ConfirmCleanDialog(AppState* state, QWidget* parent) : Overl
   body->addSpacing(kAboveCard);
   addCategories(body);
   const bool danger = anyPermanent || !AppSettings::instance().moveToTrash();
-  Button* confirm = dialogFooter(this, danger ? OverlayWords::tr("Clean and delete") : OverlayWords::tr("Clean"),
-                                 danger ? "danger" : "primary");
+  Button* confirm = dialogFooter(this, confirmText(danger), danger ? "danger" : "primary");
   connect(confirm, &QPushButton::clicked, this, [this] {
     emit accepted();
     close();
@@ -87,6 +94,7 @@ ConfirmCleanDialog::ConfirmCleanDialog(AppState* state, QWidget* parent) : Overl
 }
 
 void ConfirmCleanDialog::addTexts(QVBoxLayout* body, bool anyPermanent) {
+  //: Heading of the question; %1: a size
   const QString title = OverlayWords::tr("Clean %1?").arg(fmt::bytes(m_state->selectedBytes()));
   setAccessibleName(title);
   body->addWidget(label(title, "h2"));
@@ -97,10 +105,12 @@ void ConfirmCleanDialog::addTexts(QVBoxLayout* body, bool anyPermanent) {
 void ConfirmCleanDialog::addWhatStays(QVBoxLayout* body) {
   const qint64 noTrash = AppSettings::instance().moveToTrash() ? m_state->selectedBytesWithoutTrash() : 0;
   if (noTrash > 0)
+    //: %1: a size; %2: the Trash
     body->addWidget(wrapped(OverlayWords::tr("%1 of it will stay: there is no %2 on its volume.")
                                 .arg(fmt::bytes(noTrash), platform::trashName())));
   const InUse used = inUse(m_state->selectedResults());
   if (!used.apps.isEmpty())
+    //: %1: a size; %2: apps, with commas
     body->addWidget(wrapped(OverlayWords::tr("%1 of it will stay while these apps are open: %2.")
                                 .arg(fmt::bytes(used.bytes), used.apps.join(QStringLiteral(", ")))));
 }

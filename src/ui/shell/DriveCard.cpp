@@ -74,6 +74,7 @@ void DriveCard::setCompact(bool compact) {
 
 QString DriveCard::valueText() const {
   const platform::Volume& volume = m_state->volume;
+  //: Sizes of the free space and of the disk
   return SidebarWords::tr("%1 available of %2").arg(fmt::bytes(volume.availableBytes), fmt::bytes(volume.totalBytes));
 }
 
@@ -123,6 +124,7 @@ void DriveCard::paintTexts(QPainter* painter, const DriveCardLayout& layout) con
   const platform::Volume& volume = m_state->volume;
   line(layout.name, theme.font(kNamePx, kNameWeight), theme.text, volume.name);
   line(layout.free, theme.mono(kFreePx, kFreeWeight), theme.text3,
+       //: %1: the size of the free space
        SidebarWords::tr("%1 free").arg(fmt::bytes(volume.availableBytes)));
 }
 

@@ -54,6 +54,7 @@ struct Entry {
 };
 constexpr Entry kEntries[] = {
     {Sidebar::Overview, QT_TRANSLATE_NOOP("Sidebar", "Smart Scan"), u"sparkle"},
+    //: Noun: the page for cleaning
     {Sidebar::Cleanup, QT_TRANSLATE_NOOP("Sidebar", "Cleanup"), u"trash"},
     {Sidebar::SpaceMap, QT_TRANSLATE_NOOP("Sidebar", "Space Map"), u"layers"},
     {Sidebar::Settings, QT_TRANSLATE_NOOP("Sidebar", "Settings"), u"menu-settings"},
@@ -97,6 +98,7 @@ void Sidebar::buildEntries(QVBoxLayout* column, const QList<int>& pages) {
     m_topRow->setLayout(row);
     column->addWidget(m_topRow);
   }
+  //: Heading over the pages of the sidebar: what one comes here for
   m_heading = eyebrow(SidebarWords::tr("Clean"));
   m_heading->setContentsMargins(paint::mirrored(kHeading, layoutDirection()));
   column->addWidget(m_heading);

@@ -37,14 +37,18 @@ TitleBar::TitleBar(QWidget* window, QWidget* parent) : QWidget(parent), m_window
   row->addSpacing(kLogoRoom);
   row->addWidget(label(identity::kName, "caption"));
   row->addStretch();
+  //: Button with the program’s menu
   m_menu = addButton(CaptionButton::Menu, TitleBarWords::tr("Menu"));
   m_menu->setToolTip(TitleBarWords::tr("Menu"));
   connect(m_menu, &QAbstractButton::clicked, this, &TitleBar::requestMenu);
+  //: Button of the window
   connect(addButton(CaptionButton::Minimize, TitleBarWords::tr("Minimize")), &QAbstractButton::clicked, window,
           &QWidget::showMinimized);
+  //: Button of the window
   m_maximize = addButton(CaptionButton::Maximize, TitleBarWords::tr("Maximize"));
   connect(m_maximize, &QAbstractButton::clicked, window,
           [window] { window->isMaximized() ? window->showNormal() : window->showMaximized(); });
+  //: Button of the window
   connect(addButton(CaptionButton::Close, TitleBarWords::tr("Close")), &QAbstractButton::clicked, window,
           &QWidget::close);
   window->installEventFilter(this);

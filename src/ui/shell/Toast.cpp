@@ -37,6 +37,7 @@ QString buttonStyle(const QColor& ink) {
 Toast::Toast(QWidget* parent)
     : QWidget(parent),
       m_text(label({})),
+      //: Button: put the files back that were moved to the Trash
       m_button(new QPushButton(OverlayWords::tr("Undo"))),
       m_timer(new QTimer(this)) {
   m_text->setTextFormat(Qt::PlainText); // names of files stand in it

@@ -109,6 +109,7 @@ void Tray::buildMenu() {
 void Tray::refreshStatus() {
   m_state->refreshVolume();
   const platform::Volume& volume = m_state->volume;
+  //: %1: the disk; %2: the size of its free space
   m_status->setText(Words::tr("%1 · %2 free").arg(volume.name, fmt::bytes(volume.availableBytes)));
 }
 

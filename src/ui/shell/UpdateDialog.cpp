@@ -72,6 +72,7 @@ struct Head {
 Head availableHead(const Updater& updater) {
   const UpdateRelease& release = updater.release;
   QString subtitle =
+      //: %1, %2: versions such as “1.2.0”
       OverlayWords::tr("Version %1 is available. You have %2.").arg(release.version, updater.currentVersion);
   QStringList facts;
   for (const QString& fact : {release.date.simplified(), release.size.simplified()}) // on one line
@@ -82,6 +83,7 @@ Head availableHead(const Updater& updater) {
 
 Head downloadingHead(const Updater& updater) {
   const QString subtitle =
+      //: How much of the update is there; %1, %2: sizes
       updater.total > 0 ? OverlayWords::tr("%1 of %2").arg(fmt::bytes(updater.received), fmt::bytes(updater.total))
                         : OverlayWords::tr("Version %1").arg(updater.release.version);
   return {OverlayWords::tr("Downloading the update…"), subtitle};
@@ -137,6 +139,7 @@ UpdateDialog::UpdateDialog(Updater* updater, QWidget* parent, Wish wish)
       m_warning(plainLabel("warn")),
       m_close(new Button({})),
       m_cancel(new Button(OverlayWords::tr("Cancel"))),
+      //: Button: look for updates again
       m_retry(new Button(OverlayWords::tr("Retry"), "primary")),
       m_install(new Button(OverlayWords::tr("Update now"), "primary")) {
   const bool mac = Theme::get().mac;
@@ -289,6 +292,7 @@ void UpdateDialog::refreshButtons() {
   m_retry->setVisible(state == Updater::Failed);
   m_cancel->setVisible(state == Updater::Downloading);
   m_close->setVisible(state != Updater::Downloading && state != Updater::Installing);
+  //: Button: do not update now
   m_close->setText(state == Updater::Available ? OverlayWords::tr("Later") : OverlayWords::tr("Close"));
   m_install->setDefault(state == Updater::Available && m_wish == Wish::Asked);
   m_retry->setDefault(state == Updater::Failed);

@@ -38,6 +38,7 @@ constexpr Entry kEntries[] = {
     {Menu::Edit, SelectAll, QT_TRANSLATE_NOOP("MenuBar", "Select All"), QKeySequence::SelectAll, "Ctrl+A", kNoRole,
      kWorks},
     {Menu::View, GoOverview, QT_TRANSLATE_NOOP("MenuBar", "Smart Scan"), kNone, "Ctrl+1"},
+    //: Entry of the menu View: the page Cleanup
     {Menu::View, GoCleanup, QT_TRANSLATE_NOOP("MenuBar", "Cleanup"), kNone, "Ctrl+2"},
     {Menu::View, GoSpaceMap, QT_TRANSLATE_NOOP("MenuBar", "Space Map"), kNone, "Ctrl+3"},
     {Menu::View, GoSystemData, QT_TRANSLATE_NOOP("MenuBar", "System Data"), kNone, "Ctrl+4"},
@@ -46,11 +47,15 @@ constexpr Entry kEntries[] = {
     {Menu::View, ToggleFullScreen, QT_TRANSLATE_NOOP("MenuBar", "Enter Full Screen"), QKeySequence::FullScreen, "F11",
      kNoRole, kWorks},
     {Menu::Window, Minimize, QT_TRANSLATE_NOOP("MenuBar", "Minimize"), kNone, "Ctrl+M", kNoRole, kWorks},
+    //: Entry of the menu Window: make the window large, or as it was
     {Menu::Window, Zoom, QT_TRANSLATE_NOOP("MenuBar", "Zoom"), kNone, "", kNoRole, kWorks},
     {Menu::Window, Separator},
     {Menu::Window, BringToFront, QT_TRANSLATE_NOOP("MenuBar", "Bring All to Front"), kNone, "", kNoRole, kWorks},
+    //: Entry of the menu Help: the guide on the website
     {Menu::Help, Guide, QT_TRANSLATE_NOOP("MenuBar", "Guide"), kNone, "", kNoRole, kWorks},
+    //: Entry of the menu Help: frequently asked questions
     {Menu::Help, Faq, QT_TRANSLATE_NOOP("MenuBar", "FAQ"), kNone, "", kNoRole, kWorks},
+    //: Entry of the menu Help: the folder with the logs of cleanups
     {Menu::Help, LogFolder, QT_TRANSLATE_NOOP("MenuBar", "Open Log Folder"), kNone, "", kNoRole, kWorks},
     {Menu::Help, OpenMenu, QT_TRANSLATE_NOOP("MenuBar", "Open Menu"), kNone, "F10", kNoRole, kWorks,
      Where::WithoutMenuBar},
@@ -58,6 +63,7 @@ constexpr Entry kEntries[] = {
      UnderDialog::Rests, Where::WithoutMenuBar},
 };
 
+//: Title of a menu
 constexpr const char* kTitles[] = {QT_TRANSLATE_NOOP("MenuBar", "File"), QT_TRANSLATE_NOOP("MenuBar", "Edit"),
                                    QT_TRANSLATE_NOOP("MenuBar", "View"), QT_TRANSLATE_NOOP("MenuBar", "Window"),
                                    QT_TRANSLATE_NOOP("MenuBar", "Help")};

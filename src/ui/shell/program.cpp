@@ -68,6 +68,7 @@ void showAtStart(MainWindow* window, const StartOptions& options) {
 void afterStart(MainWindow* window, AppState* state, const StartOptions& options) {
   const AppSettings& settings = AppSettings::instance();
   if (settings.lowSpaceAlerts() && isLow(state->volume))
+    //: %1: the disk, such as “System disk”
     window->notify(Words::tr("%1 is almost full. Run Smart Scan to free up space.").arg(state->volume.name));
   if (options.updated) window->showToast(updateText(), false);
   if (settings.scheduledScanDue()) state->startScan();

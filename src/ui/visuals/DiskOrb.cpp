@@ -144,8 +144,10 @@ QString DiskOrb::buttonText() const { return m_action.isEmpty() ? dial::spoken(m
 QString DiskOrb::valueText() const {
   QStringList parts{dial::spoken(m_value, m_caption)};
   if (m_disk.used > 0)
+    //: Said by a screen reader; %1: how much of the disk
     parts << QCoreApplication::translate("DiskOrb", "%1% used").arg(qRound(valueFraction() * kPercent));
   if (m_disk.cleanable > 0)
+    //: Said by a screen reader; %1: a size
     parts << QCoreApplication::translate("DiskOrb", "%1 can be cleaned").arg(fmt::bytes(m_disk.cleanable));
   parts.removeAll(QString());
   return parts.join(u", "_s);

@@ -56,6 +56,7 @@ void Gauge::setValue(double value) {
   accessibleValueChanged(this);
 }
 
+//: Said by a screen reader; %1: a share such as “73%”
 QString Gauge::valueText() const { return QCoreApplication::translate("Gauge", "%1 used").arg(percentText(m_value)); }
 
 void Gauge::paintEvent(QPaintEvent* /*event*/) {
@@ -65,6 +66,7 @@ void Gauge::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   paintArcs(&painter, layout.dial);
   dial::paintText(&painter, layout.text, {percentText(m_value), theme.font(kPercentPx, kPercentWeight), theme.text},
+                  //: Under a share such as “73%”: so much of the disk is used
                   {QCoreApplication::translate("Gauge", "used"), theme.font(kWordPx, kWordWeight), theme.text2});
 }
 

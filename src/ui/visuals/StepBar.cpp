@@ -50,10 +50,12 @@ bool StepBar::isSweeping() const { return m_ticker->isBeating(); }
 QString StepBar::valueText() const {
   switch (m_state) {
   case Pending:
+    //: State of a step of the scan, said by a screen reader
     return QCoreApplication::translate("StepBar", "Waiting");
   case Running:
     return QCoreApplication::translate("StepBar", "In progress");
   case Done:
+    //: State of a step of the scan, said by a screen reader
     return QCoreApplication::translate("StepBar", "Done");
   }
   return {};
