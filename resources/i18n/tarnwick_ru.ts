@@ -21,32 +21,32 @@
     <message>
         <source>1 file</source>
         <extracomment>How many files were moved: %1 of “%1 (%2) moved to the %3”</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 файл</translation>
     </message>
     <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 файл</numerusform>
+            <numerusform>%1 файла</numerusform>
+            <numerusform>%1 файлов</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 (%2) moved to the %3</source>
         <extracomment>%1: “1 file” or “%1 files”; %2: their size; %3: the Trash. The forms count the files</extracomment>
-        <translation type="unfinished">
-            <numerusform>Перемещено в %3: %1 (%2)</numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>В %3 перемещён %1 (%2)</numerusform>
+            <numerusform>В %3 перемещено %1 (%2)</numerusform>
+            <numerusform>В %3 перемещено %1 (%2)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source> · %1 in use, skipped</source>
         <extracomment>Follows “… moved to the Trash”; %1: how many files stayed, as they were open</extracomment>
-        <translation type="unfinished">
-            <numerusform> · занято и пропущено: %1</numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> · %1 занят и пропущен</numerusform>
+            <numerusform> · %1 заняты и пропущены</numerusform>
+            <numerusform> · %1 занято и пропущено</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -211,10 +211,10 @@
     <message numerus="yes">
         <source>%1 items</source>
         <extracomment>Under the size of a category; %1: how many files it holds</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 объект</numerusform>
+            <numerusform>%1 объекта</numerusform>
+            <numerusform>%1 объектов</numerusform>
         </translation>
     </message>
     <message>
@@ -238,19 +238,19 @@
     <message numerus="yes">
         <source>Show %1 more</source>
         <extracomment>Button under a list; %1: how many more rows it brings</extracomment>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Показать ещё %1</numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Показать ещё %1</numerusform>
+            <numerusform>Показать ещё %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>and %1 more items</source>
         <extracomment>At the end of a list; %1: how many rows are not shown</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>и ещё %1 объект</numerusform>
+            <numerusform>и ещё %1 объекта</numerusform>
+            <numerusform>и ещё %1 объектов</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>look for files that take at least so many megabytes on the disk, whatever the settings say</source>
-        <translation>искать файлы, которые занимают на диске не меньше стольких мегабайт, независимо от настроек</translation>
+        <translation>искать файлы, которые занимают на диске не меньше заданного числа мегабайт, независимо от настроек</translation>
     </message>
     <message>
         <source>one JSON object on standard output</source>
@@ -629,10 +629,10 @@
     </message>
     <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 файл</numerusform>
+            <numerusform>%1 файла</numerusform>
+            <numerusform>%1 файлов</numerusform>
         </translation>
     </message>
     <message>
@@ -648,10 +648,10 @@
     <message numerus="yes">
         <source>%1 of %2 files</source>
         <extracomment>The forms count %2</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 из %2 файла</numerusform>
+            <numerusform>%1 из %2 файлов</numerusform>
+            <numerusform>%1 из %2 файлов</numerusform>
         </translation>
     </message>
     <message>
@@ -675,7 +675,7 @@
     <message>
         <source>1 file</source>
         <extracomment>Stands alone or as %1 or %2 of another text</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 файл</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -756,10 +756,10 @@
     <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
         <extracomment>A list of files follows; %1: how many</extracomment>
-        <translation type="unfinished">
-            <numerusform>Пропущено, всего %1; причины указаны в журнале:</numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Пропущен %1 объект; причины указаны в журнале:</numerusform>
+            <numerusform>Пропущено %1 объекта; причины указаны в журнале:</numerusform>
+            <numerusform>Пропущено %1 объектов; причины указаны в журнале:</numerusform>
         </translation>
     </message>
     <message>
@@ -800,10 +800,10 @@
     <message numerus="yes">
         <source>Freed %1, removed %2.</source>
         <extracomment>%1: a size; %2: “1 file” or “%1 files”, which the forms count</extracomment>
-        <translation type="unfinished">
-            <numerusform>Освобождено: %1, удалено: %2.</numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Освобождено %1, удалён %2.</numerusform>
+            <numerusform>Освобождено %1, удалено %2.</numerusform>
+            <numerusform>Освобождено %1, удалено %2.</numerusform>
         </translation>
     </message>
     <message>
@@ -831,10 +831,10 @@
     <message numerus="yes">
         <source>The largest %1 of %2 files are listed.</source>
         <extracomment>The forms count %2</extracomment>
-        <translation type="unfinished">
-            <numerusform>Показаны самые большие файлы: %1 из %2.</numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Показаны самые большие: %1 из %2 файла.</numerusform>
+            <numerusform>Показаны самые большие: %1 из %2 файлов.</numerusform>
+            <numerusform>Показаны самые большие: %1 из %2 файлов.</numerusform>
         </translation>
     </message>
     <message>
@@ -845,10 +845,10 @@
     <message numerus="yes">
         <source>Searched %1 in %2. Nothing was changed.</source>
         <extracomment>%1: “1 file” or “%1 files”, which the forms count; %2: a time such as “2.1 s”</extracomment>
-        <translation type="unfinished">
-            <numerusform>Просмотрено: %1 за %2. Ничего не изменено.</numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Просмотрен %1 за %2. Ничего не изменено.</numerusform>
+            <numerusform>Просмотрено %1 за %2. Ничего не изменено.</numerusform>
+            <numerusform>Просмотрено %1 за %2. Ничего не изменено.</numerusform>
         </translation>
     </message>
     <message>
@@ -924,47 +924,47 @@
     <message>
         <source>Disk image</source>
         <extracomment>Kind of a file, as the following</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Образ диска</translation>
     </message>
     <message>
         <source>Partial download</source>
         <extracomment>Kind of a file: a download that has not ended</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Неполная загрузка</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Видео</translation>
     </message>
     <message>
         <source>Archive</source>
-        <translation type="unfinished"></translation>
+        <translation>Архив</translation>
     </message>
     <message>
         <source>Installer</source>
         <extracomment>Kind of a file: it installs a program</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Установщик</translation>
     </message>
     <message>
         <source>Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Аудио</translation>
     </message>
     <message>
         <source>Image</source>
         <extracomment>Kind of a file: a picture</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Изображение</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Документ</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Резервная копия</translation>
     </message>
     <message>
         <source>File</source>
         <extracomment>Kind of a file: any other</extracomment>
-        <translation type="unfinished">Файл</translation>
+        <translation>Файл</translation>
     </message>
 </context>
 <context>
@@ -1045,19 +1045,19 @@
     <message numerus="yes">
         <source>Unused %1+ months</source>
         <extracomment>Filter of a list of files: not opened for %1 months or more (3, 6, 12 or 24)</extracomment>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Не открывались %1+ мес.</numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Не открывались %1+ мес.</numerusform>
+            <numerusform>Не открывались %1+ мес.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
         <extracomment>%2, %3: sizes; %4: how many files are listed, which the forms count; leave the tag as it is</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Выбрано &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; из %3 · %4 файл</numerusform>
+            <numerusform>Выбрано &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; из %3 · %4 файла</numerusform>
+            <numerusform>Выбрано &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; из %3 · %4 файлов</numerusform>
         </translation>
     </message>
     <message>
@@ -1472,10 +1472,10 @@
     <message numerus="yes">
         <source>Freed in the last %1 months</source>
         <extracomment>Said by a screen reader of a small chart; %1: 6</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Освобождено за последний %1 месяц</numerusform>
+            <numerusform>Освобождено за последние %1 месяца</numerusform>
+            <numerusform>Освобождено за последние %1 месяцев</numerusform>
         </translation>
     </message>
     <message>
@@ -2004,23 +2004,23 @@
     <message>
         <source>1 item</source>
         <extracomment>How many items were moved: %1 of “Moved %1 to the Trash”</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 объект</translation>
     </message>
     <message numerus="yes">
         <source>%1 items</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 объект</numerusform>
+            <numerusform>%1 объекта</numerusform>
+            <numerusform>%1 объектов</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count; %2: how many others</extracomment>
-        <translation type="unfinished">
-            <numerusform>Перемещено в Корзину: %1, не удалось переместить: %2</numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>В Корзину перемещён %1, не удалось переместить: %2</numerusform>
+            <numerusform>В Корзину перемещено %1, не удалось переместить: %2</numerusform>
+            <numerusform>В Корзину перемещено %1, не удалось переместить: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -2030,10 +2030,10 @@
     <message numerus="yes">
         <source>Moved %1 to the Trash</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count</extracomment>
-        <translation type="unfinished">
-            <numerusform>Перемещено в Корзину: %1</numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>В Корзину перемещён %1</numerusform>
+            <numerusform>В Корзину перемещено %1</numerusform>
+            <numerusform>В Корзину перемещено %1</numerusform>
         </translation>
     </message>
     <message>
@@ -2047,10 +2047,10 @@
     <message numerus="yes">
         <source>Removed %1 of %2 snapshots</source>
         <extracomment>The forms count %2, how many there were</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Удалено %1 из %2 снимка</numerusform>
+            <numerusform>Удалено %1 из %2 снимков</numerusform>
+            <numerusform>Удалено %1 из %2 снимков</numerusform>
         </translation>
     </message>
     <message>
@@ -2064,14 +2064,14 @@
     </message>
     <message>
         <source>Deleted 1 unavailable simulator device</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалено 1 недоступное устройство симулятора</translation>
     </message>
     <message numerus="yes">
         <source>Deleted %1 unavailable simulator devices</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Удалено %1 недоступное устройство симулятора</numerusform>
+            <numerusform>Удалено %1 недоступных устройства симулятора</numerusform>
+            <numerusform>Удалено %1 недоступных устройств симулятора</numerusform>
         </translation>
     </message>
     <message>
@@ -2360,14 +2360,14 @@
     </message>
     <message>
         <source>1 snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>1 снимок</translation>
     </message>
     <message numerus="yes">
         <source>%1 snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 снимок</numerusform>
+            <numerusform>%1 снимка</numerusform>
+            <numerusform>%1 снимков</numerusform>
         </translation>
     </message>
     <message>
@@ -2381,14 +2381,14 @@
     </message>
     <message>
         <source>1 device</source>
-        <translation type="unfinished"></translation>
+        <translation>1 устройство</translation>
     </message>
     <message numerus="yes">
         <source>%1 devices</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 устройство</numerusform>
+            <numerusform>%1 устройства</numerusform>
+            <numerusform>%1 устройств</numerusform>
         </translation>
     </message>
 </context>
@@ -2419,7 +2419,7 @@
     <message>
         <source>measured in System Data · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; you can act on</source>
         <extracomment>Follows a size in large figures; %2: a size; leave the tag as it is</extracomment>
-        <translation>занимают системные данные · из них &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; можно освободить</translation>
+        <translation>подсчитано в системных данных · из них &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; можно освободить</translation>
     </message>
     <message>
         <source>Working…</source>
