@@ -21,25 +21,25 @@
     <message>
         <source>1 file</source>
         <extracomment>How many files were moved: %1 of “%1 (%2) moved to the %3”</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 個檔案</translation>
     </message>
     <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 個檔案</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 (%2) moved to the %3</source>
         <extracomment>%1: “1 file” or “%1 files”; %2: their size; %3: the Trash. The forms count the files</extracomment>
-        <translation type="unfinished">
+        <translation>
             <numerusform>已將 %1（%2）移到%3</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source> · %1 in use, skipped</source>
         <extracomment>Follows “… moved to the Trash”; %1: how many files stayed, as they were open</extracomment>
-        <translation type="unfinished">
+        <translation>
             <numerusform> · %1 個正在使用，已略過</numerusform>
         </translation>
     </message>
@@ -203,8 +203,8 @@
     <message numerus="yes">
         <source>%1 items</source>
         <extracomment>Under the size of a category; %1: how many files it holds</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 項</numerusform>
         </translation>
     </message>
     <message>
@@ -228,15 +228,15 @@
     <message numerus="yes">
         <source>Show %1 more</source>
         <extracomment>Button under a list; %1: how many more rows it brings</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>再顯示 %1 項</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>and %1 more items</source>
         <extracomment>At the end of a list; %1: how many rows are not shown</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>還有 %1 項</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -613,8 +613,8 @@
     </message>
     <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 個檔案</numerusform>
         </translation>
     </message>
     <message>
@@ -630,8 +630,8 @@
     <message numerus="yes">
         <source>%1 of %2 files</source>
         <extracomment>The forms count %2</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 / %2 個檔案</numerusform>
         </translation>
     </message>
     <message>
@@ -655,7 +655,7 @@
     <message>
         <source>1 file</source>
         <extracomment>Stands alone or as %1 or %2 of another text</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 個檔案</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -736,7 +736,7 @@
     <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
         <extracomment>A list of files follows; %1: how many</extracomment>
-        <translation type="unfinished">
+        <translation>
             <numerusform>共略過 %1 項，原因請見記錄檔：</numerusform>
         </translation>
     </message>
@@ -752,7 +752,7 @@
     <message>
         <source>Scanned in %1. Nothing was changed.</source>
         <extracomment>%1: a time such as “2.1 s”</extracomment>
-        <translation>掃描費時 %1。未做任何更動。</translation>
+        <translation>掃描耗時 %1。未做任何更動。</translation>
     </message>
     <message>
         <source>There is nothing to clean.</source>
@@ -773,12 +773,12 @@
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
-        <translation>這是試執行：未做任何更動。</translation>
+        <translation>這是模擬執行：未做任何更動。</translation>
     </message>
     <message numerus="yes">
         <source>Freed %1, removed %2.</source>
         <extracomment>%1: a size; %2: “1 file” or “%1 files”, which the forms count</extracomment>
-        <translation type="unfinished">
+        <translation>
             <numerusform>已釋放 %1，移除 %2。</numerusform>
         </translation>
     </message>
@@ -807,8 +807,8 @@
     <message numerus="yes">
         <source>The largest %1 of %2 files are listed.</source>
         <extracomment>The forms count %2</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>僅列出 %2 個檔案中最大的 %1 個。</numerusform>
         </translation>
     </message>
     <message>
@@ -819,8 +819,8 @@
     <message numerus="yes">
         <source>Searched %1 in %2. Nothing was changed.</source>
         <extracomment>%1: “1 file” or “%1 files”, which the forms count; %2: a time such as “2.1 s”</extracomment>
-        <translation type="unfinished">
-            <numerusform>已檢查 %1，費時 %2。未做任何更動。</numerusform>
+        <translation>
+            <numerusform>已檢查 %1，耗時 %2。未做任何更動。</numerusform>
         </translation>
     </message>
     <message>
@@ -862,7 +862,7 @@
     </message>
     <message>
         <source>Measured in %1. Nothing was changed.</source>
-        <translation>計算費時 %1。未做任何更動。</translation>
+        <translation>計算耗時 %1。未做任何更動。</translation>
     </message>
 </context>
 <context>
@@ -896,47 +896,47 @@
     <message>
         <source>Disk image</source>
         <extracomment>Kind of a file, as the following</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>磁碟映像檔</translation>
     </message>
     <message>
         <source>Partial download</source>
         <extracomment>Kind of a file: a download that has not ended</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>未完成的下載</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>影片</translation>
     </message>
     <message>
         <source>Archive</source>
-        <translation type="unfinished"></translation>
+        <translation>壓縮檔</translation>
     </message>
     <message>
         <source>Installer</source>
         <extracomment>Kind of a file: it installs a program</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>安裝檔</translation>
     </message>
     <message>
         <source>Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>音訊</translation>
     </message>
     <message>
         <source>Image</source>
         <extracomment>Kind of a file: a picture</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>影像</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>文件</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation type="unfinished"></translation>
+        <translation>備份</translation>
     </message>
     <message>
         <source>File</source>
         <extracomment>Kind of a file: any other</extracomment>
-        <translation type="unfinished">檔案</translation>
+        <translation>檔案</translation>
     </message>
 </context>
 <context>
@@ -1017,15 +1017,15 @@
     <message numerus="yes">
         <source>Unused %1+ months</source>
         <extracomment>Filter of a list of files: not opened for %1 months or more (3, 6, 12 or 24)</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 個月以上未使用</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
         <extracomment>%2, %3: sizes; %4: how many files are listed, which the forms count; leave the tag as it is</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已選取 &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt;，共 %3 · %4 個檔案</numerusform>
         </translation>
     </message>
     <message>
@@ -1440,8 +1440,8 @@
     <message numerus="yes">
         <source>Freed in the last %1 months</source>
         <extracomment>Said by a screen reader of a small chart; %1: 6</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>最近 %1 個月已釋放</numerusform>
         </translation>
     </message>
     <message>
@@ -1666,19 +1666,19 @@
     <message>
         <source>3 months</source>
         <extracomment>How long a file has not been opened</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>3 個月</translation>
     </message>
     <message>
         <source>6 months</source>
-        <translation type="unfinished"></translation>
+        <translation>6 個月</translation>
     </message>
     <message>
         <source>12 months</source>
-        <translation type="unfinished"></translation>
+        <translation>12 個月</translation>
     </message>
     <message>
         <source>24 months</source>
-        <translation type="unfinished"></translation>
+        <translation>24 個月</translation>
     </message>
     <message>
         <source>Scheduled scan</source>
@@ -1796,7 +1796,7 @@
     <message>
         <source> — always skipped.</source>
         <extracomment>Follows a list of folders</extracomment>
-        <translation>：一律略過。</translation>
+        <translation> — 一律略過。</translation>
     </message>
     <message>
         <source>Protected apps</source>
@@ -1804,7 +1804,7 @@
     </message>
     <message>
         <source> — their data is never cleaned. Caches of running apps and open files are skipped too.</source>
-        <translation>：絕不清理其資料。正在執行的應用程式的快取和開啟的檔案也會略過。</translation>
+        <translation> — 絕不清理其資料。正在執行的應用程式的快取和開啟的檔案也會略過。</translation>
     </message>
     <message>
         <source>Open logs</source>
@@ -1970,19 +1970,19 @@
     <message>
         <source>1 item</source>
         <extracomment>How many items were moved: %1 of “Moved %1 to the Trash”</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 個項目</translation>
     </message>
     <message numerus="yes">
         <source>%1 items</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 個項目</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count; %2: how many others</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已將 %1移到垃圾桶，另有 %2 個無法移動</numerusform>
         </translation>
     </message>
     <message>
@@ -1992,7 +1992,7 @@
     <message numerus="yes">
         <source>Moved %1 to the Trash</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count</extracomment>
-        <translation type="unfinished">
+        <translation>
             <numerusform>已將 %1移到垃圾桶</numerusform>
         </translation>
     </message>
@@ -2007,8 +2007,8 @@
     <message numerus="yes">
         <source>Removed %1 of %2 snapshots</source>
         <extracomment>The forms count %2, how many there were</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已移除 %2 個快照中的 %1 個</numerusform>
         </translation>
     </message>
     <message>
@@ -2022,12 +2022,12 @@
     </message>
     <message>
         <source>Deleted 1 unavailable simulator device</source>
-        <translation type="unfinished"></translation>
+        <translation>已刪除 1 個無法使用的模擬器裝置</translation>
     </message>
     <message numerus="yes">
         <source>Deleted %1 unavailable simulator devices</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已刪除 %1 個無法使用的模擬器裝置</numerusform>
         </translation>
     </message>
     <message>
@@ -2316,12 +2316,12 @@
     </message>
     <message>
         <source>1 snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>1 個快照</translation>
     </message>
     <message numerus="yes">
         <source>%1 snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 個快照</numerusform>
         </translation>
     </message>
     <message>
@@ -2335,12 +2335,12 @@
     </message>
     <message>
         <source>1 device</source>
-        <translation type="unfinished"></translation>
+        <translation>1 個裝置</translation>
     </message>
     <message numerus="yes">
         <source>%1 devices</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 個裝置</numerusform>
         </translation>
     </message>
 </context>
