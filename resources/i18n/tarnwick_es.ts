@@ -21,29 +21,29 @@
     <message>
         <source>1 file</source>
         <extracomment>How many files were moved: %1 of “%1 (%2) moved to the %3”</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 archivo</translation>
     </message>
     <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 archivo</numerusform>
+            <numerusform>%1 archivos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 (%2) moved to the %3</source>
         <extracomment>%1: “1 file” or “%1 files”; %2: their size; %3: the Trash. The forms count the files</extracomment>
-        <translation type="unfinished">
-            <numerusform>Movido a la %3: %1 (%2)</numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (%2) movido a la %3</numerusform>
+            <numerusform>%1 (%2) movidos a la %3</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source> · %1 in use, skipped</source>
         <extracomment>Follows “… moved to the Trash”; %1: how many files stayed, as they were open</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> · %1 en uso, omitido</numerusform>
+            <numerusform> · %1 en uso, omitidos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -74,7 +74,7 @@
     </message>
     <message>
         <source>Data apps keep to load faster. Apps rebuild these automatically the next time they need them.</source>
-        <translation>Datos que las apps guardan para cargar más rápido. Los vuelven a crear solas la próxima vez que los necesiten.</translation>
+        <translation>Datos que las apps guardan para cargar más rápido. Las propias apps los vuelven a crear la próxima vez que los necesitan.</translation>
     </message>
     <message>
         <source>Browser caches</source>
@@ -207,9 +207,9 @@
     <message numerus="yes">
         <source>%1 items</source>
         <extracomment>Under the size of a category; %1: how many files it holds</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 elemento</numerusform>
+            <numerusform>%1 elementos</numerusform>
         </translation>
     </message>
     <message>
@@ -233,17 +233,17 @@
     <message numerus="yes">
         <source>Show %1 more</source>
         <extracomment>Button under a list; %1: how many more rows it brings</extracomment>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Mostrar %1 más</numerusform>
-            <numerusform></numerusform>
+            <numerusform>Mostrar %1 más</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>and %1 more items</source>
         <extracomment>At the end of a list; %1: how many rows are not shown</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>y %1 elemento más</numerusform>
+            <numerusform>y %1 elementos más</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -621,9 +621,9 @@
     </message>
     <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 archivo</numerusform>
+            <numerusform>%1 archivos</numerusform>
         </translation>
     </message>
     <message>
@@ -639,9 +639,9 @@
     <message numerus="yes">
         <source>%1 of %2 files</source>
         <extracomment>The forms count %2</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 de %2 archivo</numerusform>
+            <numerusform>%1 de %2 archivos</numerusform>
         </translation>
     </message>
     <message>
@@ -665,7 +665,7 @@
     <message>
         <source>1 file</source>
         <extracomment>Stands alone or as %1 or %2 of another text</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 archivo</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -746,9 +746,9 @@
     <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
         <extracomment>A list of files follows; %1: how many</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Omitido, %1 en total; el registro explica por qué:</numerusform>
+            <numerusform>Omitidos, %1 en total; el registro explica por qué:</numerusform>
         </translation>
     </message>
     <message>
@@ -789,9 +789,9 @@
     <message numerus="yes">
         <source>Freed %1, removed %2.</source>
         <extracomment>%1: a size; %2: “1 file” or “%1 files”, which the forms count</extracomment>
-        <translation type="unfinished">
-            <numerusform>Liberado: %1; eliminado: %2.</numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 liberados, %2 eliminado.</numerusform>
+            <numerusform>%1 liberados, %2 eliminados.</numerusform>
         </translation>
     </message>
     <message>
@@ -819,9 +819,9 @@
     <message numerus="yes">
         <source>The largest %1 of %2 files are listed.</source>
         <extracomment>The forms count %2</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se muestran los %1 más grandes de %2 archivo.</numerusform>
+            <numerusform>Se muestran los %1 más grandes de %2 archivos.</numerusform>
         </translation>
     </message>
     <message>
@@ -832,9 +832,9 @@
     <message numerus="yes">
         <source>Searched %1 in %2. Nothing was changed.</source>
         <extracomment>%1: “1 file” or “%1 files”, which the forms count; %2: a time such as “2.1 s”</extracomment>
-        <translation type="unfinished">
-            <numerusform>Búsqueda en %1, hecha en %2. No se ha cambiado nada.</numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 revisado en %2. No se ha cambiado nada.</numerusform>
+            <numerusform>%1 revisados en %2. No se ha cambiado nada.</numerusform>
         </translation>
     </message>
     <message>
@@ -853,7 +853,7 @@
     <message>
         <source>Largest: %1</source>
         <extracomment>%1: names of folders, with commas</extracomment>
-        <translation>El mayor: %1</translation>
+        <translation>Mayores: %1</translation>
     </message>
     <message>
         <source>You can reclaim</source>
@@ -910,47 +910,47 @@
     <message>
         <source>Disk image</source>
         <extracomment>Kind of a file, as the following</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Imagen de disco</translation>
     </message>
     <message>
         <source>Partial download</source>
         <extracomment>Kind of a file: a download that has not ended</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Descarga parcial</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo</translation>
     </message>
     <message>
         <source>Archive</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprimido</translation>
     </message>
     <message>
         <source>Installer</source>
         <extracomment>Kind of a file: it installs a program</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Instalador</translation>
     </message>
     <message>
         <source>Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio</translation>
     </message>
     <message>
         <source>Image</source>
         <extracomment>Kind of a file: a picture</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Imagen</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia de seguridad</translation>
     </message>
     <message>
         <source>File</source>
         <extracomment>Kind of a file: any other</extracomment>
-        <translation type="unfinished">Archivo</translation>
+        <translation>Archivo</translation>
     </message>
 </context>
 <context>
@@ -1031,17 +1031,17 @@
     <message numerus="yes">
         <source>Unused %1+ months</source>
         <extracomment>Filter of a list of files: not opened for %1 months or more (3, 6, 12 or 24)</extracomment>
-        <translation type="unfinished">
+        <translation>
+            <numerusform>%1+ mes sin usar</numerusform>
             <numerusform>%1+ meses sin usar</numerusform>
-            <numerusform></numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
         <extracomment>%2, %3: sizes; %4: how many files are listed, which the forms count; leave the tag as it is</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; seleccionados de %3 · %4 archivo</numerusform>
+            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; seleccionados de %3 · %4 archivos</numerusform>
         </translation>
     </message>
     <message>
@@ -1089,7 +1089,7 @@
     <message>
         <source>%1 is almost full. Run Smart Scan to free up space.</source>
         <extracomment>%1: the disk, such as “System disk”</extracomment>
-        <translation>Queda poco espacio en %1. Usa el análisis inteligente para liberar espacio.</translation>
+        <translation>%1: queda poco espacio. Usa el análisis inteligente para liberar espacio.</translation>
     </message>
 </context>
 <context>
@@ -1456,9 +1456,9 @@
     <message numerus="yes">
         <source>Freed in the last %1 months</source>
         <extracomment>Said by a screen reader of a small chart; %1: 6</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Liberado en el último mes (%1)</numerusform>
+            <numerusform>Liberado en los últimos %1 meses</numerusform>
         </translation>
     </message>
     <message>
@@ -1987,21 +1987,21 @@
     <message>
         <source>1 item</source>
         <extracomment>How many items were moved: %1 of “Moved %1 to the Trash”</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 elemento</translation>
     </message>
     <message numerus="yes">
         <source>%1 items</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 elemento</numerusform>
+            <numerusform>%1 elementos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count; %2: how many others</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 movido a la Papelera; sin mover: %2</numerusform>
+            <numerusform>%1 movidos a la Papelera; sin mover: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -2011,9 +2011,9 @@
     <message numerus="yes">
         <source>Moved %1 to the Trash</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count</extracomment>
-        <translation type="unfinished">
-            <numerusform>Movido a la Papelera: %1</numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 movido a la Papelera</numerusform>
+            <numerusform>%1 movidos a la Papelera</numerusform>
         </translation>
     </message>
     <message>
@@ -2027,9 +2027,9 @@
     <message numerus="yes">
         <source>Removed %1 of %2 snapshots</source>
         <extracomment>The forms count %2, how many there were</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Instantáneas eliminadas: %1 de %2</numerusform>
+            <numerusform>Instantáneas eliminadas: %1 de %2</numerusform>
         </translation>
     </message>
     <message>
@@ -2043,13 +2043,13 @@
     </message>
     <message>
         <source>Deleted 1 unavailable simulator device</source>
-        <translation type="unfinished"></translation>
+        <translation>1 dispositivo de simulador no disponible eliminado</translation>
     </message>
     <message numerus="yes">
         <source>Deleted %1 unavailable simulator devices</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 dispositivo de simulador no disponible eliminado</numerusform>
+            <numerusform>%1 dispositivos de simulador no disponibles eliminados</numerusform>
         </translation>
     </message>
     <message>
@@ -2338,13 +2338,13 @@
     </message>
     <message>
         <source>1 snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>1 instantánea</translation>
     </message>
     <message numerus="yes">
         <source>%1 snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 instantánea</numerusform>
+            <numerusform>%1 instantáneas</numerusform>
         </translation>
     </message>
     <message>
@@ -2358,13 +2358,13 @@
     </message>
     <message>
         <source>1 device</source>
-        <translation type="unfinished"></translation>
+        <translation>1 dispositivo</translation>
     </message>
     <message numerus="yes">
         <source>%1 devices</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 dispositivo</numerusform>
+            <numerusform>%1 dispositivos</numerusform>
         </translation>
     </message>
 </context>
@@ -2435,7 +2435,7 @@
     </message>
     <message>
         <source>%1 will be moved to the Trash. Xcode recreates it when you connect a device again.</source>
-        <translation>Se moverán %1 a la Papelera. Xcode los vuelve a crear cuando conectas de nuevo un dispositivo.</translation>
+        <translation>Se moverán %1 a la Papelera. Xcode vuelve a crear esos datos cuando conectas de nuevo un dispositivo.</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
@@ -2453,7 +2453,7 @@
     <message>
         <source>Largest: %1</source>
         <extracomment>%1: names of folders, with commas</extracomment>
-        <translation>El mayor: %1</translation>
+        <translation>Mayores: %1</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
