@@ -21,29 +21,29 @@
     <message>
         <source>1 file</source>
         <extracomment>How many files were moved: %1 of “%1 (%2) moved to the %3”</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 Datei</translation>
     </message>
     <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Datei</numerusform>
+            <numerusform>%1 Dateien</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 (%2) moved to the %3</source>
         <extracomment>%1: “1 file” or “%1 files”; %2: their size; %3: the Trash. The forms count the files</extracomment>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%1 (%2) in den %3 gelegt</numerusform>
-            <numerusform></numerusform>
+            <numerusform>%1 (%2) in den %3 gelegt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source> · %1 in use, skipped</source>
         <extracomment>Follows “… moved to the Trash”; %1: how many files stayed, as they were open</extracomment>
-        <translation type="unfinished">
+        <translation>
             <numerusform> · %1 in Verwendung, übersprungen</numerusform>
-            <numerusform></numerusform>
+            <numerusform> · %1 in Verwendung, übersprungen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -207,9 +207,9 @@
     <message numerus="yes">
         <source>%1 items</source>
         <extracomment>Under the size of a category; %1: how many files it holds</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Objekt</numerusform>
+            <numerusform>%1 Objekte</numerusform>
         </translation>
     </message>
     <message>
@@ -233,17 +233,17 @@
     <message numerus="yes">
         <source>Show %1 more</source>
         <extracomment>Button under a list; %1: how many more rows it brings</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 weiteres zeigen</numerusform>
+            <numerusform>%1 weitere zeigen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>and %1 more items</source>
         <extracomment>At the end of a list; %1: how many rows are not shown</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>und %1 weiteres Objekt</numerusform>
+            <numerusform>und %1 weitere Objekte</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -436,7 +436,7 @@
     <message>
         <source>Elapsed</source>
         <extracomment>Caption of a counter: time since the start</extracomment>
-        <translation>Verstrichen</translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Remaining</source>
@@ -621,9 +621,9 @@
     </message>
     <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Datei</numerusform>
+            <numerusform>%1 Dateien</numerusform>
         </translation>
     </message>
     <message>
@@ -639,9 +639,9 @@
     <message numerus="yes">
         <source>%1 of %2 files</source>
         <extracomment>The forms count %2</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 von %2 Datei</numerusform>
+            <numerusform>%1 von %2 Dateien</numerusform>
         </translation>
     </message>
     <message>
@@ -665,7 +665,7 @@
     <message>
         <source>1 file</source>
         <extracomment>Stands alone or as %1 or %2 of another text</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 Datei</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -746,9 +746,9 @@
     <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
         <extracomment>A list of files follows; %1: how many</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Insgesamt %1 Datei übersprungen; warum, steht im Protokoll:</numerusform>
+            <numerusform>Insgesamt %1 Dateien übersprungen; warum, steht im Protokoll:</numerusform>
         </translation>
     </message>
     <message>
@@ -789,9 +789,9 @@
     <message numerus="yes">
         <source>Freed %1, removed %2.</source>
         <extracomment>%1: a size; %2: “1 file” or “%1 files”, which the forms count</extracomment>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%1 freigegeben, %2 entfernt.</numerusform>
-            <numerusform></numerusform>
+            <numerusform>%1 freigegeben, %2 entfernt.</numerusform>
         </translation>
     </message>
     <message>
@@ -819,9 +819,9 @@
     <message numerus="yes">
         <source>The largest %1 of %2 files are listed.</source>
         <extracomment>The forms count %2</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Aufgelistet sind die größten %1 von %2 Datei.</numerusform>
+            <numerusform>Aufgelistet sind die größten %1 von %2 Dateien.</numerusform>
         </translation>
     </message>
     <message>
@@ -832,9 +832,9 @@
     <message numerus="yes">
         <source>Searched %1 in %2. Nothing was changed.</source>
         <extracomment>%1: “1 file” or “%1 files”, which the forms count; %2: a time such as “2.1 s”</extracomment>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%1 in %2 durchsucht. Es wurde nichts verändert.</numerusform>
-            <numerusform></numerusform>
+            <numerusform>%1 in %2 durchsucht. Es wurde nichts verändert.</numerusform>
         </translation>
     </message>
     <message>
@@ -910,47 +910,47 @@
     <message>
         <source>Disk image</source>
         <extracomment>Kind of a file, as the following</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Disk-Image</translation>
     </message>
     <message>
         <source>Partial download</source>
         <extracomment>Kind of a file: a download that has not ended</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Teil-Download</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Archive</source>
-        <translation type="unfinished"></translation>
+        <translation>Archiv</translation>
     </message>
     <message>
         <source>Installer</source>
         <extracomment>Kind of a file: it installs a program</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Installer</translation>
     </message>
     <message>
         <source>Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio</translation>
     </message>
     <message>
         <source>Image</source>
         <extracomment>Kind of a file: a picture</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Backup</translation>
     </message>
     <message>
         <source>File</source>
         <extracomment>Kind of a file: any other</extracomment>
-        <translation type="unfinished">Datei</translation>
+        <translation>Datei</translation>
     </message>
 </context>
 <context>
@@ -1031,17 +1031,17 @@
     <message numerus="yes">
         <source>Unused %1+ months</source>
         <extracomment>Filter of a list of files: not opened for %1 months or more (3, 6, 12 or 24)</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1+ Monat ungenutzt</numerusform>
+            <numerusform>%1+ Monate ungenutzt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
         <extracomment>%2, %3: sizes; %4: how many files are listed, which the forms count; leave the tag as it is</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; von %3 gewählt · %4 Datei</numerusform>
+            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; von %3 gewählt · %4 Dateien</numerusform>
         </translation>
     </message>
     <message>
@@ -1413,7 +1413,7 @@
     <message>
         <source>Scanned %1</source>
         <extracomment>%1: when, as “today”, “yesterday” or “3 days ago”</extracomment>
-        <translation>Gescannt: %1</translation>
+        <translation>Scan: %1</translation>
     </message>
     <message>
         <source>Off</source>
@@ -1456,9 +1456,9 @@
     <message numerus="yes">
         <source>Freed in the last %1 months</source>
         <extracomment>Said by a screen reader of a small chart; %1: 6</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>In %1 Monat bereinigt</numerusform>
+            <numerusform>In den letzten %1 Monaten bereinigt</numerusform>
         </translation>
     </message>
     <message>
@@ -1518,7 +1518,7 @@
     </message>
     <message>
         <source>Never scanned</source>
-        <translation>Noch nie gescannt</translation>
+        <translation>Nie gescannt</translation>
     </message>
     <message>
         <source>Last scan</source>
@@ -1987,21 +1987,21 @@
     <message>
         <source>1 item</source>
         <extracomment>How many items were moved: %1 of “Moved %1 to the Trash”</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 Objekt</translation>
     </message>
     <message numerus="yes">
         <source>%1 items</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Objekt</numerusform>
+            <numerusform>%1 Objekte</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count; %2: how many others</extracomment>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%1 in den Papierkorb gelegt, bei %2 nicht möglich</numerusform>
-            <numerusform></numerusform>
+            <numerusform>%1 in den Papierkorb gelegt, bei %2 nicht möglich</numerusform>
         </translation>
     </message>
     <message>
@@ -2011,14 +2011,14 @@
     <message numerus="yes">
         <source>Moved %1 to the Trash</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count</extracomment>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%1 in den Papierkorb gelegt</numerusform>
-            <numerusform></numerusform>
+            <numerusform>%1 in den Papierkorb gelegt</numerusform>
         </translation>
     </message>
     <message>
         <source>There are no local snapshots to remove</source>
-        <translation>Es gibt keine lokalen Snapshots zu entfernen</translation>
+        <translation>Es sind keine lokalen Snapshots vorhanden</translation>
     </message>
     <message>
         <source>Snapshots were not removed</source>
@@ -2027,9 +2027,9 @@
     <message numerus="yes">
         <source>Removed %1 of %2 snapshots</source>
         <extracomment>The forms count %2, how many there were</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 von %2 Snapshot entfernt</numerusform>
+            <numerusform>%1 von %2 Snapshots entfernt</numerusform>
         </translation>
     </message>
     <message>
@@ -2043,13 +2043,13 @@
     </message>
     <message>
         <source>Deleted 1 unavailable simulator device</source>
-        <translation type="unfinished"></translation>
+        <translation>1 nicht verfügbares Simulatorgerät gelöscht</translation>
     </message>
     <message numerus="yes">
         <source>Deleted %1 unavailable simulator devices</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 nicht verfügbares Simulatorgerät gelöscht</numerusform>
+            <numerusform>%1 nicht verfügbare Simulatorgeräte gelöscht</numerusform>
         </translation>
     </message>
     <message>
@@ -2338,13 +2338,13 @@
     </message>
     <message>
         <source>1 snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Snapshot</translation>
     </message>
     <message numerus="yes">
         <source>%1 snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Snapshot</numerusform>
+            <numerusform>%1 Snapshots</numerusform>
         </translation>
     </message>
     <message>
@@ -2358,13 +2358,13 @@
     </message>
     <message>
         <source>1 device</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Gerät</translation>
     </message>
     <message numerus="yes">
         <source>%1 devices</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Gerät</numerusform>
+            <numerusform>%1 Geräte</numerusform>
         </translation>
     </message>
 </context>
