@@ -249,8 +249,8 @@
     <message numerus="yes">
         <source>&lt;b&gt;%Ln file(s) skipped&lt;/b&gt; because they were in use or protected. Quit the apps using them and rescan to remove them.</source>
         <translation>
-            <numerusform>&lt;b&gt;%Ln Datei übersprungen&lt;/b&gt;, da sie in Verwendung oder geschützt war. Beenden Sie die App, die sie verwendet, und scannen Sie neu, um sie zu entfernen.</numerusform>
-            <numerusform>&lt;b&gt;%Ln Dateien übersprungen&lt;/b&gt;, da sie in Verwendung oder geschützt waren. Beenden Sie die Apps, die sie verwenden, und scannen Sie neu, um sie zu entfernen.</numerusform>
+            <numerusform>&lt;b&gt;%Ln Datei übersprungen&lt;/b&gt;, da sie in Verwendung oder geschützt war. Beenden Sie die App, die sie verwendet, und scannen Sie neu, um die Datei zu entfernen.</numerusform>
+            <numerusform>&lt;b&gt;%Ln Dateien übersprungen&lt;/b&gt;, da sie in Verwendung oder geschützt waren. Beenden Sie die Apps, die sie verwenden, und scannen Sie neu, um die Dateien zu entfernen.</numerusform>
         </translation>
     </message>
     <message>
@@ -1875,7 +1875,7 @@
     </message>
     <message>
         <source>The rules are kept. The damaged settings file stays beside the new one.</source>
-        <translation>Die Regeln sind gesichert. Die beschädigte Einstellungsdatei bleibt neben der neuen erhalten.</translation>
+        <translation>Die Regeln bleiben erhalten. Die beschädigte Einstellungsdatei liegt weiterhin neben der neuen.</translation>
     </message>
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
@@ -2190,7 +2190,7 @@
     </message>
     <message>
         <source>Room on the disk for what doesn&apos;t fit into memory, and for memory itself during hibernation. The system&apos;s settings fix its size; “swapon --show” lists it.</source>
-        <translation>Platz auf dem Laufwerk für alles, was nicht in den Arbeitsspeicher passt, und im Ruhezustand für den Arbeitsspeicher selbst. Die Größe legen die Systemeinstellungen fest; „swapon --show“ zeigt sie an.</translation>
+        <translation>Platz auf dem Laufwerk für alles, was nicht in den Arbeitsspeicher passt, und im Ruhezustand für den Arbeitsspeicher selbst. Die Größe ist in der Systemkonfiguration festgelegt; „swapon --show“ zeigt sie an.</translation>
     </message>
     <message>
         <source>System snapshots</source>
@@ -2294,7 +2294,7 @@
     </message>
     <message>
         <source>Unified logs and diagnostic reports. macOS rotates and deletes them automatically.</source>
-        <translation>Systemweite Protokolle und Diagnoseberichte. macOS rotiert und löscht sie automatisch.</translation>
+        <translation>Systemweite Protokolle und Diagnoseberichte. macOS legt sie regelmäßig neu an und löscht alte automatisch.</translation>
     </message>
     <message>
         <source>Virtual memory &amp; sleep image</source>
@@ -2334,7 +2334,7 @@
     </message>
     <message>
         <source>Settings, databases and files apps keep for you. Remove an app&apos;s data by uninstalling the app or from within the app.</source>
-        <translation>Einstellungen, Datenbanken und Dateien, die Apps für Sie verwalten. Entfernen Sie die Daten einer App in der App selbst oder durch Deinstallieren der App.</translation>
+        <translation>Einstellungen, Datenbanken und Dateien, die Apps für Sie verwalten. Die Daten einer App entfernen Sie in der App selbst oder durch deren Deinstallation.</translation>
     </message>
     <message>
         <source>1 snapshot</source>
