@@ -34,7 +34,7 @@
         <source>%1 (%2) moved to the %3</source>
         <extracomment>%1: “1 file” or “%1 files”; %2: their size; %3: the Trash. The forms count the files</extracomment>
         <translation type="unfinished">
-            <numerusform>Mis à la %3&#xa0;: %1 (%2)</numerusform>
+            <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
     </message>
@@ -287,7 +287,7 @@
     </message>
     <message>
         <source>Moved to the %1. You can still restore anything.</source>
-        <translation>Tout a été mis à la %1. Vous pouvez encore restaurer ce que vous voulez.</translation>
+        <translation>Mis à la %1. Vous pouvez encore tout restaurer.</translation>
     </message>
     <message>
         <source>Items were deleted permanently.</source>
@@ -323,7 +323,7 @@
     </message>
     <message>
         <source>You have no permission to read some of these folders.</source>
-        <translation>Vous n’êtes pas autorisé à lire certains de ces dossiers.</translation>
+        <translation>Vous n’avez pas le droit de lire certains de ces dossiers.</translation>
     </message>
     <message>
         <source>%1 is open. Quit it to include its cache.</source>
@@ -340,7 +340,7 @@
     </message>
     <message>
         <source>Find caches, temporary files and leftovers.</source>
-        <translation>Trouvez les caches, les fichiers temporaires et les restes inutiles.</translation>
+        <translation>Trouvez les caches, les fichiers temporaires et autres résidus.</translation>
     </message>
     <message>
         <source>Start Smart Scan</source>
@@ -398,7 +398,7 @@
     <message>
         <source> · some need admin</source>
         <extracomment>Follows “… selected”: some of it needs administrator rights</extracomment>
-        <translation> · droits d’admin requis</translation>
+        <translation> · droits d’admin parfois requis</translation>
     </message>
     <message>
         <source>moved to the %1</source>
@@ -747,7 +747,7 @@
         <source>Skipped, %1 in all; the log tells why:</source>
         <extracomment>A list of files follows; %1: how many</extracomment>
         <translation type="unfinished">
-            <numerusform>Ignorés, %1 en tout&#xa0;; le journal dit pourquoi&#xa0;:</numerusform>
+            <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
     </message>
@@ -790,7 +790,7 @@
         <source>Freed %1, removed %2.</source>
         <extracomment>%1: a size; %2: “1 file” or “%1 files”, which the forms count</extracomment>
         <translation type="unfinished">
-            <numerusform>Espace libéré&#xa0;: %1&#xa0;; supprimé&#xa0;: %2.</numerusform>
+            <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
     </message>
@@ -833,7 +833,7 @@
         <source>Searched %1 in %2. Nothing was changed.</source>
         <extracomment>%1: “1 file” or “%1 files”, which the forms count; %2: a time such as “2.1 s”</extracomment>
         <translation type="unfinished">
-            <numerusform>Recherche dans %1 en %2. Rien n’a été modifié.</numerusform>
+            <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
     </message>
@@ -1457,7 +1457,7 @@
         <source>Freed in the last %1 months</source>
         <extracomment>Said by a screen reader of a small chart; %1: 6</extracomment>
         <translation type="unfinished">
-            <numerusform>Espace libéré au cours des %1 derniers mois</numerusform>
+            <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
     </message>
@@ -1584,7 +1584,7 @@
     </message>
     <message>
         <source>Only needed to clean Windows Update leftovers.</source>
-        <translation>Nécessaire uniquement pour nettoyer les restes de Windows Update.</translation>
+        <translation>Nécessaire uniquement pour nettoyer les résidus de Windows Update.</translation>
     </message>
     <message>
         <source>Restart as admin</source>
@@ -1853,7 +1853,7 @@
     </message>
     <message>
         <source>Never touch these</source>
-        <translation>Ne jamais y toucher</translation>
+        <translation>À ne jamais toucher</translation>
     </message>
     <message>
         <source>Folders and patterns Tarnwick always skips.</source>
@@ -2000,7 +2000,7 @@
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count; %2: how many others</extracomment>
         <translation type="unfinished">
-            <numerusform>Mis à la Corbeille&#xa0;: %1&#xa0;; impossible à déplacer&#xa0;: %2</numerusform>
+            <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
     </message>
@@ -2012,7 +2012,7 @@
         <source>Moved %1 to the Trash</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count</extracomment>
         <translation type="unfinished">
-            <numerusform>Mis à la Corbeille&#xa0;: %1</numerusform>
+            <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
     </message>
@@ -2086,7 +2086,7 @@
     </message>
     <message>
         <source>Apps that Flatpak installed for you alone, and the runtimes that they need. “flatpak uninstall --user --unused” removes runtimes that no app needs any more.</source>
-        <translation>Apps que Flatpak a installées pour vous seul et runtimes dont elles ont besoin. «&#xa0;flatpak uninstall --user --unused&#xa0;» supprime les runtimes dont plus aucune app n’a besoin.</translation>
+        <translation>Apps que Flatpak a installées uniquement pour vous et runtimes dont elles ont besoin. «&#xa0;flatpak uninstall --user --unused&#xa0;» supprime les runtimes dont plus aucune app n’a besoin.</translation>
     </message>
     <message>
         <source>Containers and images</source>
@@ -2206,7 +2206,7 @@
     </message>
     <message>
         <source>Hourly snapshots macOS keeps on this disk until Time Machine can reach its backup drive. macOS frees them when space runs low; removing them now is safe, but you lose those restore points.</source>
-        <translation>Instantanés que macOS garde toutes les heures sur ce disque tant que Time Machine n’a pas accès à son disque de sauvegarde. macOS les libère quand l’espace vient à manquer&#xa0;; vous pouvez les supprimer sans risque, mais vous perdrez ces points de restauration.</translation>
+        <translation>Instantanés que macOS crée toutes les heures et garde sur ce disque tant que Time Machine n’a pas accès à son disque de sauvegarde. macOS les libère quand l’espace vient à manquer&#xa0;; vous pouvez les supprimer sans risque, mais vous perdrez ces points de restauration.</translation>
     </message>
     <message>
         <source>iPhone &amp; iPad backups</source>
@@ -2294,7 +2294,7 @@
     </message>
     <message>
         <source>Unified logs and diagnostic reports. macOS rotates and deletes them automatically.</source>
-        <translation>Journaux unifiés et rapports de diagnostic. macOS les archive et les supprime automatiquement.</translation>
+        <translation>Journaux unifiés et rapports de diagnostic. macOS les renouvelle et les supprime automatiquement.</translation>
     </message>
     <message>
         <source>Virtual memory &amp; sleep image</source>
@@ -2310,7 +2310,7 @@
     </message>
     <message>
         <source>Downloaded system assets (fonts, dictionaries, language and AI models) and staged software updates.</source>
-        <translation>Ressources système téléchargées (polices, dictionnaires, modèles de langue et d’IA) et mises à jour logicielles en attente.</translation>
+        <translation>Ressources système téléchargées (polices, dictionnaires, modèles de langue et d’IA) et mises à jour logicielles prêtes à installer.</translation>
     </message>
     <message>
         <source>Other Library data</source>
@@ -2435,7 +2435,7 @@
     </message>
     <message>
         <source>%1 will be moved to the Trash. Xcode recreates it when you connect a device again.</source>
-        <translation>Mise à la Corbeille de %1. Xcode recréera ces données quand vous connecterez de nouveau un appareil.</translation>
+        <translation>Ces données (%1) seront mises à la Corbeille. Xcode les recréera quand vous connecterez de nouveau un appareil.</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
