@@ -21,29 +21,29 @@
     <message>
         <source>1 file</source>
         <extracomment>How many files were moved: %1 of “%1 (%2) moved to the %3”</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 fichier</translation>
     </message>
     <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 fichier</numerusform>
+            <numerusform>%1 fichiers</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 (%2) moved to the %3</source>
         <extracomment>%1: “1 file” or “%1 files”; %2: their size; %3: the Trash. The forms count the files</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (%2) mis à la %3</numerusform>
+            <numerusform>%1 (%2) mis à la %3</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source> · %1 in use, skipped</source>
         <extracomment>Follows “… moved to the Trash”; %1: how many files stayed, as they were open</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> · %1 en cours d’utilisation, ignoré</numerusform>
+            <numerusform> · %1 en cours d’utilisation, ignorés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -207,9 +207,9 @@
     <message numerus="yes">
         <source>%1 items</source>
         <extracomment>Under the size of a category; %1: how many files it holds</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 élément</numerusform>
+            <numerusform>%1 éléments</numerusform>
         </translation>
     </message>
     <message>
@@ -233,17 +233,17 @@
     <message numerus="yes">
         <source>Show %1 more</source>
         <extracomment>Button under a list; %1: how many more rows it brings</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Afficher %1 de plus</numerusform>
+            <numerusform>Afficher %1 de plus</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>and %1 more items</source>
         <extracomment>At the end of a list; %1: how many rows are not shown</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>et %1 autre élément</numerusform>
+            <numerusform>et %1 autres éléments</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -621,9 +621,9 @@
     </message>
     <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 fichier</numerusform>
+            <numerusform>%1 fichiers</numerusform>
         </translation>
     </message>
     <message>
@@ -639,9 +639,9 @@
     <message numerus="yes">
         <source>%1 of %2 files</source>
         <extracomment>The forms count %2</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 sur %2 fichier</numerusform>
+            <numerusform>%1 sur %2 fichiers</numerusform>
         </translation>
     </message>
     <message>
@@ -665,7 +665,7 @@
     <message>
         <source>1 file</source>
         <extracomment>Stands alone or as %1 or %2 of another text</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 fichier</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -746,9 +746,9 @@
     <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
         <extracomment>A list of files follows; %1: how many</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 élément ignoré&#xa0;; le journal dit pourquoi&#xa0;:</numerusform>
+            <numerusform>%1 éléments ignorés&#xa0;; le journal dit pourquoi&#xa0;:</numerusform>
         </translation>
     </message>
     <message>
@@ -789,9 +789,9 @@
     <message numerus="yes">
         <source>Freed %1, removed %2.</source>
         <extracomment>%1: a size; %2: “1 file” or “%1 files”, which the forms count</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Espace libéré&#xa0;: %1&#xa0;; %2 supprimé.</numerusform>
+            <numerusform>Espace libéré&#xa0;: %1&#xa0;; %2 supprimés.</numerusform>
         </translation>
     </message>
     <message>
@@ -819,9 +819,9 @@
     <message numerus="yes">
         <source>The largest %1 of %2 files are listed.</source>
         <extracomment>The forms count %2</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Seuls les %1 plus gros fichiers sur %2 sont affichés.</numerusform>
+            <numerusform>Seuls les %1 plus gros fichiers sur %2 sont affichés.</numerusform>
         </translation>
     </message>
     <message>
@@ -832,9 +832,9 @@
     <message numerus="yes">
         <source>Searched %1 in %2. Nothing was changed.</source>
         <extracomment>%1: “1 file” or “%1 files”, which the forms count; %2: a time such as “2.1 s”</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 examiné en %2. Rien n’a été modifié.</numerusform>
+            <numerusform>%1 examinés en %2. Rien n’a été modifié.</numerusform>
         </translation>
     </message>
     <message>
@@ -910,47 +910,47 @@
     <message>
         <source>Disk image</source>
         <extracomment>Kind of a file, as the following</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Image disque</translation>
     </message>
     <message>
         <source>Partial download</source>
         <extracomment>Kind of a file: a download that has not ended</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement partiel</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo</translation>
     </message>
     <message>
         <source>Archive</source>
-        <translation type="unfinished"></translation>
+        <translation>Archive</translation>
     </message>
     <message>
         <source>Installer</source>
         <extracomment>Kind of a file: it installs a program</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Installateur</translation>
     </message>
     <message>
         <source>Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio</translation>
     </message>
     <message>
         <source>Image</source>
         <extracomment>Kind of a file: a picture</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Document</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauvegarde</translation>
     </message>
     <message>
         <source>File</source>
         <extracomment>Kind of a file: any other</extracomment>
-        <translation type="unfinished">Fichier</translation>
+        <translation>Fichier</translation>
     </message>
 </context>
 <context>
@@ -1031,17 +1031,17 @@
     <message numerus="yes">
         <source>Unused %1+ months</source>
         <extracomment>Filter of a list of files: not opened for %1 months or more (3, 6, 12 or 24)</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Inutilisés depuis %1 mois</numerusform>
+            <numerusform>Inutilisés depuis %1 mois</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
         <extracomment>%2, %3: sizes; %4: how many files are listed, which the forms count; leave the tag as it is</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; cochés sur %3 · %4 fichier</numerusform>
+            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; cochés sur %3 · %4 fichiers</numerusform>
         </translation>
     </message>
     <message>
@@ -1456,9 +1456,9 @@
     <message numerus="yes">
         <source>Freed in the last %1 months</source>
         <extracomment>Said by a screen reader of a small chart; %1: 6</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Espace libéré depuis %1 mois</numerusform>
+            <numerusform>Espace libéré depuis %1 mois</numerusform>
         </translation>
     </message>
     <message>
@@ -1987,21 +1987,21 @@
     <message>
         <source>1 item</source>
         <extracomment>How many items were moved: %1 of “Moved %1 to the Trash”</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 élément</translation>
     </message>
     <message numerus="yes">
         <source>%1 items</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 élément</numerusform>
+            <numerusform>%1 éléments</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count; %2: how many others</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 mis à la Corbeille, échec du déplacement pour %2</numerusform>
+            <numerusform>%1 mis à la Corbeille, échec du déplacement pour %2</numerusform>
         </translation>
     </message>
     <message>
@@ -2011,9 +2011,9 @@
     <message numerus="yes">
         <source>Moved %1 to the Trash</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 mis à la Corbeille</numerusform>
+            <numerusform>%1 mis à la Corbeille</numerusform>
         </translation>
     </message>
     <message>
@@ -2027,9 +2027,9 @@
     <message numerus="yes">
         <source>Removed %1 of %2 snapshots</source>
         <extracomment>The forms count %2, how many there were</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 instantané supprimé sur %2</numerusform>
+            <numerusform>Instantanés supprimés&#xa0;: %1 sur %2</numerusform>
         </translation>
     </message>
     <message>
@@ -2043,13 +2043,13 @@
     </message>
     <message>
         <source>Deleted 1 unavailable simulator device</source>
-        <translation type="unfinished"></translation>
+        <translation>1 appareil de simulateur indisponible supprimé</translation>
     </message>
     <message numerus="yes">
         <source>Deleted %1 unavailable simulator devices</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 appareil de simulateur indisponible supprimé</numerusform>
+            <numerusform>%1 appareils de simulateur indisponibles supprimés</numerusform>
         </translation>
     </message>
     <message>
@@ -2338,13 +2338,13 @@
     </message>
     <message>
         <source>1 snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>1 instantané</translation>
     </message>
     <message numerus="yes">
         <source>%1 snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 instantané</numerusform>
+            <numerusform>%1 instantanés</numerusform>
         </translation>
     </message>
     <message>
@@ -2358,13 +2358,13 @@
     </message>
     <message>
         <source>1 device</source>
-        <translation type="unfinished"></translation>
+        <translation>1 appareil</translation>
     </message>
     <message numerus="yes">
         <source>%1 devices</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 appareil</numerusform>
+            <numerusform>%1 appareils</numerusform>
         </translation>
     </message>
 </context>
