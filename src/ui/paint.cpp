@@ -64,6 +64,13 @@ void text(QPainter* painter, const QRectF& box, int flags, const QString& text) 
   painter->drawText(box, textFlags(text, flags, directionOf(painter)), text);
 }
 
+void text(QPainter* painter, const QPointF& start, const QString& text) {
+  const Qt::LayoutDirection before = painter->layoutDirection();
+  painter->setLayoutDirection(readingDirection(text, directionOf(painter)));
+  painter->drawText(start, text);
+  painter->setLayoutDirection(before);
+}
+
 void roundedRect(QPainter* painter, const QRectF& rect, double radius, const QBrush& fill, const QPen& outline) {
   painter->setPen(outline);
   painter->setBrush(fill);

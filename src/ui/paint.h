@@ -39,6 +39,8 @@ namespace ui::paint {
 /// Draws @p text with the painter's pen and font; @p flags as QPainter::drawText() takes them. On a widget that goes
 /// from right to left, AlignLeft is the right side, and the text still reads in its own direction.
 void text(QPainter* painter, const QRectF& box, int flags, const QString& text);
+/// Draws @p text in its own direction from @p start, the left end of its baseline.
+void text(QPainter* painter, const QPointF& start, const QString& text);
 
 /// A rounded rectangle with a fill and, if it isn't Qt::NoPen, an outline.
 void roundedRect(QPainter* painter, const QRectF& rect, double radius, const QBrush& fill,

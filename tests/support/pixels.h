@@ -1,10 +1,12 @@
-/// What tests of painted controls look at: a look, a picture of a widget, colours as a painter mixes them, repaints.
+/// What tests of painted controls look at: a look, a picture of a widget, colours as a painter mixes them, repaints, a
+/// program that goes from right to left.
 #pragma once
 
 #include "app/AppSettings.h"
 
 #include <QColor>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QWidget>
@@ -81,6 +83,14 @@ inline QRect difference(const QImage& one, const QImage& other) {
       if (one.pixel(x, y) != other.pixel(x, y)) found |= QRect(x, y, 1, 1);
   return found;
 }
+
+/// While it lives, the program goes from right to left.
+class Mirrored {
+ public:
+  Mirrored() { QGuiApplication::setLayoutDirection(Qt::RightToLeft); }
+  ~Mirrored() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+  Q_DISABLE_COPY_MOVE(Mirrored)
+};
 
 /// Counts the paint events of a widget.
 class Repaints : public QObject {

@@ -32,6 +32,7 @@ class TestPaint : public QObject {
   void mirroredRectangles();
   void textsReadInTheirOwnDirection_data();
   void textsReadInTheirOwnDirection();
+  void textFromAPointReadsInItsOwnDirection();
   void roundedRectWithoutOutline();
   void shadowLayers_data();
   void shadowLayers();
@@ -116,6 +117,17 @@ void TestPaint::textsReadInTheirOwnDirection() {
   QFETCH(int, flags);
   QFETCH(Qt::LayoutDirection, direction);
   QTEST(textFlags(text, flags, direction), "result");
+}
+
+void TestPaint::textFromAPointReadsInItsOwnDirection() {
+  const auto drawn = [](Qt::LayoutDirection direction) {
+    return painted({90, 30}, [&](QPainter* painter) {
+      painter->setLayoutDirection(direction);
+      text(painter, QPointF(5, 20), u"80 MB"_s);
+      QCOMPARE(painter->layoutDirection(), direction);
+    });
+  };
+  QCOMPARE(drawn(Qt::RightToLeft), drawn(Qt::LeftToRight));
 }
 
 void TestPaint::roundedRectWithoutOutline() {

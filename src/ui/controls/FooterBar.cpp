@@ -42,8 +42,7 @@ QRectF footerBody(const QSize& size, bool mac) {
 }
 
 FooterBar::FooterBar(QWidget* parent)
-    : QWidget(parent),
-      m_row(hbox(kSpacing, paint::mirrored(Theme::get().mac ? kMarginsMac : kMarginsWin, layoutDirection()))) {
+    : QWidget(parent), m_row(hbox(kSpacing, Theme::get().mac ? kMarginsMac : kMarginsWin)) {
   setLayout(m_row);
   connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
 }

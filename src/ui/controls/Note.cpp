@@ -52,8 +52,6 @@ Note::Note(Kind kind, const QString& icon, const QString& text, QWidget* parent)
       m_inner(vbox(kTextSpacing)) {
   m_label->setWordWrap(true);
   m_label->setTextFormat(Qt::RichText);
-  if (layoutDirection() == Qt::RightToLeft)
-    m_label->setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
   m_iconColumn->addWidget(new IconView(icon, kLooks[kind].icon, kIconSize));
   m_iconColumn->addStretch();
   m_inner->addWidget(m_label);

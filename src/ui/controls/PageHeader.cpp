@@ -92,8 +92,6 @@ void PageHeader::refreshEyebrow() { m_eyebrowLabel->setVisible(!m_eyebrow.isEmpt
 
 // The format is named where the text is HTML for sure: by itself, the label takes "&amp;" for plain text.
 void PageHeader::refreshTitle() {
-  const Qt::Alignment side = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight | Qt::AlignAbsolute : Qt::AlignLeft;
-  m_titleLabel->setAlignment(side | Qt::AlignVCenter);
   m_titleLabel->setTextFormat(m_toolbar ? Qt::RichText : Qt::AutoText);
   if (!m_toolbar) {
     m_titleLabel->setText(m_title);

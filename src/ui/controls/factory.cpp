@@ -2,6 +2,7 @@
 
 #include "ui/Theme.h"
 #include "ui/accessible.h"
+#include "ui/controls/Label.h"
 #include "ui/desktop.h"
 #include "ui/paint.h"
 
@@ -10,7 +11,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
@@ -31,7 +31,7 @@ template <typename Layout>
 Layout* box(int spacing, const QMargins& margins) {
   auto* layout = new Layout;
   layout->setSpacing(spacing);
-  layout->setContentsMargins(margins);
+  layout->setContentsMargins(paint::mirrored(margins, QGuiApplication::layoutDirection()));
   return layout;
 }
 
@@ -72,26 +72,6 @@ class PendingDrag : public QObject {
 
   QPoint m_pressedAt;
   bool m_done = false;
-};
-
-/// A plain text that stands at the layout's side. A QLabel puts it to the side where the text itself begins, so that
-/// English is left alone at the far end of a row that goes from right to left.
-class Label : public QLabel {
- public:
-  using QLabel::QLabel;
-
- protected:
-  void paintEvent(QPaintEvent* event) override {
-    const bool isPlain =
-        textFormat() == Qt::PlainText || (textFormat() == Qt::AutoText && !Qt::mightBeRichText(text()));
-    if (layoutDirection() == Qt::LeftToRight || !isPlain || text().isEmpty()) return QLabel::paintEvent(event);
-    QPainter painter(this);
-    drawFrame(&painter);
-    const int flags = int(alignment()) | (wordWrap() ? Qt::TextWordWrap : 0);
-    const QRect box = contentsRect().marginsRemoved({margin(), margin(), margin(), margin()});
-    painter.setPen(palette().color(foregroundRole()));
-    paint::text(&painter, box, flags, text());
-  }
 };
 
 /// For a widget that goes: it would be dressed again when it loses its parent, which takes as long as to build another.

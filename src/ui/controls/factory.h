@@ -17,12 +17,13 @@ namespace ui {
 
 class AccessibleButton;
 
-/// A label; @p role, if not null, is what the style sheet selects on.
+/// A Label; @p role, if not null, is what the style sheet selects on.
 [[nodiscard]] QLabel* label(const QString& text, const char* role = nullptr, QWidget* parent = nullptr);
 /// A small overline.
 [[nodiscard]] QLabel* eyebrow(const QString& text, QWidget* parent = nullptr);
 /// Gives @p widget another role, at once; null stores an empty one.
 void setRole(QWidget* widget, const char* role);
+/// @param margins  as they are from left to right: where the program goes the other way, their sides change places
 [[nodiscard]] QHBoxLayout* hbox(int spacing = 0, const QMargins& margins = {});
 [[nodiscard]] QVBoxLayout* vbox(int spacing = 0, const QMargins& margins = {});
 /// Empties a layout and those in it; widgets are hidden at once and deleted later, so that one of them may be the

@@ -26,11 +26,14 @@ constexpr double kDotSide = 6;
 constexpr int kHaloAlpha = 60;
 } // namespace
 
-ChipLayout chipLayout(const QSize& size) {
+ChipLayout chipLayout(const QSize& size, Qt::LayoutDirection direction) {
   const double middle = size.height() / 2.0;
-  return {.body = paint::hairline(QRectF(0, 0, size.width(), size.height())),
-          .halo = {kHaloLeft, middle - kHaloSide / 2, kHaloSide, kHaloSide},
-          .dot = {kDotLeft, middle - kDotSide / 2, kDotSide, kDotSide}};
+  const QRectF whole(0, 0, size.width(), size.height());
+  const QRectF halo(kHaloLeft, middle - kHaloSide / 2, kHaloSide, kHaloSide);
+  const QRectF dot(kDotLeft, middle - kDotSide / 2, kDotSide, kDotSide);
+  return {.body = paint::hairline(whole),
+          .halo = paint::mirrored(halo, whole, direction),
+          .dot = paint::mirrored(dot, whole, direction)};
 }
 
 Chip::Chip(QLabel* text, Dot dot, QWidget* parent) : QWidget(parent), m_text(text), m_dot(dot) {
@@ -53,7 +56,7 @@ QString Chip::shownText() const { return m_text->text(); }
 
 void Chip::paintEvent(QPaintEvent* /*event*/) {
   const Theme& theme = Theme::get();
-  const ChipLayout places = chipLayout(size());
+  const ChipLayout places = chipLayout(size(), layoutDirection());
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   paint::roundedRect(&painter, places.body, kRadius, theme.card, paint::pen(theme.line));

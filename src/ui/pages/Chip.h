@@ -11,11 +11,11 @@ namespace ui {
 
 struct ChipLayout {
   QRectF body;
-  QRectF halo; ///< around the status dot
+  QRectF halo; ///< around the status dot, before the text
   QRectF dot;
 };
 /// @param size  of the whole chip
-[[nodiscard]] ChipLayout chipLayout(const QSize& size);
+[[nodiscard]] ChipLayout chipLayout(const QSize& size, Qt::LayoutDirection direction = Qt::LeftToRight);
 
 class Chip : public QWidget, public AccessibleText {
   Q_OBJECT

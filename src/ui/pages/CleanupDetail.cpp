@@ -15,6 +15,7 @@
 #include "ui/pages/CleanupNotes.h"
 #include "ui/pages/CleanupWords.h"
 #include "ui/pages/furniture.h"
+#include "ui/paint.h"
 
 #include <QCheckBox>
 #include <QDir>
@@ -250,7 +251,7 @@ void CleanupDetail::addBlurb(const CategoryDef& def) {
   QLabel* blurb = label(def.blurb, "sub");
   blurb->setWordWrap(true);
   blurb->setToolTip(def.locationHint);
-  blurb->setContentsMargins(kBlurbMargins);
+  blurb->setContentsMargins(paint::mirrored(kBlurbMargins, layoutDirection()));
   m_detailLayout->addWidget(blurb);
   m_detailLayout->addSpacing(kBelowBlurb);
 }

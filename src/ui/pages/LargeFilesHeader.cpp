@@ -58,11 +58,12 @@ void LargeFilesHeader::moveTo(int stop) {
 }
 
 void LargeFilesHeader::keyPressEvent(QKeyEvent* event) {
+  const int toRight = layoutDirection() == Qt::RightToLeft ? -1 : 1;
   switch (event->key()) {
   case Qt::Key_Left:
-    return moveTo(m_stop - 1);
+    return moveTo(m_stop - toRight);
   case Qt::Key_Right:
-    return moveTo(m_stop + 1);
+    return moveTo(m_stop + toRight);
   case Qt::Key_Home:
     return moveTo(0);
   case Qt::Key_End:

@@ -18,6 +18,7 @@
 #include "ui/pages/LargeFilesTable.h"
 #include "ui/pages/LargeFilesWords.h"
 #include "ui/pages/furniture.h"
+#include "ui/paint.h"
 #include "ui/visuals/Treemap.h"
 
 #include <QAction>
@@ -38,8 +39,8 @@ constexpr int kBodySpacing = 14;
 constexpr int kBarSpacing = 10;
 constexpr int kSearchWidth = 240;
 constexpr int kSearchIcon = 14;
-constexpr int kFieldIcon = 16;      // the size in which a field shows icons
-constexpr int kSearchTextLeft = -7; // the field keeps more room beside the icon than it needs
+constexpr int kFieldIcon = 16;       // the size in which a field shows icons
+constexpr int kSearchTextStart = -7; // the field keeps more room beside the icon than it needs
 constexpr QMargins kMapMargins(6, 6, 6, 6);
 constexpr QMargins kListMargins(10, 8, 10, 4);
 constexpr int kFigurePx = 13;
@@ -93,7 +94,7 @@ QWidget* LargeFilesResultsView::buildBar() {
   m_search->setAccessibleName(LargeFilesWords::tr("Search files"));
   m_search->setClearButtonEnabled(true);
   m_search->setFixedWidth(kSearchWidth);
-  m_search->setTextMargins(kSearchTextLeft, 0, 0, 0);
+  m_search->setTextMargins(paint::mirrored(QMargins(kSearchTextStart, 0, 0, 0), layoutDirection()));
   auto* bar = new QWidget;
   QHBoxLayout* row = hbox(kBarSpacing);
   bar->setLayout(row);

@@ -7,6 +7,7 @@
 #include "ui/controls/IconView.h"
 #include "ui/controls/Select.h"
 #include "ui/controls/factory.h"
+#include "ui/paint.h"
 
 #include <QAbstractButton>
 #include <QHBoxLayout>
@@ -64,7 +65,7 @@ QWidget* settingsRow(const SettingsRowWords& words, QWidget* control, QWidget* s
 
 void addSettingsSection(QVBoxLayout* column, const QString& title, const QList<QWidget*>& rows) {
   QLabel* heading = eyebrow(title);
-  heading->setContentsMargins(kHeadingMargins);
+  heading->setContentsMargins(paint::mirrored(kHeadingMargins, heading->layoutDirection()));
   column->addWidget(heading);
   auto* card = new Card;
   QVBoxLayout* lines = vbox();

@@ -27,7 +27,8 @@ void ShareBar::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   paint::roundedRect(&painter, rect(), kRadius, Theme::get().track);
-  paint::roundedRect(&painter, shareBarFill(size(), share), kRadius, colour);
+  const QRectF fill = paint::mirrored(shareBarFill(size(), share), rect(), layoutDirection());
+  paint::roundedRect(&painter, fill, kRadius, colour);
 }
 
 } // namespace ui

@@ -12,6 +12,7 @@ namespace ui {
 /// The filled part of a bar of this size; a share above 0 is never too small to be seen.
 [[nodiscard]] QRectF shareBarFill(const QSizeF& bar, double share);
 
+/// It fills from the side where its layout begins.
 class ShareBar : public QWidget, public AccessibleValue {
   Q_OBJECT
 

@@ -6,6 +6,7 @@
 #include "ui/controls/ElidedLabel.h"
 #include "ui/controls/IconTile.h"
 #include "ui/controls/KeyboardFocus.h"
+#include "ui/controls/Label.h"
 #include "ui/controls/factory.h"
 #include "ui/pages/SystemDataWords.h"
 
@@ -40,15 +41,15 @@ constexpr int kSizeWeight = 600;
 constexpr int kLabelWeight = 500;
 
 /// Tells on its tool tip what the item is.
-class Title : public QLabel {
+class Title : public Label {
  public:
-  explicit Title(const SystemDataItem& item) : QLabel(item.title) {
+  explicit Title(const SystemDataItem& item) : Label(item.title) {
     setProperty("role", u"strong"_s); // as it is dressed later, once
     setToolTip(item.blurb);
   }
 
  protected:
-  bool event(QEvent* event) override { return showTipInLines(this, event) || QLabel::event(event); }
+  bool event(QEvent* event) override { return showTipInLines(this, event) || Label::event(event); }
 };
 
 /// Whether its button does anything: what is only counted may be none.

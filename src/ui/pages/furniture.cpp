@@ -6,6 +6,7 @@
 #include "ui/controls/IconTile.h"
 #include "ui/controls/KeyboardFocus.h"
 #include "ui/controls/factory.h"
+#include "ui/paint.h"
 #include "ui/visuals/Radar.h"
 
 #include <QCheckBox>
@@ -146,7 +147,7 @@ void PathLabel::paintEvent(QPaintEvent* /*event*/) {
   const QRect room = contentsRect();
   QPainter painter(this);
   painter.setPen(palette().color(foregroundRole()));
-  painter.drawText(room, int(alignment()), fontMetrics().elidedText(text(), Qt::ElideMiddle, room.width()));
+  paint::text(&painter, room, int(alignment()), fontMetrics().elidedText(text(), Qt::ElideMiddle, room.width()));
 }
 
 RadarCard::RadarCard(const QString& name, QWidget* parent)

@@ -7,7 +7,6 @@
 #include <QEvent>
 #include <QGraphicsDropShadowEffect>
 #include <QPainter>
-#include <QStyle>
 
 using namespace Qt::StringLiterals;
 
@@ -168,13 +167,12 @@ void AppMenu::paintShadow(QPainter* painter) const {
 
 void AppMenu::paintRowEnds(QPainter* painter) const {
   painter->setFont(trailingFont(font()));
-  const Qt::Alignment atEnd = QStyle::visualAlignment(layoutDirection(), Qt::AlignRight | Qt::AlignVCenter);
   for (QAction* action : actions()) {
     if (!action->isVisible() || action->isSeparator()) continue;
     const bool hasSubmenu = action->menu() != nullptr;
     const AppMenuRow row = appMenuRow(actionGeometry(action), hasSubmenu, layoutDirection());
     painter->setPen(Theme::get().text3);
-    painter->drawText(row.trailing, int(atEnd | Qt::AlignAbsolute), trailingText(action));
+    paint::text(painter, row.trailing, Qt::AlignRight | Qt::AlignVCenter, trailingText(action));
     if (!hasSubmenu) continue;
     painter->setPen(paint::roundPen(Theme::get().text3, kChevronPen));
     painter->drawPolyline(row.chevron.data(), int(row.chevron.size()));

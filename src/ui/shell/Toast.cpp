@@ -43,7 +43,7 @@ Toast::Toast(QWidget* parent)
   m_text->setTextFormat(Qt::PlainText); // names of files stand in it
   m_timer->setSingleShot(true);
   connect(m_timer, &QTimer::timeout, this, &QWidget::hide);
-  QHBoxLayout* row = hbox(kGap, paint::mirrored(kMargins, layoutDirection()));
+  QHBoxLayout* row = hbox(kGap, kMargins);
   row->addWidget(new IconView(u"check"_s, Tone::Ok, kIcon));
   row->addWidget(m_text);
   row->addWidget(m_button);

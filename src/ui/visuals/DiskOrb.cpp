@@ -227,13 +227,13 @@ void DiskOrb::paintText(QPainter* painter, const QRectF& core) const {
                                                         .action = width(pillFont, m_action)});
   painter->setFont(numberFont);
   painter->setPen(theme.text);
-  painter->drawText(places.number, value.number);
+  paint::text(painter, places.number, value.number);
   painter->setFont(unitFont);
   painter->setPen(theme.text2);
-  painter->drawText(places.unit, value.unit);
+  paint::text(painter, places.unit, value.unit);
   painter->setFont(theme.eyebrow(kCaptionPx));
   painter->setPen(theme.text3);
-  painter->drawText(places.caption, Qt::AlignHCenter | Qt::AlignTop, m_caption);
+  paint::text(painter, places.caption, Qt::AlignHCenter | Qt::AlignTop, m_caption);
   painter->setFont(pillFont);
   if (!m_action.isEmpty()) paintPill(painter, places.pill);
 }
@@ -243,7 +243,7 @@ void DiskOrb::paintPill(QPainter* painter, const QRectF& pill) const {
     paint::roundedRect(painter, rect, radius, paint::withAlpha(hues::kIndigo, kPillGlowAlpha.at(m_hovered)));
   paint::roundedRect(painter, pill, kPillRadius, Theme::gradient(pill));
   painter->setPen(Qt::white);
-  painter->drawText(pill, Qt::AlignCenter, m_action);
+  paint::text(painter, pill, Qt::AlignCenter, m_action);
 }
 
 } // namespace ui

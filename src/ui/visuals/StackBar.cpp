@@ -90,7 +90,9 @@ void StackBar::setSegments(const QList<Segment>& segments, qint64 scale) {
 QList<QRectF> StackBar::layoutSegments() const {
   QList<qint64> sizes;
   for (const Segment& segment : m_segments) sizes << segment.bytes;
-  return stackBarLayout(sizes, m_scale, size());
+  QList<QRectF> rects = stackBarLayout(sizes, m_scale, size());
+  for (QRectF& one : rects) one = paint::mirrored(one, rect(), layoutDirection());
+  return rects;
 }
 
 QString StackBar::valueText() const {

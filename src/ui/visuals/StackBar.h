@@ -23,7 +23,8 @@ namespace ui {
 /// The diagonals of a hatched segment, from the lower left to the upper right; to be clipped to the segment.
 [[nodiscard]] QList<QLineF> stackBarHatching(const QRectF& segment);
 
-/// Segments have tool tips. A screen reader hears each segment's tip and share.
+/// It fills from the side where its layout begins. Segments have tool tips. A screen reader hears each segment's tip
+/// and share.
 class StackBar : public QWidget, public AccessibleValue {
   Q_OBJECT
 

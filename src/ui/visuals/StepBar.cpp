@@ -79,7 +79,8 @@ void StepBar::paintEvent(QPaintEvent* /*event*/) {
   painter.fillPath(track, Theme::get().track);
   if (m_state == Pending) return;
   const bool still = compat::reducedMotion();
-  const QRectF filled = m_state == Done ? QRectF(rect()) : stepBand(size(), still ? kStillPhase : m_phase);
+  const QRectF band = paint::mirrored(stepBand(size(), still ? kStillPhase : m_phase), rect(), layoutDirection());
+  const QRectF filled = m_state == Done ? QRectF(rect()) : band;
   painter.setClipPath(track);
   painter.fillRect(filled, Theme::gradient(filled));
 }

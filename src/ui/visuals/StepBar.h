@@ -14,7 +14,7 @@ class Ticker;
 /// The phase one beat after @p phase, below 1.
 [[nodiscard]] double stepAdvanced(double phase);
 
-/// Under reduced motion the band stands in the middle.
+/// The band sweeps on from the side where its layout begins. Under reduced motion it stands in the middle.
 class StepBar : public QWidget, public AccessibleValue {
   Q_OBJECT
 

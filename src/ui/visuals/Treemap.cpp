@@ -281,15 +281,15 @@ void Treemap::paintText(QPainter* painter, const TreemapTile& tile, int index) c
     painter->setFont(Theme::get().font(kLabelPx, kLabelWeight));
     const QFontMetricsF metrics(painter->font());
     painter->setPen(paint::withAlpha(colour, kLabelAlpha));
-    painter->drawText(tile.text.topLeft() + QPointF(0, metrics.ascent()),
-                      metrics.elidedText(item.label, Qt::ElideRight, tile.labelWidth));
+    paint::text(painter, tile.text.topLeft() + QPointF(0, metrics.ascent()),
+                metrics.elidedText(item.label, Qt::ElideRight, tile.labelWidth));
   }
   painter->setFont(Theme::get().mono(kDetailPx, kDetailWeight));
   const QFontMetricsF metrics(painter->font());
   const QPointF place = tile.text.bottomLeft() - QPointF(0, metrics.descent());
   const double room = tile.body.right() - kDetailMargin - place.x();
   painter->setPen(paint::withAlpha(colour, lone ? kLoneDetailAlpha : kDetailAlpha));
-  painter->drawText(place, metrics.elidedText(item.detail, Qt::ElideRight, room));
+  paint::text(painter, place, metrics.elidedText(item.detail, Qt::ElideRight, room));
 }
 
 } // namespace ui

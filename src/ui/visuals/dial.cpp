@@ -1,5 +1,7 @@
 #include "ui/visuals/dial.h"
 
+#include "ui/paint.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -10,7 +12,7 @@ namespace {
 void paintLine(QPainter* painter, const QRectF& box, Qt::Alignment alignment, const Line& line) {
   painter->setFont(line.font);
   painter->setPen(line.colour);
-  painter->drawText(box, int(alignment), line.text);
+  paint::text(painter, box, int(alignment), line.text);
 }
 } // namespace
 

@@ -75,6 +75,7 @@ class TestBaseControls : public QObject {
   void noteText();
   void noteRoom();
   void noteActionMoves();
+  void noteMirrored();
   void noteIconCentresBesideAnAction();
 };
 
@@ -442,6 +443,27 @@ void TestBaseControls::noteActionMoves() {
     QVERIFY(action->y() > label->geometry().bottom());
     QCOMPARE(action->x(), label->x());
   }
+}
+
+void TestBaseControls::noteMirrored() {
+  const auto picture = [](const QString& text) {
+    ui::Note note(ui::Note::Info, u"lock"_s, text);
+    note.addAction(u"Open"_s);
+    note.resize(480, 60);
+    note.show();
+    const QRect icon = note.findChild<ui::IconView*>()->geometry();
+    const QRect action = note.findChild<QPushButton*>()->geometry();
+    return std::tuple(icon, action, rendered(note));
+  };
+  const QString text = u"<b>80 MB</b> belong to others."_s;
+  const auto [icon, action, image] = picture(text);
+  const pixels::Mirrored mirrored;
+  const auto [iconThere, actionThere, there] = picture(text);
+  QCOMPARE(iconThere.left(), 480 - icon.right() - 1);
+  QCOMPARE(actionThere.left(), 480 - action.right() - 1);
+  // The text begins beside the icon: what is written differs from nothing written.
+  const QRect words = pixels::difference(there, std::get<2>(picture(u"<b></b>"_s)));
+  QVERIFY2(iconThere.left() - words.right() - 1 <= 13, qPrintable(QString::number(words.right())));
 }
 
 void TestBaseControls::noteIconCentresBesideAnAction() {

@@ -34,6 +34,7 @@ class TestFooterBar : public QObject {
   void body();
   void row_data();
   void row();
+  void rowMirrored();
   void rowLiesInTheBody_data();
   void rowLiesInTheBody();
   void bodyAndEdge_data();
@@ -62,6 +63,11 @@ void TestFooterBar::row() {
   QCOMPARE(bar.layout(), bar.row());
   QCOMPARE(bar.row()->contentsMargins(), margins);
   QCOMPARE(bar.row()->spacing(), 18);
+}
+
+void TestFooterBar::rowMirrored() {
+  const pixels::Mirrored mirrored;
+  QCOMPARE(ui::FooterBar().row()->contentsMargins(), QMargins(40, 24, 48, 32));
 }
 
 void TestFooterBar::rowLiesInTheBody_data() { row_data(); }

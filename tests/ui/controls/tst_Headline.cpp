@@ -80,6 +80,7 @@ class TestHeadline : public QObject {
   void gradientBox();
   void gradientStops_data();
   void gradientStops();
+  void gradientTextReadsInItsOwnDirection();
   void gradientIsCentred();
   void gradientIsReadOut();
 };
@@ -284,6 +285,15 @@ void TestHeadline::gradientStops() {
   QVERIFY2(isNear(at(0.01), first), qPrintable(at(0.01).name()));
   QVERIFY2(isNear(at(0.5), middle), qPrintable(at(0.5).name()));
   QVERIFY2(isNear(at(0.99), last), qPrintable(at(0.99).name()));
+}
+
+void TestHeadline::gradientTextReadsInItsOwnDirection() {
+  GradientText text(Theme::get().font(20, 600));
+  text.setText(u"80 MB"_s);
+  text.resize(200, 40);
+  const QImage here = rendered(text);
+  const pixels::Mirrored mirrored;
+  QCOMPARE(rendered(text), here);
 }
 
 void TestHeadline::gradientIsCentred() {

@@ -118,6 +118,8 @@ class TestSelect : public QObject {
   void selectGoesWhileOpen();
   void popupPaintsMac();
   void popupPaintsWin();
+  void popupPaintsMirrored_data();
+  void popupPaintsMirrored();
   void isReadOut();
   void readersChoose();
   void popupIsReadOut();
@@ -535,6 +537,35 @@ void TestSelect::popupPaintsWin() {
     QVERIFY(isNear(image.pixelColor(19, rowCentre(1).y()), theme.accent));
     QVERIFY(isNear(image.pixelColor(19, rowCentre(2).y()), over(theme.hover, body)));
   }
+}
+
+void TestSelect::popupPaintsMirrored_data() { opensOverTheControl_data(); }
+
+// Rows begin at the right, with their mark before the text, and a size keeps its unit at its end.
+void TestSelect::popupPaintsMirrored() {
+  QFETCH(bool, mac);
+  Theme::get().mac = mac;
+  const pixels::Mirrored mirrored;
+  Shown shown(0);
+  const auto picture = [&](const QString& text, int current) {
+    shown.select->setItemText(1, text);
+    shown.select->setCurrentIndex(current);
+    if (!shown.open()) qFatal("the popup didn't open");
+    moveTo(popup(), rowCentre(2)); // away from the row that is looked at
+    const QImage image = rendered(*popup());
+    popup()->close();
+    return image;
+  };
+  const QImage with = picture(u"80 MB"_s, 0);
+  const QRect words = pixels::difference(with, picture(u" "_s, 0));
+  const SelectPopupLayout layout(mac);
+  const QRectF row = layout.rowRect(1, with.width());
+  QVERIFY(row.contains(words));
+  QVERIFY2(qAbs(row.right() - layout.inset - words.right()) <= 3, qPrintable(QString::number(words.right())));
+  QCOMPARE(picture(u"\u200e80 MB"_s, 0), with); // said to go from left to right
+  const QImage marked = picture(u"80 MB"_s, 1);
+  QVERIFY(marked.copy(words.right() + 2, words.top(), layout.inset, words.height()) !=
+          with.copy(words.right() + 2, words.top(), layout.inset, words.height()));
 }
 
 void TestSelect::isReadOut() {

@@ -1,3 +1,4 @@
+#include "support/pixels.h"
 #include "support/uitest.h"
 #include "ui/Theme.h"
 #include "ui/controls/ElidedLabel.h"
@@ -20,6 +21,14 @@ QMouseEvent mouse(QEvent::Type type, Qt::MouseButton button) {
   return {type, QPointF(5, 5), QPointF(5, 5), button, button, Qt::NoModifier};
 }
 
+/// A formatted label that has had these directions, one after the other.
+QImage grabbedLabel(const QList<Qt::LayoutDirection>& directions) {
+  const std::unique_ptr<QLabel> label(ui::label(u"<b>80 MB</b> of 4 GB"_s));
+  label->resize(300, 24);
+  for (const Qt::LayoutDirection one : directions) label->setLayoutDirection(one);
+  return label->grab().toImage();
+}
+
 } // namespace
 
 class TestFactory : public QObject {
@@ -29,12 +38,15 @@ class TestFactory : public QObject {
   void initTestCase() { Theme::get().install(qApp); }
 
   void labelHasTextRoleAndParent();
+  void labelTurnsWithItsLayout();
+  void labelStaysInTheMiddle();
   void labelWithoutRole();
   void labelStandsAtTheSideOfItsLayout_data();
   void labelStandsAtTheSideOfItsLayout();
   void eyebrowIsAnOverline();
   void setRoleDressesAtOnce();
   void boxesHaveSpacingAndMargins();
+  void boxesAreMirrored();
   void clearLayoutEmptiesAllLevels();
   void clearLayoutFromWithin();
   void scrollPageIsAColumn_data();
@@ -60,26 +72,47 @@ void TestFactory::labelHasTextRoleAndParent() {
 
 void TestFactory::labelStandsAtTheSideOfItsLayout_data() {
   QTest::addColumn<bool>("shortens");
+  QTest::addColumn<QString>("text");
   QTest::addColumn<Qt::LayoutDirection>("direction");
   QTest::addColumn<bool>("isAtRight");
-  QTest::newRow("label") << false << Qt::LeftToRight << false;
-  QTest::newRow("label, mirrored") << false << Qt::RightToLeft << true;
-  QTest::newRow("one that shortens") << true << Qt::LeftToRight << false;
-  QTest::newRow("one that shortens, mirrored") << true << Qt::RightToLeft << true;
+  const QString plain = u"80 MB"_s;
+  const QString formatted = u"<b>80 MB</b> of 4 GB"_s;
+  QTest::newRow("label") << false << plain << Qt::LeftToRight << false;
+  QTest::newRow("label, mirrored") << false << plain << Qt::RightToLeft << true;
+  QTest::newRow("formatted") << false << formatted << Qt::LeftToRight << false;
+  QTest::newRow("formatted, mirrored") << false << formatted << Qt::RightToLeft << true;
+  QTest::newRow("one that shortens") << true << plain << Qt::LeftToRight << false;
+  QTest::newRow("one that shortens, mirrored") << true << plain << Qt::RightToLeft << true;
 }
 
 // As a plain label that stands there: the size keeps its unit at its end.
 void TestFactory::labelStandsAtTheSideOfItsLayout() {
   QFETCH(bool, shortens);
+  QFETCH(QString, text);
   QFETCH(Qt::LayoutDirection, direction);
   QFETCH(bool, isAtRight);
-  QLabel plain(u"80 MB"_s);
+  QLabel plain(text);
   plain.setLayoutDirection(Qt::LeftToRight);
-  plain.setAlignment((isAtRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  plain.setAlignment((isAtRight ? Qt::AlignRight | Qt::AlignAbsolute : Qt::AlignLeft) | Qt::AlignVCenter);
   const std::unique_ptr<QLabel> label(shortens ? new ui::ElidedLabel(plain.text()) : ui::label(plain.text()));
   label->setLayoutDirection(direction);
   for (QLabel* one : {&plain, label.get()}) one->resize(300, 24);
   QCOMPARE(label->grab().toImage(), plain.grab().toImage());
+}
+
+void TestFactory::labelTurnsWithItsLayout() {
+  const QImage here = grabbedLabel({});
+  const QImage there = grabbedLabel({Qt::RightToLeft});
+  QVERIFY(here != there);
+  QCOMPARE(grabbedLabel({Qt::RightToLeft, Qt::LeftToRight}), here);
+  QCOMPARE(grabbedLabel({Qt::RightToLeft, Qt::LeftToRight, Qt::RightToLeft}), there);
+}
+
+void TestFactory::labelStaysInTheMiddle() {
+  const std::unique_ptr<QLabel> label(ui::label(u"<b>80 MB</b> of 4 GB"_s));
+  label->setAlignment(Qt::AlignCenter);
+  label->setLayoutDirection(Qt::RightToLeft);
+  QCOMPARE(label->alignment(), Qt::AlignCenter);
 }
 
 void TestFactory::labelWithoutRole() {
@@ -116,6 +149,14 @@ void TestFactory::boxesHaveSpacingAndMargins() {
   const std::unique_ptr<QVBoxLayout> column(ui::vbox());
   QCOMPARE(column->spacing(), 0);
   QCOMPARE(column->contentsMargins(), QMargins());
+}
+
+void TestFactory::boxesAreMirrored() {
+  const pixels::Mirrored mirrored;
+  const std::unique_ptr<QHBoxLayout> row(ui::hbox(7, {1, 2, 3, 4}));
+  QCOMPARE(row->contentsMargins(), QMargins(3, 2, 1, 4));
+  const std::unique_ptr<QVBoxLayout> column(ui::vbox(0, {1, 2, 3, 4}));
+  QCOMPARE(column->contentsMargins(), QMargins(3, 2, 1, 4));
 }
 
 void TestFactory::clearLayoutEmptiesAllLevels() {

@@ -65,6 +65,7 @@ class TestLargeFilesTable : public QObject {
   void ringIsForTheKeyboard();
   void ringGoesWithThePress();
   void headerByKeys();
+  void headerKeysMirrored();
   void headerStops();
   void headerRing();
   void spokenTable();
@@ -374,6 +375,15 @@ void TestLargeFilesTable::headerByKeys() {
   QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s, true);
   QCoreApplication::sendEvent(header(), &held);
   QCOMPARE(m_model->sortColumn(), 4);
+}
+
+void TestLargeFilesTable::headerKeysMirrored() {
+  m_table->setLayoutDirection(Qt::RightToLeft);
+  header()->setFocus(Qt::TabFocusReason);
+  key(Qt::Key_Left); // where the next column is
+  QCOMPARE(header()->worked(), 3);
+  key(Qt::Key_Right);
+  QCOMPARE(header()->worked(), 1);
 }
 
 void TestLargeFilesTable::headerStops() {

@@ -104,6 +104,10 @@ void TestOverviewPagePieces::chipLayout() {
   QCOMPARE(layout.halo, QRectF(9, 9, 10, 10));
   QCOMPARE(layout.dot, QRectF(11, 11, 6, 6));
   QCOMPARE(ui::chipLayout({40, 41}).dot.top(), 17.5);
+  const ui::ChipLayout mirrored = ui::chipLayout({120, 28}, Qt::RightToLeft);
+  QCOMPARE(mirrored.body, layout.body);
+  QCOMPARE(mirrored.halo, QRectF(101, 9, 10, 10));
+  QCOMPARE(mirrored.dot, QRectF(103, 11, 6, 6));
 }
 
 void TestOverviewPagePieces::chipMargins_data() {

@@ -36,6 +36,7 @@ class TestToast : public QObject {
   void notUndoableIsNarrower();
   void longMessageWraps();
   void textIsPlain();
+  void mirrored();
   void countsWhileTheWindowIsHidden();
   void invertsTheLook_data();
   void invertsTheLook();
@@ -136,6 +137,20 @@ void TestToast::longMessageWraps() {
   QCOMPARE(m_toast->pos(), wanted());
   m_toast->show(u"Moved"_s, true);
   QCOMPARE(m_toast->height(), oneLine);
+}
+
+void TestToast::mirrored() {
+  m_toast->show(u"80 MB moved to the Trash"_s, true);
+  const QRect undo = button()->geometry();
+  const QRect words = m_toast->findChild<QLabel*>()->geometry();
+  const pixels::Mirrored mirrored;
+  m_toast = new Toast(m_area.get());
+  m_toast->show(u"80 MB moved to the Trash"_s, true);
+  const auto there = [this](const QRect& rect) {
+    return QRect(m_toast->width() - rect.right() - 1, rect.y(), rect.width(), rect.height());
+  };
+  QCOMPARE(button()->geometry(), there(undo));
+  QCOMPARE(m_toast->findChild<QLabel*>()->geometry(), there(words));
 }
 
 void TestToast::textIsPlain() {
