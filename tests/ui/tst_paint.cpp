@@ -1,5 +1,7 @@
 #include "ui/paint.h"
 
+#include "support/uitest.h"
+
 #include <QImage>
 #include <QPainter>
 #include <QTest>
@@ -206,6 +208,6 @@ void TestPaint::arcIsDrawnClockwiseFromTheTop() {
   QCOMPARE(image.pixelColor(78, 78).alpha(), 0);
 }
 
-QTEST_APPLESS_MAIN(TestPaint)
+int main(int argc, char** argv) { return uitest::run<TestPaint>(argc, argv); }
 
 #include "tst_paint.moc"

@@ -27,7 +27,7 @@ QStringList keyNames(const QKeySequence& keys) {
   return names;
 }
 
-// A box is at least as wide as it is high.
+// A box is at least as wide as it is high. They stand from left to right in every layout, as keys are named.
 QList<QRectF> keyCapsLayout(const QList<int>& textWidths) {
   QList<QRectF> boxes;
   double x = 0;
@@ -40,7 +40,6 @@ QList<QRectF> keyCapsLayout(const QList<int>& textWidths) {
 
 KeyCaps::KeyCaps(const QKeySequence& keys, QWidget* parent) : QWidget(parent), m_keys(keys), m_names(keyNames(keys)) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-  setLayoutDirection(Qt::LeftToRight); // as on the keyboard
   connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
 }
 
@@ -67,7 +66,7 @@ void KeyCaps::paintEvent(QPaintEvent* /*event*/) {
   for (qsizetype i = 0; i < all.size(); ++i) {
     paint::roundedRect(&painter, paint::hairline(all[i]), kRadius, theme.surface2, paint::pen(theme.lineStrong));
     painter.setPen(theme.text2);
-    painter.drawText(all[i], Qt::AlignCenter, m_names[i]);
+    paint::text(&painter, all[i], Qt::AlignCenter, m_names[i]);
   }
 }
 

@@ -98,13 +98,13 @@ void TestPagesMirrored::titleOfARowStandsBesideItsTile() {
     item.title = title;
     ui::SystemDataRow row(item, 150, false);
     row.resize(600, 56);
-    row.layout()->activate();
-    return rendered(row);
+    return row.grab().toImage();
   };
   const QRect here = difference(picture(u"80 logs"_s), picture({}));
   const Mirrored mirrored;
   const QRect there = difference(picture(u"80 logs"_s), picture({}));
-  QCOMPARE(there.size(), here.size());
+  QVERIFY(!here.isEmpty());
+  QCOMPARE(there.width(), here.width());
   QVERIFY2(qAbs(there.right() - (599 - here.left())) <= 3, qPrintable(QString::number(there.right())));
 }
 

