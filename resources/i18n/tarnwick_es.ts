@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
-        <translation>mira solo estas categorías; al limpiar se incluyen todas ellas, también las que nunca se limpian sin pedirlo</translation>
+        <translation>analiza solo estas categorías; al limpiar se incluyen todas ellas, también las que nunca se limpian sin pedirlo</translation>
     </message>
     <message>
         <source>never touch what this rule names, beside the rules in the settings; repeatable</source>
@@ -754,7 +754,7 @@
     <message>
         <source>Left alone, because they are running: %1.</source>
         <extracomment>%1: apps, with commas</extracomment>
-        <translation>No se ha tocado por estar en ejecución: %1.</translation>
+        <translation>Las apps en ejecución no se han tocado: %1.</translation>
     </message>
     <message>
         <source>What was moved to the Trash takes its room until you empty it.</source>

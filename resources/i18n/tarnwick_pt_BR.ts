@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
-        <translation>olha só estas categorias; uma limpeza inclui todas elas, também as que nunca são limpas sem pedido</translation>
+        <translation>analisa apenas estas categorias; ao limpar, inclui todas elas, também as que nunca são limpas sem um pedido</translation>
     </message>
     <message>
         <source>never touch what this rule names, beside the rules in the settings; repeatable</source>
@@ -754,7 +754,7 @@
     <message>
         <source>Left alone, because they are running: %1.</source>
         <extracomment>%1: apps, with commas</extracomment>
-        <translation>Não foi tocado por estar em execução: %1.</translation>
+        <translation>Os apps em execução não foram tocados: %1.</translation>
     </message>
     <message>
         <source>What was moved to the Trash takes its room until you empty it.</source>
@@ -1169,7 +1169,7 @@
     </message>
     <message>
         <source>Enter Full Screen</source>
-        <translation>Usar tela cheia</translation>
+        <translation>Entrar em tela cheia</translation>
     </message>
     <message>
         <source>Minimize</source>
@@ -2294,7 +2294,7 @@
     </message>
     <message>
         <source>Unified logs and diagnostic reports. macOS rotates and deletes them automatically.</source>
-        <translation>Registros unificados e relatórios de diagnóstico. O macOS os alterna e apaga automaticamente.</translation>
+        <translation>Registros unificados e relatórios de diagnóstico. O macOS os rotaciona e apaga automaticamente.</translation>
     </message>
     <message>
         <source>Virtual memory &amp; sleep image</source>
