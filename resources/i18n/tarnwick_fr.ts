@@ -319,7 +319,7 @@
     </message>
     <message>
         <source>&lt;b&gt;Some files need administrator rights.&lt;/b&gt; Restart Tarnwick as administrator and clean again to remove them.</source>
-        <translation>&lt;b&gt;Certains fichiers nécessitent des droits d’administrateur.&lt;/b&gt; Relancez Tarnwick en tant qu’administrateur, puis le nettoyage, pour les supprimer.</translation>
+        <translation>&lt;b&gt;Certains fichiers nécessitent des droits d’administrateur.&lt;/b&gt; Relancez Tarnwick en tant qu’administrateur, puis recommencez le nettoyage pour les supprimer.</translation>
     </message>
     <message>
         <source>You have no permission to read some of these folders.</source>
@@ -477,7 +477,7 @@
     </message>
     <message>
         <source>Measures what makes up the system&apos;s share of the disk, and changes nothing.</source>
-        <translation>Mesure ce qui compose la part du système sur le disque, sans rien modifier.</translation>
+        <translation>Mesure ce qui compose la part du disque occupée par le système, sans rien modifier.</translation>
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
@@ -853,7 +853,7 @@
     <message>
         <source>Largest: %1</source>
         <extracomment>%1: names of folders, with commas</extracomment>
-        <translation>Le plus gros&#xa0;: %1</translation>
+        <translation>Les plus gros&#xa0;: %1</translation>
     </message>
     <message>
         <source>You can reclaim</source>
@@ -1026,7 +1026,7 @@
     </message>
     <message>
         <source>Largest files</source>
-        <translation>Fichiers les plus gros</translation>
+        <translation>Plus gros fichiers</translation>
     </message>
     <message numerus="yes">
         <source>Unused %1+ months</source>
@@ -1649,11 +1649,11 @@
     </message>
     <message>
         <source>Large file size</source>
-        <translation>Taille des gros fichiers</translation>
+        <translation>Seuil des gros fichiers</translation>
     </message>
     <message>
         <source>Files bigger than this appear in Large &amp; Old Files.</source>
-        <translation>Les fichiers au-delà de cette taille apparaissent dans la carte du disque.</translation>
+        <translation>Les fichiers dépassant cette taille apparaissent dans la carte du disque.</translation>
     </message>
     <message>
         <source>100 MB</source>
@@ -2310,7 +2310,7 @@
     </message>
     <message>
         <source>Downloaded system assets (fonts, dictionaries, language and AI models) and staged software updates.</source>
-        <translation>Ressources système téléchargées (polices, dictionnaires, modèles de langue et d’IA) et mises à jour logicielles prêtes à installer.</translation>
+        <translation>Ressources système téléchargées (polices, dictionnaires, modèles linguistiques et d’IA) et mises à jour logicielles prêtes à installer.</translation>
     </message>
     <message>
         <source>Other Library data</source>
@@ -2453,7 +2453,7 @@
     <message>
         <source>Largest: %1</source>
         <extracomment>%1: names of folders, with commas</extracomment>
-        <translation>Le plus gros&#xa0;: %1</translation>
+        <translation>Les plus gros&#xa0;: %1</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
