@@ -26,7 +26,7 @@ class Source:
 
 
 # A raw text, a comment of either kind, a text, a character; in this order, as the first that begins wins.
-_HIDDEN = re.compile(
+HIDDEN = re.compile(
     r'R"(?P<mark>[^()\\\s]{0,16})\(.*?\)(?P=mark)"'
     r"|//(?:\\\n|[^\n])*"
     r"|/\*.*?\*/"
@@ -47,7 +47,7 @@ def blanked(text: str) -> str:
         kept = '"' if hidden[0] in 'R"' else " "
         return kept + "".join("\n" if c == "\n" else " " for c in hidden[1:-1]) + kept
 
-    return _HIDDEN.sub(blank, text)
+    return HIDDEN.sub(blank, text)
 
 
 def sources(root: pathlib.Path, *folders: str) -> Iterator[Source]:
