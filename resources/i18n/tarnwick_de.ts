@@ -122,7 +122,7 @@
     </message>
     <message>
         <source>Thumbnail cache</source>
-        <translation>Vorschaubild-Cache</translation>
+        <translation>Vorschau-Cache</translation>
     </message>
     <message>
         <source>Disk images and installer packages in your Downloads folder. Review in case you still need an installer.</source>
@@ -219,7 +219,7 @@
     </message>
     <message>
         <source>Nothing left to clean. Rescan any time.</source>
-        <translation>Nichts mehr zu bereinigen. Sie können jederzeit neu scannen.</translation>
+        <translation>Nichts zu bereinigen. Neuer Scan jederzeit.</translation>
     </message>
     <message>
         <source>Largest items</source>
@@ -981,7 +981,7 @@
     </message>
     <message>
         <source>Find what&apos;s taking up space</source>
-        <translation>Finden Sie, was Platz belegt</translation>
+        <translation>Finden Sie heraus, was Platz belegt</translation>
     </message>
     <message>
         <source>Big files in your home folder. You decide what goes.</source>
@@ -1528,7 +1528,7 @@
     <message>
         <source>Freed this month</source>
         <extracomment>Caption under a size</extracomment>
-        <translation>Diesen Monat bereinigt</translation>
+        <translation>Im Monat bereinigt</translation>
     </message>
     <message>
         <source>Top recommendations</source>
