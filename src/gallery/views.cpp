@@ -1,6 +1,7 @@
 #include "gallery/views.h"
 
 #include "app/AppSettings.h"
+#include "core/fmt.h"
 #include "core/platform.h"
 #include "engines/systemdata.h"
 #include "gallery/OpenMenu.h"
@@ -18,6 +19,7 @@
 #include "update/Updater.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
@@ -44,12 +46,12 @@ constexpr qint64 kFreedMb[] = {3'100, 1'450, 2'300, 900, 4'200, 2'750}; // the p
 struct Figure {
   const char* id;
   qint64 megabytes;
-  const char16_t* detail = u"";
+  const char* detail = ""; ///< a text of System Data, if one
   int count = -1;
 };
 constexpr Figure kFigures[] = {
     {"usercaches", 6'400},
-    {"hidden", 9'700, u".nvm, .cargo, .gradle"},
+    {"hidden", 9'700, ".nvm, .cargo, .gradle"},
     {"flatpakdata", 3'100},
     {"userflatpak", 5'200},
     {"containers", 14'300},
@@ -64,10 +66,10 @@ constexpr Figure kFigures[] = {
     {"flatpak", 6'600},
     {"kernels", 1'150},
     {"swap", 8'600},
-    {"snapshots", 0, u"3 snapshots", 3},
+    {"snapshots", 0, "%1 snapshots", 3},
     {"backups", 24'800},
     {"devicesupport", 11'200},
-    {"simulators", 7'700, u"6 devices"},
+    {"simulators", 7'700, "%1 devices", 6},
     {"runtimes", 16'900},
     {"archives", 2'300},
     {"docker", 18'400},
@@ -82,6 +84,11 @@ constexpr Figure kFigures[] = {
 };
 /// Those of which something can't be read, where that is shown; of some nothing can.
 constexpr const char* kRefused[] = {"containers", "journal", "logs", "crash", "backups", "messages", "systemdb"};
+
+/// What the program says, in the language in force; else @p text as it is. @param n  what it counts, if it does
+QString said(const char* context, const char* text, int n = -1) {
+  return QCoreApplication::translate(context, text, nullptr, n);
+}
 
 /// Something was freed in each of the last months.
 void withHistory(Scene* /*scene*/) {
@@ -166,8 +173,9 @@ void placeSystemData(AppState* state) {
     for (const Figure& figure : kFigures) {
       if (item.id != QLatin1StringView(figure.id)) continue;
       item.bytes = figure.megabytes * kMb;
-      item.detail = QString::fromUtf16(figure.detail);
       item.count = figure.count;
+      item.detail = said("SystemData", figure.detail, figure.count);
+      if (figure.count >= 0) item.detail = item.detail.arg(figure.count);
     }
   state->systemDataReady = true;
   emit state->systemDataChanged();
@@ -363,7 +371,8 @@ void updateAvailable(Scene* scene) { (void)withUpdate(scene); }
 
 void updateNotLoaded(Scene* scene) {
   Updater* updater = withUpdate(scene);
-  updater->error = u"The update could not be downloaded: The update does not match the published checksum."_s;
+  updater->error = said("Updater", "The update could not be downloaded: %1")
+                       .arg(said("Updater", "The update does not match the published checksum."));
   emit updater->stateChanged();
 }
 
@@ -388,7 +397,12 @@ void appMenu(Scene* scene) { new OpenMenu(&scene->window); }
 
 void shortcuts(Scene* scene) { scene->window.showShortcuts(); }
 
-void toast(Scene* scene) { scene->window.showToast(u"Moved 12 items to the Trash"_s, true); }
+void toast(Scene* scene) {
+  constexpr int kMoved = 12;
+  const QString files = said("AppState", "%1 files", kMoved).arg(kMoved);
+  const QString text = said("AppState", "%1 (%2) moved to the %3", kMoved);
+  scene->window.showToast(text.arg(files, fmt::bytes(kMoved * kMb), platform::trashName()), true);
+}
 
 constexpr ViewEntry kViews[] = {
     {"overview-empty", Overview, false, nullptr},
@@ -459,14 +473,18 @@ void Scene::scan() {
 std::span<const ViewEntry> views() { return kViews; }
 std::span<const QSize> viewSizes() { return kSizes; }
 
-std::unique_ptr<Scene> openView(const ViewEntry& entry) {
-  auto scene = std::make_unique<Scene>();
+void bringTo(Scene* scene, const ViewEntry& entry) {
   scene->window.setSidebarCollapsed(false); // which the settings remember
-  if (entry.scanned) scene->scan();
+  if (entry.scanned && scene->state.results.isEmpty()) scene->scan();
   if (entry.page == SystemData) placeSystemData(&scene->state);
   scene->window.go(entry.page);
   scene->window.show();
-  if (entry.set) entry.set(scene.get());
+  if (entry.set) entry.set(scene);
+}
+
+std::unique_ptr<Scene> openView(const ViewEntry& entry) {
+  auto scene = std::make_unique<Scene>();
+  bringTo(scene.get(), entry);
   return scene;
 }
 

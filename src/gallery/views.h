@@ -35,7 +35,9 @@ struct ViewEntry {
 /// The window's smallest size and the one that it opens with, in pixels.
 [[nodiscard]] std::span<const QSize> viewSizes();
 
-/// The window shown at this view. Motion may still be under way.
+/// Brings @p scene, which is new or back where the view begins, to this view. Motion may still be under way.
+void bringTo(Scene* scene, const ViewEntry& entry);
+/// The same for a scene of its own.
 [[nodiscard]] std::unique_ptr<Scene> openView(const ViewEntry& entry);
 
 } // namespace gallery

@@ -180,7 +180,7 @@ void TestGallery::viewsShowWhatTheyAreCalled_data() {
   QTest::newRow("app-menu") << u"Open Log Folder"_s;
   QTest::newRow("shortcuts") << u"Keyboard shortcuts"_s;
   QTest::newRow("close-dialog") << u"Keep Tarnwick running?"_s;
-  QTest::newRow("toast") << u"Moved 12 items to the Trash"_s;
+  QTest::newRow("toast") << u"12 files (12 MB) moved to the Trash"_s;
 }
 
 void TestGallery::viewsShowWhatTheyAreCalled() {

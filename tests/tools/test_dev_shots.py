@@ -41,6 +41,10 @@ class Shots(unittest.TestCase):
         program.parent.mkdir(parents=True)
         program.write_text(GALLERY)
         program.chmod(0o755)
+        catalogues = self.root / "resources/i18n"
+        catalogues.mkdir(parents=True)
+        for code in ("de", "en", "pt_BR"):
+            (catalogues / f"tarnwick_{code}.ts").touch()
         self.caller = pathlib.Path(folder.name) / "caller"
         self.caller.mkdir()
 
@@ -70,6 +74,31 @@ class Shots(unittest.TestCase):
         self.assertTrue(self.calls()[-1].endswith(f"--write-views {self.caller}/pictures"), self.calls())
         self.shots("/elsewhere")
         self.assertTrue(self.calls()[-1].endswith("--write-views /elsewhere"), self.calls())
+
+    def test_the_language_is_the_one_that_is_asked_for(self):
+        for arguments in (("--lang", "pt_BR"), ("--lang", "pt_BR", "pictures"), ("pictures", "--lang", "pt_BR")):
+            (self.root / "calls").unlink(missing_ok=True)
+            done = self.shots(*arguments)
+            self.assertEqual(done.returncode, 0, done.stderr)
+            taken = [call for call in self.calls() if call.startswith(("mac ", "win "))]
+            self.assertEqual(len(taken), 7)
+            self.assertEqual({call.split()[2] for call in taken}, {"pt_BR"})
+            folder = self.caller / "pictures" if "pictures" in arguments else self.root / "build/shots"
+            self.assertTrue(taken[-1].endswith(f"--write-views {folder}"), taken)
+
+    def test_a_call_that_makes_no_sense_takes_nothing(self):
+        for arguments, wrong in (
+            (("--lang", "pt"), "there is no language pt; there are: de en pt_BR"),
+            (("--lang", ""), "there is no language ; there are: de en pt_BR"),
+            (("--lang", "."), "there is no language .;"),
+            (("--lang",), "--lang needs the code of a language"),
+            (("--loud",), "shots knows no --loud"),
+            (("here", "there"), "shots takes one folder"),
+        ):
+            done = self.shots(*arguments)
+            self.assertEqual(done.returncode, 2, arguments)
+            self.assertIn(wrong, done.stderr)
+            self.assertFalse((self.root / "calls").exists(), arguments)
 
     def test_the_first_that_fails_is_told_and_the_last(self):
         done = self.shots(BROKEN_AT="1.5")

@@ -3,15 +3,46 @@
 shot_metrics=(mac win)
 shot_scales=(1 1.5 2)
 
-# take_shots METRICS SCALE ARGS...: the gallery with these arguments. The desktop that this runs on has no say in it.
-take_shots() {
-  quietly env -u DBUS_SESSION_BUS_ADDRESS LC_ALL=C.UTF-8 TARNWICK_LANG=en FONTCONFIG_FILE="$root/tools/dev/fonts.conf" \
-    TARNWICK_LOOK="$1" QT_SCALE_FACTOR="$2" build/dev/src/gallery/tarnwick-gallery "${@:3}"
+# shot_languages: the codes of the languages that there is a catalogue for, one a line.
+shot_languages() {
+  local catalogue
+  for catalogue in "$root"/resources/i18n/tarnwick_*.ts; do
+    catalogue=${catalogue##*/tarnwick_}
+    echo "${catalogue%.ts}"
+  done
 }
 
-# shots [DIR]: a relative DIR is seen from where ./dev was called.
+# take_shots METRICS SCALE ARGS...: the gallery with these arguments, in $language. The desktop that this runs on has no
+# say in it.
+take_shots() {
+  quietly env -u DBUS_SESSION_BUS_ADDRESS LC_ALL=C.UTF-8 TARNWICK_LANG="$language" \
+    FONTCONFIG_FILE="$root/tools/dev/fonts.conf" TARNWICK_LOOK="$1" QT_SCALE_FACTOR="$2" \
+    build/dev/src/gallery/tarnwick-gallery "${@:3}"
+}
+
+# shots [DIR] [--lang CODE]: a relative DIR is seen from where ./dev was called.
 shots() {
-  local folder=${1:-$root/build/shots} metrics scale
+  local folder='' language=en metrics scale
+  while [[ $# -gt 0 ]]; do
+    case $1 in
+      --lang)
+        [[ $# -ge 2 ]] || { say "--lang needs the code of a language"; return 2; }
+        language=$2
+        shift
+        ;;
+      -*) say "shots knows no $1"; return 2 ;;
+      *)
+        [[ -z $folder ]] || { say "shots takes one folder"; return 2; }
+        folder=$1
+        ;;
+    esac
+    shift
+  done
+  if ! shot_languages | grep -qxF -- "$language"; then
+    say "there is no language $language; there are: $(shot_languages | paste -sd ' ')"
+    return 2
+  fi
+  folder=${folder:-$root/build/shots}
   [[ $folder == /* ]] || folder=$OLDPWD/$folder
   setup build shots demo || return
   build dev tarnwick-gallery >&2 || return
