@@ -56,6 +56,9 @@ Change chain(int hops) {
 
 } // namespace
 
+Q_DECLARE_METATYPE(Answer)
+Q_DECLARE_METATYPE(Change)
+
 class TestUpdaterHostile : public QObject {
   Q_OBJECT
 
@@ -285,9 +288,6 @@ class TestUpdaterHostile : public QObject {
 
   std::unique_ptr<ReleaseHost> m_host;
 };
-
-Q_DECLARE_METATYPE(Answer)
-Q_DECLARE_METATYPE(Change)
 
 QTEST_GUILESS_MAIN(TestUpdaterHostile)
 #include "tst_Updater_hostile.moc"
