@@ -1027,7 +1027,7 @@
     <message>
         <source>Move to %1</source>
         <extracomment>Button; %1: the Trash</extracomment>
-        <translation>Переместить в %1</translation>
+        <translation>В %1</translation>
     </message>
     <message>
         <source>Show</source>
@@ -1136,7 +1136,7 @@
     </message>
     <message>
         <source>Find Large Files</source>
-        <translation>Найти большие файлы</translation>
+        <translation>Большие файлы</translation>
     </message>
     <message>
         <source>Close Window</source>
@@ -1185,7 +1185,7 @@
     </message>
     <message>
         <source>Enter Full Screen</source>
-        <translation>Перейти в полноэкранный режим</translation>
+        <translation>Во весь экран</translation>
     </message>
     <message>
         <source>Minimize</source>
@@ -1467,7 +1467,7 @@
     <message>
         <source>System files protected</source>
         <extracomment>Mark with a green dot: they are never touched</extracomment>
-        <translation>Системные файлы защищены</translation>
+        <translation>Система защищена</translation>
     </message>
     <message numerus="yes">
         <source>Freed in the last %1 months</source>
@@ -1504,7 +1504,7 @@
     <message>
         <source>%1 ready to clean</source>
         <extracomment>Headline; %1: a size, which is painted in colours</extracomment>
-        <translation>Можно очистить %1</translation>
+        <translation>%1 можно очистить</translation>
     </message>
     <message>
         <source>Your startup disk is almost full</source>
@@ -1521,7 +1521,7 @@
     </message>
     <message>
         <source>Apps, documents &amp; system</source>
-        <translation>Приложения, файлы, система</translation>
+        <translation>Данные и система</translation>
     </message>
     <message>
         <source>Reclaimable</source>
@@ -1545,7 +1545,7 @@
     <message>
         <source>Freed this month</source>
         <extracomment>Caption under a size</extracomment>
-        <translation>Освобождено за месяц</translation>
+        <translation>Очищено за месяц</translation>
     </message>
     <message>
         <source>Top recommendations</source>
@@ -2096,7 +2096,7 @@
     </message>
     <message>
         <source>Flatpak app data</source>
-        <translation>Данные приложений Flatpak</translation>
+        <translation>Flatpak: данные приложений</translation>
     </message>
     <message>
         <source>Settings, files and caches of your Flatpak apps, which each keep their own. “flatpak uninstall --delete-data” removes those of apps that are gone.</source>
@@ -2104,7 +2104,7 @@
     </message>
     <message>
         <source>Your Flatpak apps and runtimes</source>
-        <translation>Ваши приложения и среды Flatpak</translation>
+        <translation>Flatpak: ваши приложения и среды</translation>
     </message>
     <message>
         <source>Apps that Flatpak installed for you alone, and the runtimes that they need. “flatpak uninstall --user --unused” removes runtimes that no app needs any more.</source>
@@ -2192,7 +2192,7 @@
     </message>
     <message>
         <source>Flatpak apps and runtimes of the system</source>
-        <translation>Системные приложения и среды Flatpak</translation>
+        <translation>Flatpak: системные приложения и среды</translation>
     </message>
     <message>
         <source>Apps that Flatpak installed for all users, and the runtimes that they need. “flatpak uninstall --unused” removes runtimes that no app needs any more.</source>
