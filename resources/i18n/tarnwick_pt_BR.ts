@@ -1040,8 +1040,8 @@
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
         <extracomment>%2, %3: sizes; %4: how many files are listed, which the forms count; leave the tag as it is</extracomment>
         <translation>
-            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selecionados de %3 · %4 arquivo</numerusform>
-            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selecionados de %3 · %4 arquivos</numerusform>
+            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; de %3 · %4 arquivo</numerusform>
+            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; de %3 · %4 arquivos</numerusform>
         </translation>
     </message>
     <message>
@@ -1853,7 +1853,7 @@
     </message>
     <message>
         <source>Never touch these</source>
-        <translation>Nunca tocar nestes</translation>
+        <translation>Nunca tocar nestes itens</translation>
     </message>
     <message>
         <source>Folders and patterns Tarnwick always skips.</source>
