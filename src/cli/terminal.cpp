@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QStringList>
+#include <QTextBoundaryFinder>
 
 #include <algorithm>
 #include <array>
@@ -80,22 +81,66 @@ QString terminal::elided(const QString& text, int most) {
 
 namespace {
 
-QString wrappedLine(const QString& line, int most, int indent, int used) {
-  QString text;
-  for (const QString& word : line.split(u' ')) {
-    const int wanted = terminal::columns(word);
-    if (text.isEmpty()) {
-      used += wanted;
-    } else if (used + 1 + wanted > most) {
-      text += u'\n' + QString(indent, u' ');
-      used = indent + wanted;
-    } else {
-      text += u' ';
-      used += 1 + wanted;
-    }
-    text += word;
+/// Whether lines may break beside it without a blank: Chinese and Japanese, but not Korean, which has blanks.
+bool isWrittenWithoutBlanks(QChar character) {
+  const QChar::Script script = character.script();
+  return script == QChar::Script_Han || script == QChar::Script_Hiragana || script == QChar::Script_Katakana ||
+         (columnsOf(character.unicode()) == 2 && character.isPunct());
+}
+
+/// The pieces of a word that a line may end between, by the line breaking rules of Unicode: none begins with a closing
+/// mark or ends with an opening one. Most words are one piece.
+QStringList pieces(const QString& word) {
+  QStringList all;
+  QTextBoundaryFinder finder(QTextBoundaryFinder::Line, word);
+  qsizetype begin = 0;
+  for (qsizetype at = finder.toNextBoundary(); at > 0 && at < word.size(); at = finder.toNextBoundary()) {
+    if (!isWrittenWithoutBlanks(word.at(at - 1)) && !isWrittenWithoutBlanks(word.at(at))) continue;
+    all << word.sliced(begin, at - begin);
+    begin = at;
   }
-  return text;
+  return all << word.sliced(begin);
+}
+
+/// One line that is being filled.
+class Filling {
+ public:
+  Filling(int most, int indent, int used) : m_most(most), m_indent(indent), m_used(used) {}
+
+  /// @param gap  blanks before it, unless it begins a line
+  void add(const QString& piece, int gap) {
+    const int wanted = terminal::columns(piece);
+    if (m_isBegun && m_used + gap + wanted > m_most) {
+      m_text += u'\n' + QString(m_indent, u' ');
+      m_used = m_indent;
+    } else if (m_isBegun) {
+      m_text += QString(gap, u' ');
+      m_used += gap;
+    }
+    m_isBegun = true;
+    m_text += piece;
+    m_used += wanted;
+  }
+  [[nodiscard]] const QString& text() const { return m_text; }
+
+ private:
+  QString m_text;
+  const int m_most;
+  const int m_indent;
+  int m_used;
+  bool m_isBegun = false;
+};
+
+QString wrappedLine(const QString& line, int most, int indent, int used) {
+  Filling filling(most, indent, used);
+  for (const QString& word : line.split(u' ')) {
+    int gap = 1;
+    for (const QString& piece : pieces(word)) {
+      filling.add(piece, gap);
+      gap = 0;
+    }
+  }
+  return filling.text();
 }
 
 } // namespace

@@ -21,8 +21,8 @@ constexpr int kErrors = 2; ///< standard error
 [[nodiscard]] int columns(const QString& text);
 /// @p text in at most @p most columns, with "…" for what its middle had to lose.
 [[nodiscard]] QString elided(const QString& text, int most);
-/// @p text with line breaks between words instead of blanks, so that no line takes more than @p most columns, where its
-/// words let it. Its own line breaks stay.
+/// @p text with line breaks instead of blanks, and where a script writes without blanks also between its characters, so
+/// that no line takes more than @p most columns, where its words let it. Its own line breaks stay.
 /// @param indent  blanks before each further line
 /// @param used    columns that are taken already on the first line
 [[nodiscard]] QString wrapped(const QString& text, int most, int indent = 0, int used = 0);

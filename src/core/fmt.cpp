@@ -30,6 +30,8 @@ constexpr Step kSteps[] = {
     {1000, 1e3, Figure::Rounded, 0, QT_TRANSLATE_NOOP("fmt", "KB")},
 };
 
+constexpr qsizetype kGroup = 3; ///< digits between two separators
+
 QString withUnit(const QString& number, const char* unit) {
   //: A size; %1: a number; %2: a unit such as “GB”
   return QCoreApplication::translate("fmt", "%1 %2").arg(number, QCoreApplication::translate("fmt", unit));
@@ -53,7 +55,16 @@ QString bytes(qint64 n) {
   return withUnit(locale.toString(n > 0 ? 1 : 0), "KB");
 }
 
-QString count(qint64 n) { return QLocale().toString(n); }
+// Where numbers of four digits have no separator, as in Spanish, some versions of Qt set only the last one of longer
+// ones.
+QString count(qint64 n) {
+  const QLocale locale;
+  QString text = locale.toString(n);
+  const QString separator = locale.groupSeparator();
+  const qsizetype digits = n < 0 ? locale.negativeSign().size() : 0; // where they begin
+  for (qsizetype at = text.indexOf(separator) - kGroup; at > digits; at -= kGroup) text.insert(at, separator);
+  return text;
+}
 
 int monthsSince(const QDateTime& when) { return monthsSince(when, QDate::currentDate()); }
 

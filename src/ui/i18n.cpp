@@ -3,6 +3,7 @@
 #include "app/AppSettings.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -36,6 +37,11 @@ QString codeFor(QString tag) {
   return find(primary) ? primary : QString();
 }
 
+void load(QCoreApplication* app, const QString& catalogue) {
+  auto translator = std::make_unique<QTranslator>(app);
+  if (translator->load(catalogue)) app->installTranslator(translator.release());
+}
+
 } // namespace
 
 const QList<i18n::Language>& i18n::languages() {
@@ -67,9 +73,12 @@ QString i18n::effectiveLanguage() {
   return find(wish) ? wish : systemLanguage();
 }
 
-void i18n::install(QCoreApplication* app, const QString& catalogues) {
+QString i18n::Catalogues::qtCatalogues() { return QLibraryInfo::path(QLibraryInfo::TranslationsPath); }
+
+// What is installed last is asked first.
+void i18n::install(QCoreApplication* app, const Catalogues& from) {
   const QString language = effectiveLanguage();
-  auto translator = std::make_unique<QTranslator>(app);
-  if (translator->load(u"%1/tarnwick_%2.qm"_s.arg(catalogues, language))) app->installTranslator(translator.release());
+  load(app, u"%1/qtbase_%2.qm"_s.arg(from.qt, language));
+  load(app, u"%1/tarnwick_%2.qm"_s.arg(from.own, language));
   QLocale::setDefault(QLocale(language == "en"_L1 ? u"en_US"_s : language));
 }

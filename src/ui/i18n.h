@@ -24,10 +24,16 @@ struct Language {
 [[nodiscard]] QString languageFor(const QStringList& uiLanguages);
 /// The code to use now: the environment variable TARNWICK_LANG, else the setting, else the system's.
 [[nodiscard]] QString effectiveLanguage();
-/// Loads the catalogue of effectiveLanguage() and sets the default locale. Once, before any text is shown.
-/// Without a catalogue the texts stay English; the locale follows the language all the same.
-/// @param app  owns the catalogue from then on
-/// @param catalogues  the folder of the tarnwick_CODE.qm files; the program carries its own
-void install(QCoreApplication* app, const QString& catalogues = QStringLiteral(":/i18n"));
+/// Folders that catalogues are taken from.
+struct Catalogues {
+  QString own = QStringLiteral(":/i18n"); ///< of the tarnwick_CODE.qm, which the program carries with it
+  QString qt = qtCatalogues();            ///< of the qtbase_CODE.qm, for what Qt says itself: menus of text fields, say
+  /// Where Qt has its own, if they are installed.
+  [[nodiscard]] static QString qtCatalogues();
+};
+/// Loads the catalogues of effectiveLanguage() and sets the default locale. Once, before any text is shown.
+/// Without a catalogue texts stay English; the locale follows the language all the same.
+/// @param app  owns the catalogues from then on
+void install(QCoreApplication* app, const Catalogues& from = {});
 
 } // namespace i18n

@@ -105,7 +105,15 @@ void tst_cli_table::wrapped_data() {
   QTest::newRow("indent") << u"a bc def"_s << 6 << 3 << 0 << u"a bc\n   def"_s;
   QTest::newRow("used") << u"a bc def"_s << 6 << 0 << 3 << u"a\nbc def"_s;
   QTest::newRow("long word") << u"a bcdefghij k"_s << 4 << 0 << 0 << u"a\nbcdefghij\nk"_s;
-  QTest::newRow("wide") << u"简体 中文"_s << 8 << 0 << 0 << u"简体\n中文"_s;
+  QTest::newRow("wide") << u"简体 中文"_s << 8 << 0 << 0 << u"简体 中\n文"_s;
+  QTest::newRow("without blanks") << u"扫描并列出内容"_s << 8 << 0 << 0 << u"扫描并列\n出内容"_s;
+  QTest::newRow("an odd width") << u"扫描并列出内容"_s << 9 << 2 << 0 << u"扫描并列\n  出内容"_s;
+  QTest::newRow("no mark begins a line") << u"扫描并列，出内容"_s << 8 << 0 << 0 << u"扫描并\n列，出内\n容"_s;
+  QTest::newRow("no mark ends one") << u"扫描（并列）"_s << 6 << 0 << 0 << u"扫描\n（并\n列）"_s;
+  QTest::newRow("japanese") << u"ファイルを消す。"_s << 8 << 0 << 0 << u"ファイル\nを消す。"_s;
+  QTest::newRow("korean has blanks") << u"파일을 지웁니다"_s << 8 << 0 << 0 << u"파일을\n지웁니다"_s;
+  QTest::newRow("commands stay whole") << u"用 tarnwick-cli 清理"_s << 8 << 0 << 0 << u"用\ntarnwick-cli\n清理"_s;
+  QTest::newRow("paths stay whole") << u"in /a-b/c-d"_s << 6 << 0 << 0 << u"in\n/a-b/c-d"_s;
   QTest::newRow("own breaks") << u"a b\nc d"_s << 3 << 2 << 2 << u"a\n  b\nc d"_s;
 }
 

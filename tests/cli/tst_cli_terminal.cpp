@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <csignal>
 
 #include <fcntl.h>
@@ -36,6 +37,22 @@ void addLoudCaches(const QString& root, int first, int end) {
     for (int k = 0; k < kFilesEach; ++k)
       ::close(::open(QFile::encodeName(cache + u'/' + QString::number(k)).constData(), O_WRONLY | O_CREAT, 0600));
   }
+}
+
+/// Cells of a terminal, for texts whose only wide characters are those of East Asia.
+int cells(const QString& text) {
+  return static_cast<int>(std::count_if(text.begin(), text.end(), [](QChar c) { return c.unicode() >= 0x2e80; }) +
+                          text.size());
+}
+
+/// Where the sizes of a table end, line by line.
+QList<int> endsOfSizes(const QString& shown) {
+  static const QRegularExpression size(u" \\d[\\d.,]* [KMG]B"_s);
+  QList<int> ends;
+  for (const QString& line : shown.section(u'\u2500', 0, -1).split(u"\r\n"_s))
+    if (const auto match = size.match(line); line.startsWith(u"  "_s) && match.hasMatch())
+      ends << cells(line.left(match.capturedEnd()));
+  return ends;
 }
 
 } // namespace
@@ -67,6 +84,8 @@ class tst_cli_terminal : public CliTest {
   void colours();
   void widths_data();
   void widths();
+  void columnsLineUp_data();
+  void columnsLineUp();
 };
 
 void tst_cli_terminal::init() {
@@ -319,6 +338,34 @@ void tst_cli_terminal::widths() {
   const QString shown = QString::fromUtf8(pty.shown());
   for (const QString& line : shown.split(u"\r\n"_s)) QVERIFY2(line.size() <= columns, qPrintable(line));
   QCOMPARE(shown.contains(u'█'), bars);
+}
+
+void tst_cli_terminal::columnsLineUp_data() {
+  QTest::addColumn<QStringList>("arguments");
+  QTest::addColumn<int>("columns");
+  for (const char* language : {"en", "zh_CN", "zh_TW"})
+    for (const int columns : {70, 120}) {
+      QTest::addRow("%s scan in %d", language, columns) << QStringList{u"scan"_s} << columns;
+      QTest::addRow("%s clean in %d", language, columns) << QStringList{u"clean"_s, u"--yes"_s} << columns;
+    }
+}
+
+void tst_cli_terminal::columnsLineUp() {
+  QFETCH(QStringList, arguments);
+  QFETCH(int, columns);
+  const QByteArray language = QByteArray(QTest::currentDataTag()).split(' ').first();
+  qputenv("TARNWICK_LANG", language);
+  const auto back = qScopeGuard([] { qputenv("TARNWICK_LANG", "en"); });
+  qputenv("NO_COLOR", "1");
+  Pty pty(arguments, {.columns = columns, .errTo = m_home->outside(u"err"_s)});
+  QCOMPARE(pty.finish(), 0);
+  const QString shown = QString::fromUtf8(pty.shown());
+  const QList<int> ends = endsOfSizes(shown);
+  QVERIFY2(ends.size() > 3, qPrintable(shown));
+  for (const int end : ends) QVERIFY2(end == ends.first(), qPrintable(shown));
+  for (const QString& line : shown.split(u"\r\n"_s)) // but for the path of the log
+    QVERIFY2(cells(line) <= columns || line.contains(u".log"_s), qPrintable(line));
+  QCOMPARE(cells(shown) > shown.size(), language != "en"); // it does speak the language
 }
 
 QTEST_GUILESS_MAIN(tst_cli_terminal)

@@ -150,6 +150,22 @@ class TestFmt : public QObject {
     QCOMPARE(fmt::monthsSince(now.addYears(-2)), 24);
   }
 
+  void countInSpanish_data() {
+    QTest::addColumn<qint64>("n");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("4 digits") << qint64{1234} << u"1234"_s;
+    QTest::newRow("5 digits") << qint64{12'345} << u"12.345"_s;
+    QTest::newRow("7 digits") << qint64{1'234'567} << u"1.234.567"_s;
+    QTest::newRow("12 digits") << qint64{123'456'789'012} << u"123.456.789.012"_s;
+    QTest::newRow("below none") << qint64{-1'234'567} << u"-1.234.567"_s;
+    QTest::newRow("6 digits below none") << qint64{-123'456} << u"-123.456"_s;
+  }
+  void countInSpanish() {
+    QFETCH(qint64, n);
+    QLocale::setDefault(QLocale(u"es"_s));
+    QTEST(fmt::count(n), "text");
+  }
+
   void ageWithinASentenceBeginsSmall() {
     const QDateTime now = QDateTime::currentDateTime();
     QCOMPARE(fmt::ageWithin(now.addDays(3)), u"today"_s);

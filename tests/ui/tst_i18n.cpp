@@ -2,11 +2,14 @@
 #include "app/AppSettings.h"
 #include "app/identity.h"
 #include "core/fmt.h"
+#include "engines/LargeFileFinder.h"
 #include "support/FixtureHome.h"
 #include "ui/i18n.h"
 
 #include <QFile>
 #include <QLocale>
+#include <QSet>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
 
@@ -15,7 +18,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The test's own catalogues: a Korean one of one text, and no other.
-const QString kOwnCatalogues = u":/test/i18n"_s;
+const i18n::Catalogues kTestCatalogues = {.own = u":/test/i18n"_s, .qt = u":/nowhere"_s};
+/// The program's, whatever Qt has on this machine.
+const i18n::Catalogues kOwnCatalogues = {.own = u":/i18n"_s, .qt = u":/nowhere"_s};
 
 QList<QTranslator*> installed() { return QCoreApplication::instance()->findChildren<QTranslator*>(); }
 
@@ -44,7 +49,13 @@ class tst_i18n : public QObject {
   void defaultLocale();
   void carriesTenCatalogues();
   void installsTheCatalogue();
+  void qtsOwnTextsFollow();
   void englishPlurals();
+  void countsInEachLanguage_data();
+  void countsInEachLanguage();
+  void figuresInEachLanguage_data();
+  void figuresInEachLanguage();
+  void kindsOfFilesAreTranslated();
   void missingCatalogueLeavesTheSourceTexts();
 
  private:
@@ -159,19 +170,33 @@ void tst_i18n::carriesTenCatalogues() {
     QCOMPARE(QLocale(catalogue.language()), QLocale(one.code));
     qputenv("TARNWICK_LANG", one.code.toLatin1());
     i18n::install(QCoreApplication::instance());
-    QCOMPARE(installed().size(), 1);
-    QCOMPARE(installed().constFirst()->filePath(), catalogue.filePath());
+    QCOMPARE(installed().constLast()->filePath(), catalogue.filePath()); // whether Qt has one or not
     qDeleteAll(installed());
   }
 }
 
 void tst_i18n::installsTheCatalogue() {
   qputenv("TARNWICK_LANG", "ko");
-  i18n::install(QCoreApplication::instance(), kOwnCatalogues);
+  i18n::install(QCoreApplication::instance(), kTestCatalogues);
   QCOMPARE(QCoreApplication::translate("TestOfLanguages", "Hello"), u"안녕"_s);
   QCOMPARE(installed().size(), 1);
   qDeleteAll(installed());
   QCOMPARE(QCoreApplication::translate("TestOfLanguages", "Hello"), u"Hello"_s);
+}
+
+void tst_i18n::qtsOwnTextsFollow() {
+  QTemporaryDir folder;
+  QVERIFY(QFile::copy(u":/test/i18n/tarnwick_ko.qm"_s, folder.filePath(u"qtbase_ko.qm"_s)));
+  qputenv("TARNWICK_LANG", "ko");
+  i18n::install(QCoreApplication::instance(), {.own = u":/i18n"_s, .qt = folder.path()});
+  QCOMPARE(installed().size(), 2);
+  QCOMPARE(QCoreApplication::translate("TestOfLanguages", "Hello"), u"안녕"_s);
+  // Of what both have, ours holds.
+  QVERIFY(installed().constLast()->filePath().startsWith(u":/i18n/"_s));
+  qputenv("TARNWICK_LANG", "de");
+  qDeleteAll(installed());
+  i18n::install(QCoreApplication::instance(), {.own = u":/i18n"_s, .qt = folder.path()});
+  QCOMPARE(installed().size(), 1);
 }
 
 void tst_i18n::englishPlurals() {
@@ -206,10 +231,80 @@ void tst_i18n::englishPlurals() {
   QCOMPARE(files(1200), u"1,200 files"_s);
 }
 
+void tst_i18n::countsInEachLanguage_data() {
+  QTest::addColumn<QString>("one");
+  QTest::addColumn<QString>("two");
+  QTest::addColumn<QString>("five");
+  QTest::addColumn<QString>("twentyOne");
+  const auto row = [](const char* code, const char16_t* one, const char16_t* two, const char16_t* five,
+                      const char16_t* twentyOne) {
+    QTest::newRow(code) << QString::fromUtf16(one) << QString::fromUtf16(two) << QString::fromUtf16(five)
+                        << QString::fromUtf16(twentyOne);
+  };
+  row("en", u"1 snapshot", u"2 snapshots", u"5 snapshots", u"21 snapshots");
+  row("de", u"1 Snapshot", u"2 Snapshots", u"5 Snapshots", u"21 Snapshots");
+  row("ru", u"1 снимок", u"2 снимка", u"5 снимков", u"21 снимок");
+}
+
+void tst_i18n::countsInEachLanguage() {
+  qputenv("TARNWICK_LANG", QTest::currentDataTag());
+  i18n::install(QCoreApplication::instance(), kOwnCatalogues);
+  const auto text = [](int n) { return QCoreApplication::translate("SystemData", "%1 snapshots", nullptr, n).arg(n); };
+  QTEST(text(1), "one");
+  QTEST(text(2), "two");
+  QTEST(text(5), "five");
+  QTEST(text(21), "twentyOne");
+}
+
+void tst_i18n::figuresInEachLanguage_data() {
+  QTest::addColumn<QString>("count");
+  QTest::addColumn<QString>("size");
+  QTest::addColumn<QString>("smallSize");
+  QTest::addColumn<QString>("age");
+  const auto row = [](const char* code, const char16_t* count, const char16_t* size, const char16_t* smallSize,
+                      const char16_t* age) {
+    QTest::newRow(code) << QString::fromUtf16(count) << QString::fromUtf16(size) << QString::fromUtf16(smallSize)
+                        << QString::fromUtf16(age);
+  };
+  row("en", u"1,234,567", u"1.5 GB", u"2 KB", u"today, 3 days ago");
+  row("zh_CN", u"1,234,567", u"1.5 GB", u"2 KB", u"今天, 3 天前");
+  row("zh_TW", u"1,234,567", u"1.5 GB", u"2 KB", u"今天, 3 天前");
+  row("es", u"1.234.567", u"1,5 GB", u"2 KB", u"hoy, hace 3 días");
+  row("fr", u"1 234 567", u"1,5 Go", u"2 Ko", u"aujourd’hui, il y a 3 jours");
+  row("de", u"1.234.567", u"1,5 GB", u"2 KB", u"heute, vor 3 Tagen");
+  row("pt_BR", u"1.234.567", u"1,5 GB", u"2 KB", u"hoje, há 3 dias");
+  row("ru", u"1 234 567", u"1,5 ГБ", u"2 КБ", u"сегодня, 3 дня назад");
+}
+
+void tst_i18n::figuresInEachLanguage() {
+  QFETCH(QString, count);
+  qputenv("TARNWICK_LANG", QTest::currentDataTag());
+  i18n::install(QCoreApplication::instance(), kOwnCatalogues);
+  // Which of the blanks that keep a line together stands between groups changed from one Qt to the next.
+  const auto plain = [](QString text) { return text.replace(QChar(0x202f), u' ').replace(QChar(0xa0), u' '); };
+  QCOMPARE(plain(fmt::count(1'234'567)), count);
+  QTEST(plain(fmt::bytes(1'500'000'000)), "size");
+  QTEST(plain(fmt::bytes(2000)), "smallSize");
+  const QDateTime now = QDateTime::currentDateTime();
+  QTEST(plain(fmt::ageWithin(now) + u", "_s + fmt::ageWithin(now.addDays(-3))), "age");
+}
+
+void tst_i18n::kindsOfFilesAreTranslated() {
+  qputenv("TARNWICK_LANG", "ru");
+  i18n::install(QCoreApplication::instance(), kOwnCatalogues);
+  QSet<QString> seen;
+  for (const char* name : {"a.iso", "a.part", "a.mov", "a.zip", "a.exe", "a.mp3", "a.png", "a.pdf", "a.bak", "a"}) {
+    const QString kind = LargeFileFinder::kindName(LargeFileFinder::kindFor(QString::fromLatin1(name)));
+    QVERIFY2(kind.at(0).script() == QChar::Script_Cyrillic, name);
+    seen.insert(kind);
+  }
+  QCOMPARE(seen.size(), 10);
+}
+
 void tst_i18n::missingCatalogueLeavesTheSourceTexts() {
   qputenv("TARNWICK_LANG", "ru");
   QTest::failOnWarning(QRegularExpression(u".*"_s));
-  i18n::install(QCoreApplication::instance(), kOwnCatalogues);
+  i18n::install(QCoreApplication::instance(), kTestCatalogues);
   QCOMPARE(installed().size(), 0);
   QCOMPARE(QCoreApplication::translate("TestOfLanguages", "Hello"), u"Hello"_s);
   QCOMPARE(QLocale(), QLocale(u"ru"_s));
