@@ -1,6 +1,5 @@
 // The clean without a terminal: what goes, what stays, what it reports, and how it ends.
 #include "app/AppSettings.h"
-#include "app/identity.h"
 #include "core/runlock.h"
 #include "support/CliTest.h"
 
@@ -13,7 +12,6 @@
 #include <csignal>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -35,10 +33,6 @@ class tst_cli_clean : public CliTest {
   Q_OBJECT
 
  private slots:
-  void initTestCase() { identity::apply(); }
-  void init() { make(); }
-  void cleanup() { drop(); }
-
   void jsonShape();
   void deletesWhatIsSafe();
   void movesToTheTrash();

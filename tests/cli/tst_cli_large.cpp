@@ -1,5 +1,4 @@
 // The search for large files: its table, its JSON, its options, what it leaves alone, and how it ends.
-#include "app/identity.h"
 #include "cli/json.h"
 #include "support/CliTest.h"
 #include "support/Pty.h"
@@ -12,8 +11,6 @@
 
 #include <csignal>
 
-#include <sys/stat.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -21,21 +18,12 @@ namespace {
 constexpr qint64 kMB = 1'000'000;
 constexpr int kInterrupted = 130;
 
-qint64 allocated(const QString& path) {
-  struct stat status {};
-  return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_blocks * 512 : -1;
-}
-
 } // namespace
 
 class tst_cli_large : public CliTest {
   Q_OBJECT
 
  private slots:
-  void initTestCase() { identity::apply(); }
-  void init() { make(); }
-  void cleanup() { drop(); }
-
   void jsonShape();
   void jsonText();
   void takesTheSizeOfTheSettings();

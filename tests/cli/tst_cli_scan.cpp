@@ -1,6 +1,5 @@
 // The scan: its table, its JSON, what it leaves alone, and how it ends.
 #include "app/AppSettings.h"
-#include "app/identity.h"
 #include "support/CliTest.h"
 
 #include <QFile>
@@ -37,21 +36,12 @@ QStringList itemPaths(const QJsonObject& category) {
   return paths;
 }
 
-qint64 allocated(const QString& path) {
-  struct stat status {};
-  return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_blocks * 512 : -1;
-}
-
 } // namespace
 
 class tst_cli_scan : public CliTest {
   Q_OBJECT
 
  private slots:
-  void initTestCase() { identity::apply(); }
-  void init() { make(); }
-  void cleanup() { drop(); }
-
   void jsonShape();
   void jsonFigures();
   void jsonOfTheOtherHost();

@@ -19,8 +19,6 @@ class tst_cli_settings : public CliTest {
   Q_OBJECT
 
  private slots:
-  void init() { make(); }
-  void cleanup() { drop(); }
   void refused_data();
   void refused();
   void cleansOnceMended();

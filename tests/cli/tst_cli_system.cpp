@@ -1,5 +1,4 @@
 // System Data: its table, its JSON, what it leaves alone, and how it ends.
-#include "app/identity.h"
 #include "support/CliTest.h"
 #include "support/Pty.h"
 
@@ -27,21 +26,12 @@ QJsonObject row(const QJsonObject& data, const QString& id) {
   return {};
 }
 
-qint64 allocated(const QString& path) {
-  struct stat status {};
-  return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_blocks * 512 : -1;
-}
-
 } // namespace
 
 class tst_cli_system : public CliTest {
   Q_OBJECT
 
  private slots:
-  void initTestCase() { identity::apply(); }
-  void init() { make(); }
-  void cleanup() { drop(); }
-
   void jsonShape();
   void jsonFigures();
   void jsonOfTheOtherHost();

@@ -62,7 +62,6 @@ class tst_cli_terminal : public CliTest {
 
  private slots:
   void init();
-  void cleanup() { drop(); }
 
   void asks_data();
   void asks();

@@ -25,9 +25,6 @@ class tst_cli_usage : public CliTest {
   Q_OBJECT
 
  private slots:
-  void init() { make(); }
-  void cleanup() { drop(); }
-
   void version_data();
   void version();
   void help_data();

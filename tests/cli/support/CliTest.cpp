@@ -1,15 +1,21 @@
 #include "support/CliTest.h"
 
+#include "app/identity.h"
+
 #include <QFile>
 #include <QFileInfo>
 
 #include <csignal>
+
+#include <sys/stat.h>
 
 namespace {
 constexpr int kFewInstallers = 200;
 constexpr int kMostInstallers = 13'000;
 constexpr int kInterrupted = 130;
 } // namespace
+
+void CliTest::initTestCase() { identity::apply(); }
 
 void CliTest::make() {
   m_home.reset();
@@ -44,4 +50,9 @@ CliRun CliTest::interrupt(const Interruption& how, int* installers) {
 QByteArray contents(const QString& path) {
   QFile file(path);
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+qint64 allocated(const QString& path) {
+  struct stat status {};
+  return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_blocks * 512 : -1;
 }

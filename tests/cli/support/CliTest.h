@@ -10,6 +10,13 @@
 #include <memory>
 
 class CliTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase();
+  void init() { make(); }
+  void cleanup() { drop(); }
+
  protected:
   void make();
   void drop();
@@ -35,3 +42,5 @@ class CliTest : public QObject {
 
 /// All of a file; empty where there is none.
 [[nodiscard]] QByteArray contents(const QString& path);
+/// What stands at @p path takes on the disk, in bytes, without following a link; -1 where there is nothing.
+[[nodiscard]] qint64 allocated(const QString& path);
