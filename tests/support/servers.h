@@ -1,8 +1,10 @@
 /// Servers of a desktop that a test starts for itself: a session bus, a screen of X11. They end with their objects.
 #pragma once
 
+#include "support/FixtureHome.h"
 #include "support/child.h"
 
+#include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QStandardPaths>
@@ -37,6 +39,8 @@ class Server {
 
   /// What it said.
   [[nodiscard]] QString answer() const { return m_answer; }
+  /// 0 while nothing runs.
+  [[nodiscard]] qint64 processId() const { return m_process.processId(); }
 
  private:
   QProcess m_process;
@@ -47,6 +51,21 @@ class Server {
 inline bool startBus(Server* server) {
   return server->start(QStringLiteral("dbus-daemon"),
                        {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1")});
+}
+
+/// A message bus that starts nothing by itself, whatever is installed, and lets everybody in; its answer is its
+/// address.
+/// @param home  keeps its settings and its socket
+inline bool startEmptyBus(Server* server, const FixtureHome& home) {
+  QFile config(home.file(QStringLiteral("bus.conf"), 0));
+  if (!config.open(QIODevice::WriteOnly)) return false;
+  config.write("<busconfig><type>session</type><listen>unix:dir=" + home.folder(QStringLiteral("bus")).toUtf8() +
+               "</listen><policy context='default'><allow send_destination='*'/><allow receive_sender='*'/>"
+               "<allow own='*'/></policy></busconfig>");
+  config.close();
+  return server->start(QStringLiteral("dbus-daemon"),
+                       {QStringLiteral("--config-file=") + config.fileName(), QStringLiteral("--nofork"),
+                        QStringLiteral("--print-address=1")});
 }
 
 /// A screen that nobody sees, without a window manager and without a compositor; its answer is its number.

@@ -1,19 +1,15 @@
 #include "core/platform.h"
 
+#include "support/Desktop.h"
 #include "support/FixtureHome.h"
-#include "support/child.h"
+#include "support/servers.h"
 
 #include <QDBusConnection>
 #include <QDBusContext>
-#include <QDesktopServices>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QProcess>
 #include <QSemaphore>
-#include <QStandardPaths>
 #include <QTest>
 #include <QThreadPool>
-#include <QUrl>
 
 #include <csignal>
 
@@ -39,19 +35,6 @@ class FileManager : public QObject, protected QDBusContext {
   }
 };
 
-/// Takes what would go to the desktop.
-class Desktop : public QObject {
-  Q_OBJECT
-
- public:
-  Desktop() { QDesktopServices::setUrlHandler(u"file"_s, this, "open"); }
-  ~Desktop() override { QDesktopServices::unsetUrlHandler(u"file"_s); }
-  QStringList opened;
-
- public slots:
-  void open(const QUrl& url) { opened.append(url.toLocalFile()); }
-};
-
 /// A session bus of the test's own, on which nothing is started by itself. The program's connection to it lasts as long
 /// as the process, so the cases stand in an order: without a bus, with one that hangs, with nobody on it, with
 /// somebody.
@@ -64,11 +47,7 @@ class TestFileManager : public QObject {
     qputenv("XDG_RUNTIME_DIR", m_home.folder(u"runtime"_s).toUtf8());
   }
 
-  void cleanupTestCase() {
-    QDBusConnection::disconnectFromBus(u"stand-in"_s);
-    m_bus.kill();
-    m_bus.waitForFinished();
-  }
+  void cleanupTestCase() { QDBusConnection::disconnectFromBus(u"stand-in"_s); }
 
   void withoutABusTheFolderIsOpened() {
     for (const char* address : {"", "autolaunch:"}) {
@@ -157,35 +136,22 @@ class TestFileManager : public QObject {
 
  private:
   bool startBus() {
-    const QString daemon = QStandardPaths::findExecutable(u"dbus-daemon"_s);
-    if (daemon.isEmpty()) return false;
-    QFile config(m_home.file(u"bus.conf"_s, 0));
-    if (!config.open(QIODevice::WriteOnly)) return false;
-    config.write("<busconfig><type>session</type><listen>unix:dir=" + m_home.folder(u"bus"_s).toUtf8() +
-                 "</listen><policy context='default'><allow send_destination='*'/><allow receive_sender='*'/>"
-                 "<allow own='*'/></policy></busconfig>");
-    config.close();
-    m_bus.setChildProcessModifier([] { child::dieWithParent(); });
-    m_bus.start(daemon, {u"--config-file="_s + config.fileName(), u"--nofork"_s, u"--print-address=1"_s});
-    if (!m_bus.waitForReadyRead()) return false;
-    m_address = QString::fromUtf8(m_bus.readLine()).trimmed();
-    qputenv("DBUS_SESSION_BUS_ADDRESS", m_address.toUtf8());
-    m_running = true;
-    return true;
+    m_running = servers::startEmptyBus(&m_bus, m_home);
+    if (m_running) qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.answer().toUtf8());
+    return m_running;
   }
 
   /// Puts the stand-in on the bus, as if new.
   void offer() {
     m_manager.asked.clear();
     m_manager.refuses = false;
-    QDBusConnection bus = QDBusConnection::connectToBus(m_address, u"stand-in"_s);
+    QDBusConnection bus = QDBusConnection::connectToBus(m_bus.answer(), u"stand-in"_s);
     bus.registerObject(u"/org/freedesktop/FileManager1"_s, &m_manager, QDBusConnection::ExportAllSlots);
     bus.registerService(u"org.freedesktop.FileManager1"_s);
   }
 
   FixtureHome m_home;
-  QProcess m_bus;
-  QString m_address;
+  servers::Server m_bus;
   bool m_running = false;
   FileManager m_manager;
 };

@@ -1,14 +1,13 @@
 #include "core/appguard.h"
 #include "core/platform.h"
 
+#include "support/Desktop.h"
 #include "support/FixtureHome.h"
 
 #include <CoreFoundation/CoreFoundation.h>
 
-#include <QDesktopServices>
 #include <QFile>
 #include <QTest>
-#include <QUrl>
 
 #include <optional>
 
@@ -65,16 +64,6 @@ void CFRelease(CFTypeRef object) {
   if (object == nullptr) qFatal("the framework ends a program that releases nothing");
   --framework.alive;
 }
-
-/// Takes what would go to the desktop.
-class Pane : public QObject {
-  Q_OBJECT
-
- public:
-  QUrl url;
- public slots:
-  void open(const QUrl& opened) { url = opened; }
-};
 
 class TestMacServices : public QObject {
   Q_OBJECT
@@ -152,14 +141,13 @@ class TestMacServices : public QObject {
   }
 
   void thePrivacyPane() {
-    Pane pane;
     const QString scheme = u"x-apple.systempreferences"_s;
-    QDesktopServices::setUrlHandler(scheme, &pane, "open");
+    const Desktop desktop({scheme});
     platform::openFullDiskAccessSettings();
-    QDesktopServices::unsetUrlHandler(scheme);
-    QCOMPARE(pane.url.scheme(), scheme);
-    QCOMPARE(pane.url.path(), u"com.apple.preference.security"_s);
-    QCOMPARE(pane.url.query(), u"Privacy_AllFiles"_s);
+    QCOMPARE(desktop.urls.size(), 1);
+    QCOMPARE(desktop.urls[0].scheme(), scheme);
+    QCOMPARE(desktop.urls[0].path(), u"com.apple.preference.security"_s);
+    QCOMPARE(desktop.urls[0].query(), u"Privacy_AllFiles"_s);
   }
 
   void theSnapshotsComeFromTheTools() {

@@ -5,6 +5,7 @@
 #include "JourneyTest.h"
 
 #include "engines/LargeFileFinder.h"
+#include "support/Desktop.h"
 #include "ui/controls/Segmented.h"
 #include "ui/pages/LargeFilesModel.h"
 #include "ui/pages/LargeFilesPage.h"
@@ -13,7 +14,6 @@
 #include "ui/shell/Toast.h"
 #include "ui/visuals/Treemap.h"
 
-#include <QDesktopServices>
 #include <QHeaderView>
 #include <QLineEdit>
 
@@ -45,19 +45,6 @@ std::set<std::string> largeBelow(const QString& top, qint64 bytes) {
   }
   return found;
 }
-
-/// Takes what would go to the desktop.
-class Desktop : public QObject {
-  Q_OBJECT
-
- public:
-  Desktop() { QDesktopServices::setUrlHandler(u"file"_s, this, "open"); }
-  ~Desktop() override { QDesktopServices::unsetUrlHandler(u"file"_s); }
-  QStringList opened;
-
- public slots:
-  void open(const QUrl& url) { opened.append(url.toLocalFile()); }
-};
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // The progress of a clean, and its report.
 #include "CleanupTest.h"
 #include "engines/Cleaner.h"
+#include "support/Desktop.h"
 #include "support/pixels.h"
 #include "ui/controls/GradientText.h"
 #include "ui/controls/Note.h"
@@ -8,7 +9,6 @@
 #include "ui/pages/DoneBadge.h"
 #include "ui/visuals/ProgressRing.h"
 
-#include <QDesktopServices>
 #include <QLayout>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -70,9 +70,6 @@ class TestCleanupDone : public CleanupTest {
   void columnIsNoWiderThan640();
   void scrollsOnlyWhereItMust();
 
- public slots:
-  void openedUrl(const QUrl& url) { m_opened << url; }
-
  private:
   [[nodiscard]] ui::Note* note(const char* name) const { return find<ui::Note>(name); }
   void done(const Told& told) {
@@ -82,8 +79,6 @@ class TestCleanupDone : public CleanupTest {
   }
   [[nodiscard]] QFontMetrics metrics() const { return m_page->fontMetrics(); }
   [[nodiscard]] QString heldBack(const Told& told) const { return ui::heldBackText(reportOf(told), metrics()); }
-
-  QList<QUrl> m_opened;
 };
 
 void TestCleanupDone::beginsEmpty() {
@@ -252,7 +247,7 @@ void TestCleanupDone::administratorNote() {
 }
 
 void TestCleanupDone::logOpens() {
-  QDesktopServices::setUrlHandler(u"file"_s, this, "openedUrl");
+  const Desktop desktop;
   const QString log = m_home->file(u"logs/run.log"_s);
   done({.logPath = log});
   QTest::mouseClick(button(view(), u"View log"_s), Qt::LeftButton);
@@ -260,9 +255,8 @@ void TestCleanupDone::logOpens() {
   QTest::mouseClick(button(view(), u"View log"_s), Qt::LeftButton);
   done({});
   QTest::mouseClick(button(view(), u"View log"_s), Qt::LeftButton);
-  QDesktopServices::unsetUrlHandler(u"file"_s);
   const QUrl folder = QUrl::fromLocalFile(Cleaner::logDir());
-  QCOMPARE(m_opened, QList<QUrl>({QUrl::fromLocalFile(log), folder, folder}));
+  QCOMPARE(desktop.urls, QList<QUrl>({QUrl::fromLocalFile(log), folder, folder}));
 }
 
 void TestCleanupDone::columnIsNoWiderThan640() {

@@ -3,6 +3,7 @@
 
 #include "LargeFilesTest.h"
 #include "app/FlowTest.h"
+#include "support/Desktop.h"
 #include "support/pixels.h"
 #include "support/uitest.h"
 #include "support/window.h"
@@ -22,7 +23,6 @@
 #include "ui/visuals/Treemap.h"
 
 #include <QAction>
-#include <QDesktopServices>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -46,19 +46,6 @@ enum View { Start, Scan, Results };
 enum Segment { All, Unused, Downloads };
 
 const QString kDownloads = u"/Downloads"_s;
-
-/// Takes what would go to the desktop.
-class Desktop : public QObject {
-  Q_OBJECT
-
- public:
-  Desktop() { QDesktopServices::setUrlHandler(u"file"_s, this, "open"); }
-  ~Desktop() override { QDesktopServices::unsetUrlHandler(u"file"_s); }
-  QStringList opened;
-
- public slots:
-  void open(const QUrl& url) { opened.append(url.toLocalFile()); }
-};
 
 } // namespace
 

@@ -2,6 +2,7 @@
 #include "ui/pages/LargeFilesTable.h"
 
 #include "LargeFilesTest.h"
+#include "support/Desktop.h"
 #include "support/pixels.h"
 #include "support/uitest.h"
 #include "ui/Theme.h"
@@ -10,7 +11,6 @@
 #include "ui/pages/LargeFilesModel.h"
 
 #include <QAccessible>
-#include <QDesktopServices>
 #include <QScrollBar>
 #include <QSignalSpy>
 
@@ -18,22 +18,7 @@ using namespace Qt::StringLiterals;
 using namespace largetest;
 using ui::LargeFilesModel;
 
-namespace {
-
-/// Takes what would go to the desktop.
-class Desktop : public QObject {
-  Q_OBJECT
-
- public:
-  Desktop() { QDesktopServices::setUrlHandler(u"file"_s, this, "open"); }
-  ~Desktop() override { QDesktopServices::unsetUrlHandler(u"file"_s); }
-  QStringList opened;
-
- public slots:
-  void open(const QUrl& url) { opened.append(url.toLocalFile()); }
-};
-
-} // namespace
+namespace {} // namespace
 
 class TestLargeFilesTable : public QObject {
   Q_OBJECT

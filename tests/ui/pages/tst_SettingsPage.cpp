@@ -9,6 +9,7 @@
 #include "core/safety.h"
 #include "engines/Cleaner.h"
 #include "engines/LargeFileFinder.h"
+#include "support/Desktop.h"
 #include "support/pixels.h"
 #include "support/settings.h"
 #include "support/uitest.h"
@@ -27,7 +28,6 @@
 #include "ui/i18n.h"
 
 #include <QAccessible>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QScrollArea>
@@ -47,19 +47,6 @@ struct Row {
 };
 
 QString tipOf(const QWidget* row) { return windowtest::plain(row->toolTip()); }
-
-/// Takes the folder that is to be opened.
-class Opened : public QObject {
-  Q_OBJECT
-
- public:
-  Opened() { QDesktopServices::setUrlHandler(u"file"_s, this, "take"); }
-  ~Opened() override { QDesktopServices::unsetUrlHandler(u"file"_s); }
-  QStringList paths;
-
- public slots:
-  void take(const QUrl& url) { paths << url.toLocalFile(); }
-};
 
 /// Answers the next dialog for a folder.
 void choose(const QString& folder) {
@@ -642,10 +629,10 @@ void TestSettingsPage::addsNothingTwice() {
 
 void TestSettingsPage::opensTheLogs() {
   open();
-  const Opened opened;
+  const Desktop desktop;
   QVERIFY(!QFile::exists(Cleaner::logDir()));
   QTest::mouseClick(button(u"Open logs"_s), Qt::LeftButton);
-  QCOMPARE(opened.paths, QStringList{Cleaner::logDir()});
+  QCOMPARE(desktop.opened, QStringList{Cleaner::logDir()});
   QVERIFY(QFileInfo(Cleaner::logDir()).isDir());
 }
 

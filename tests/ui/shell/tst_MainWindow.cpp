@@ -4,6 +4,7 @@
 #include "app/AppState.h"
 #include "engines/Cleaner.h"
 #include "engines/systemdata.h"
+#include "support/Desktop.h"
 #include "support/SampleHome.h"
 #include "support/pixels.h"
 #include "support/uitest.h"
@@ -30,7 +31,6 @@
 
 #include <QAccessible>
 #include <QCheckBox>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -55,23 +55,6 @@ CategoryResult found(const QString& id, qint64 bytes) {
   result.bytes = bytes;
   return result;
 }
-
-/// Stands in for what the desktop opens addresses of a kind with.
-class Opened : public QObject {
-  Q_OBJECT
-
- public:
-  explicit Opened(const QString& scheme) : m_scheme(scheme) { QDesktopServices::setUrlHandler(scheme, this, "open"); }
-  ~Opened() override { QDesktopServices::unsetUrlHandler(m_scheme); }
-  [[nodiscard]] QStringList paths() const { return m_paths; }
-
- public slots:
-  void open(const QUrl& url) { m_paths << url.path(); }
-
- private:
-  QString m_scheme;
-  QStringList m_paths;
-};
 
 /// Those on show that take the focus, by Tab or by a click, and of which a screen reader could say nothing.
 QList<QWidget*> namelessControls(const QWidget& window) {
@@ -395,28 +378,28 @@ void TestMainWindow::updatesAreAskedForFromTheSettings() {
 }
 
 void TestMainWindow::helpOpensInTheBrowser() {
-  const Opened opened(u"https"_s);
+  const Desktop desktop({u"https"_s});
   m_window->openGuide();
   m_window->openFaq();
-  QCOMPARE(opened.paths(), (QStringList{u"/guide/get-started-with-tarnwick/"_s, u"/support-center/"_s}));
+  QCOMPARE(desktop.opened, (QStringList{u"/guide/get-started-with-tarnwick/"_s, u"/support-center/"_s}));
 }
 
 // A user who never cleaned sees an empty folder, not an error.
 void TestMainWindow::logFolderIsMadeFirst() {
-  const Opened opened(u"file"_s);
+  const Desktop desktop;
   QVERIFY(!QFile::exists(Cleaner::logDir()));
   m_window->openLogFolder();
   QVERIFY(QFileInfo(Cleaner::logDir()).isDir());
-  QCOMPARE(opened.paths(), QStringList{Cleaner::logDir()});
+  QCOMPARE(desktop.opened, QStringList{Cleaner::logDir()});
 }
 
 void TestMainWindow::aboutIsShown() {
   m_window->showAbout();
   const auto* about = m_window->findChild<AboutDialog*>();
   QVERIFY(about && about->isVisible());
-  const Opened opened(u"https"_s);
+  const Desktop desktop({u"https"_s});
   click(*about, u"Tarnwick Website"_s);
-  QCOMPARE(opened.paths(), QStringList{u"/tarnwick/"_s});
+  QCOMPARE(desktop.opened, QStringList{u"/tarnwick/"_s});
 }
 
 void TestMainWindow::everyControlHasAName_data() {

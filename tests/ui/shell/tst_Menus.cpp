@@ -4,6 +4,7 @@
 #include "app/identity.h"
 #include "engines/Cleaner.h"
 #include "engines/LargeFileFinder.h"
+#include "support/Desktop.h"
 #include "support/pixels.h"
 #include "support/uitest.h"
 #include "support/window.h"
@@ -18,7 +19,6 @@
 #include "ui/shell/Sidebar.h"
 
 #include <QClipboard>
-#include <QDesktopServices>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QRegularExpression>
@@ -48,23 +48,6 @@ class Editable : public QWidget {
   void copy() { called << u"copy"_s; }
   void paste() { called << u"paste"_s; }
   void selectAll() { called << u"selectAll"_s; }
-};
-
-/// Stands in for the user's browser and file manager.
-class Opened : public QObject {
-  Q_OBJECT
-
- public:
-  Opened() {
-    for (const QString& scheme : {u"https"_s, u"file"_s}) QDesktopServices::setUrlHandler(scheme, this, "open");
-  }
-  ~Opened() override {
-    for (const QString& scheme : {u"https"_s, u"file"_s}) QDesktopServices::unsetUrlHandler(scheme);
-  }
-  QStringList paths;
-
- public slots:
-  void open(const QUrl& url) { paths << url.path(); }
 };
 
 AppMenu* openMenu() { return qobject_cast<AppMenu*>(QApplication::activePopupWidget()); }
@@ -561,11 +544,11 @@ void TestMenus::appMenuEntriesAct() {
   choose({u"About Tarnwick"_s});
   QVERIFY(m_window->findChild<AboutDialog*>());
   dialogs().first()->close();
-  Opened opened;
+  const Desktop desktop({u"https"_s, u"file"_s});
   choose({u"Help"_s, u"Guide"_s});
   choose({u"Help"_s, u"FAQ"_s});
   choose({u"Help"_s, u"Open Log Folder"_s});
-  QCOMPARE(opened.paths,
+  QCOMPARE(desktop.opened,
            (QStringList{u"/guide/get-started-with-tarnwick/"_s, u"/support-center/"_s, Cleaner::logDir()}));
   QTRY_VERIFY(dialogs().isEmpty());
   choose({u"Help"_s, u"Keyboard Shortcuts"_s});

@@ -1,14 +1,12 @@
 #include "update/Updater.h"
 
+#include "support/Desktop.h"
 #include "support/FixtureHome.h"
-#include "support/child.h"
+#include "support/servers.h"
 
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusMessage>
-#include <QDesktopServices>
-#include <QFile>
-#include <QProcess>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
@@ -41,19 +39,6 @@ class FileManager : public QObject, protected QDBusContext {
   }
 };
 
-/// Takes what would go to the desktop.
-class Desktop : public QObject {
-  Q_OBJECT
-
- public:
-  Desktop() { QDesktopServices::setUrlHandler(u"file"_s, this, "open"); }
-  ~Desktop() override { QDesktopServices::unsetUrlHandler(u"file"_s); }
-  QStringList opened;
-
- public slots:
-  void open(const QUrl& url) { opened.append(url.toLocalFile()); }
-};
-
 /// The program's connection to the bus lasts as long as the process, so the cases without one come first.
 class TestLaunch : public QObject {
   Q_OBJECT
@@ -65,11 +50,7 @@ class TestLaunch : public QObject {
     m_package = m_home.file(u"down loads/tarnwick.deb"_s);
   }
 
-  void cleanupTestCase() {
-    QDBusConnection::disconnectFromBus(u"stand-in"_s);
-    m_bus.kill();
-    m_bus.waitForFinished();
-  }
+  void cleanupTestCase() { QDBusConnection::disconnectFromBus(u"stand-in"_s); }
 
   void whatIsNotThereIsSaid() {
     Desktop desktop;
@@ -111,16 +92,8 @@ class TestLaunch : public QObject {
   static inline const QString kFailure = u"Could not open the update."_s;
 
   bool startBus() {
-    QFile config(m_home.file(u"bus.conf"_s, 0));
-    if (!config.open(QIODevice::WriteOnly)) return false;
-    config.write("<busconfig><type>session</type><listen>unix:dir=" + m_home.folder(u"bus"_s).toUtf8() +
-                 "</listen><policy context='default'><allow send_destination='*'/><allow receive_sender='*'/>"
-                 "<allow own='*'/></policy></busconfig>");
-    config.close();
-    m_bus.setChildProcessModifier([] { child::dieWithParent(); });
-    m_bus.start(u"dbus-daemon"_s, {u"--config-file="_s + config.fileName(), u"--nofork"_s, u"--print-address=1"_s});
-    if (!m_bus.waitForReadyRead()) return false;
-    const QString address = QString::fromUtf8(m_bus.readLine()).trimmed();
+    if (!servers::startEmptyBus(&m_bus, m_home)) return false;
+    const QString address = m_bus.answer();
     qputenv("DBUS_SESSION_BUS_ADDRESS", address.toUtf8());
     QDBusConnection bus = QDBusConnection::connectToBus(address, u"stand-in"_s);
     return bus.registerObject(u"/org/freedesktop/FileManager1"_s, &m_manager, QDBusConnection::ExportAllSlots) &&
@@ -129,7 +102,7 @@ class TestLaunch : public QObject {
 
   FixtureHome m_home;
   QString m_package;
-  QProcess m_bus;
+  servers::Server m_bus;
   FileManager m_manager;
 };
 
