@@ -66,7 +66,7 @@
     </message>
     <message>
         <source>App caches</source>
-        <translation>アプリのキャッシュ</translation>
+        <translation>アプリキャッシュ</translation>
     </message>
     <message>
         <source>Data apps keep to load faster. Apps rebuild these automatically the next time they need them.</source>
@@ -74,7 +74,7 @@
     </message>
     <message>
         <source>Browser caches</source>
-        <translation>ブラウザのキャッシュ</translation>
+        <translation>ブラウザキャッシュ</translation>
     </message>
     <message>
         <source>Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched.</source>
@@ -114,11 +114,11 @@
     </message>
     <message>
         <source>QuickLook cache</source>
-        <translation>クイックルックのキャッシュ</translation>
+        <translation>クイックルックキャッシュ</translation>
     </message>
     <message>
         <source>Thumbnail cache</source>
-        <translation>サムネイルのキャッシュ</translation>
+        <translation>サムネイルキャッシュ</translation>
     </message>
     <message>
         <source>Disk images and installer packages in your Downloads folder. Review in case you still need an installer.</source>
@@ -149,11 +149,11 @@
     </message>
     <message>
         <source>QuickLook thumbnails</source>
-        <translation>クイックルックのサムネイル</translation>
+        <translation>クイックルックサムネイル</translation>
     </message>
     <message>
         <source>Simulator caches</source>
-        <translation>シミュレータのキャッシュ</translation>
+        <translation>シミュレータキャッシュ</translation>
     </message>
 </context>
 <context>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>Measures what makes up the system&apos;s share of the disk, and changes nothing.</source>
-        <translation>ディスクのうちシステムが占める内訳を計測します。何も変更しません。</translation>
+        <translation>ディスク上でシステムが占める容量の内訳を計測します。何も変更しません。</translation>
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
@@ -489,7 +489,7 @@
     </message>
     <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
-        <translation>何にも触れず、削除されるものと残るもの、その理由を一覧表示します</translation>
+        <translation>何にも触れず、クリーンアップされるものと残るものを理由とともに一覧表示します</translation>
     </message>
     <message>
         <source>don&apos;t ask</source>
@@ -1025,7 +1025,7 @@
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
         <extracomment>%2, %3: sizes; %4: how many files are listed, which the forms count; leave the tag as it is</extracomment>
         <translation>
-            <numerusform>%3中&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt;を選択中 · %4個のファイル</numerusform>
+            <numerusform>%3のうち&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt;を選択中 · %4個のファイル</numerusform>
         </translation>
     </message>
     <message>
@@ -1299,7 +1299,7 @@
     <message>
         <source>%1 of it will stay: there is no %2 on its volume.</source>
         <extracomment>%1: a size; %2: the Trash</extracomment>
-        <translation>うち%1は、そのボリュームに%2がないため残ります。</translation>
+        <translation>うち%1は、保存先のボリュームに%2がないため残ります。</translation>
     </message>
     <message>
         <source>%1 of it will stay while these apps are open: %2.</source>
@@ -1322,7 +1322,7 @@
     <message>
         <source>Version %1 is available. You have %2.</source>
         <extracomment>%1, %2: versions such as “1.2.0”</extracomment>
-        <translation>バージョン%1を入手できます。現在のバージョンは%2です。</translation>
+        <translation>バージョン%1を利用できます。現在のバージョンは%2です。</translation>
     </message>
     <message>
         <source>An update is available</source>
@@ -1787,7 +1787,7 @@
     </message>
     <message>
         <source>Tarnwick restarts to switch languages.</source>
-        <translation>言語を切り替えるにはTarnwickを再起動します。</translation>
+        <translation>言語の切り替えにはTarnwickの再起動が必要です。</translation>
     </message>
     <message>
         <source>Protected system locations</source>
@@ -2008,7 +2008,7 @@
         <source>Removed %1 of %2 snapshots</source>
         <extracomment>The forms count %2, how many there were</extracomment>
         <translation>
-            <numerusform>%2個のスナップショットのうち%1個を削除しました</numerusform>
+            <numerusform>スナップショット%2個中%1個を削除しました</numerusform>
         </translation>
     </message>
     <message>
@@ -2036,7 +2036,7 @@
     </message>
     <message>
         <source>Your app caches</source>
-        <translation>アプリのキャッシュ</translation>
+        <translation>アプリキャッシュ</translation>
     </message>
     <message>
         <source>Caches that apps keep in your cache folder. The safe ones can be cleaned from Cleanup.</source>

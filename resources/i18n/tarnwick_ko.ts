@@ -1787,7 +1787,7 @@
     </message>
     <message>
         <source>Tarnwick restarts to switch languages.</source>
-        <translation>언어를 바꾸려면 Tarnwick이 다시 시작됩니다.</translation>
+        <translation>언어를 바꾸려면 Tarnwick을 다시 시작해야 합니다.</translation>
     </message>
     <message>
         <source>Protected system locations</source>
@@ -2060,7 +2060,7 @@
     </message>
     <message>
         <source>Your Flatpak apps and runtimes</source>
-        <translation>사용자의 Flatpak 앱 및 런타임</translation>
+        <translation>내 Flatpak 앱 및 런타임</translation>
     </message>
     <message>
         <source>Apps that Flatpak installed for you alone, and the runtimes that they need. “flatpak uninstall --user --unused” removes runtimes that no app needs any more.</source>
