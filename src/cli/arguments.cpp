@@ -99,9 +99,10 @@ const VerbRow* findVerb(const QString& name) {
   return found == kVerbs.end() ? nullptr : &*found;
 }
 
-/// A line of help: the left part, then the text from @p indent on.
+/// A line of help: the left part, then the text from the column @p indent on.
 QString helpLine(const QString& left, const QString& text, int indent = kHelpColumn) {
-  return left.leftJustified(indent) + u' ' + terminal::wrapped(text, kHelpWidth, indent + 1, indent + 1) + u'\n';
+  return left + QString(std::max(0, indent - terminal::columns(left)), u' ') + u' ' +
+         terminal::wrapped(text, kHelpWidth, indent + 1, indent + 1) + u'\n';
 }
 
 QString commonHelp() {
@@ -120,8 +121,8 @@ QString generalHelp() {
 
 QString helpOf(const VerbRow& verb, const QStringList& categoryIds) {
   const QString head = Words::tr("Usage: %1").arg(kProgram + u' ' + QLatin1String(verb.name));
-  QString text = helpLine(head, QLatin1String(verb.usage), static_cast<int>(head.size())) + u'\n' +
-                 Words::tr(verb.summary) + u"\n\n"_s + Words::tr("Options:") + u'\n';
+  QString text = helpLine(head, QLatin1String(verb.usage), terminal::columns(head)) + u'\n' + Words::tr(verb.summary) +
+                 u"\n\n"_s + Words::tr("Options:") + u'\n';
   for (const OptionRow& row : kOptions) {
     if (!(row.takers & takerOf(verb.verb))) continue;
     const QString value = row.value ? u' ' + QLatin1String(row.value) : QString();

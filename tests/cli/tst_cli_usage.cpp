@@ -1,8 +1,11 @@
 // What the program makes of its arguments: help, version, and words for every mistake.
+#include "cli/terminal.h"
 #include "core/runlock.h"
 #include "support/CliTest.h"
+#include "ui/i18n.h"
 
 #include <QFile>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <cerrno>
@@ -29,6 +32,8 @@ class tst_cli_usage : public CliTest {
   void version();
   void help_data();
   void help();
+  void helpInEachLanguage_data();
+  void helpInEachLanguage();
   void noVerb();
   void mistakes_data();
   void mistakes();
@@ -88,6 +93,26 @@ void tst_cli_usage::help() {
   for (const QString& word : mentions) QVERIFY2(run.out.contains(word.toUtf8()), qPrintable(word));
   for (const QString& word : hides) QVERIFY2(!run.out.contains(word.toUtf8()), qPrintable(word));
   for (const QByteArray& line : run.out.split('\n')) QVERIFY2(line.size() <= 80, line.constData());
+}
+
+void tst_cli_usage::helpInEachLanguage_data() {
+  QTest::addColumn<QString>("language");
+  for (const i18n::Language& one : i18n::languages()) QTest::newRow(qPrintable(one.code)) << one.code;
+}
+
+// The forms of the command line go on below where they begin, and no line is too wide.
+void tst_cli_usage::helpInEachLanguage() {
+  QFETCH(QString, language);
+  qputenv("TARNWICK_LANG", language.toLatin1());
+  const auto back = qScopeGuard([] { qputenv("TARNWICK_LANG", "en"); });
+  const CliRun run = runCli({u"clean"_s, u"--help"_s});
+  QCOMPARE(run.code, 0);
+  QCOMPARE(run.err, QByteArray());
+  const QStringList lines = QString::fromUtf8(run.out).split(u'\n');
+  const auto begin = [](const QString& line) { return cli::terminal::columns(line.left(line.indexOf(u'['))); };
+  QVERIFY2(lines.value(1).trimmed().startsWith(u'['), run.out.constData());
+  QCOMPARE(begin(lines.at(1)), begin(lines.at(0)));
+  for (const QString& line : lines) QVERIFY2(cli::terminal::columns(line) <= 80, qPrintable(line));
 }
 
 void tst_cli_usage::noVerb() {

@@ -119,7 +119,10 @@ formatting() {
 
 house_rules() {
   local name status=0
-  for name in colours layers removal systems shape; do python3 "tests/lint/$name.py" "$root" || status=1; done
+  for name in catalogues colours layers removal shape systems untranslated; do
+    python3 "tests/lint/$name.py" "$root" || status=1
+  done
+  tools/dev/translations --check || [[ $? == 77 ]] || status=1 # 77: without lupdate there is nothing to say
   return $status
 }
 
