@@ -342,7 +342,7 @@ void tst_cli_terminal::widths() {
 void tst_cli_terminal::columnsLineUp_data() {
   QTest::addColumn<QStringList>("arguments");
   QTest::addColumn<int>("columns");
-  for (const char* language : {"en", "zh_CN", "zh_TW"})
+  for (const char* language : {"en", "zh_CN", "zh_TW", "ja", "ko"})
     for (const int columns : {70, 120}) {
       QTest::addRow("%s scan in %d", language, columns) << QStringList{u"scan"_s} << columns;
       QTest::addRow("%s clean in %d", language, columns) << QStringList{u"clean"_s, u"--yes"_s} << columns;

@@ -23,9 +23,6 @@ FIRST_IS_ONE = {"en", "es", "de"}
 # Where nothing stands between words, a blank at the edge of a text may go with the mark that it stood beside.
 WITHOUT_BLANKS = {"zh_CN", "zh_TW", "ja"}
 
-# Being translated: what they leave unfinished isn't told yet.
-UNDER_WORK = {"ja", "ko"}
-
 # What ends a text, and what may stand for it in another language.
 ENDINGS = {"…": "", ".": "。", ":": "：", "?": "？", "!": "！"}
 ENDS = re.compile(r"[.…:?!。：？！]$")
@@ -121,8 +118,7 @@ def wrong_ending(code: str, source: str, form: str) -> Iterator[str]:
 
 def wrong_entry(code: str, entry: Entry) -> Iterator[str]:
     if entry.state:
-        if entry.state != "unfinished" or code not in UNDER_WORK:
-            yield f"is {entry.state}"
+        yield f"is {entry.state}"
         return
     if entry.counts and len(entry.forms) != FORMS[code]:
         yield f"has {len(entry.forms)} forms for {FORMS[code]}"

@@ -269,6 +269,8 @@ void tst_i18n::figuresInEachLanguage_data() {
   row("en", u"1,234,567", u"1.5 GB", u"2 KB", u"today, 3 days ago");
   row("zh_CN", u"1,234,567", u"1.5 GB", u"2 KB", u"今天, 3 天前");
   row("zh_TW", u"1,234,567", u"1.5 GB", u"2 KB", u"今天, 3 天前");
+  row("ja", u"1,234,567", u"1.5 GB", u"2 KB", u"今日, 3日前");
+  row("ko", u"1,234,567", u"1.5 GB", u"2 KB", u"오늘, 3일 전");
   row("es", u"1.234.567", u"1,5 GB", u"2 KB", u"hoy, hace 3 días");
   row("fr", u"1 234 567", u"1,5 Go", u"2 Ko", u"aujourd’hui, il y a 3 jours");
   row("de", u"1.234.567", u"1,5 GB", u"2 KB", u"heute, vor 3 Tagen");
