@@ -82,7 +82,7 @@
     </message>
     <message>
         <source>Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched.</source>
-        <translation>Zwischengespeicherte Bilder, Skripte und Seiten. Anmeldungen, Verlauf, Lesezeichen und Passwörter bleiben immer unangetastet.</translation>
+        <translation>Zwischengespeicherte Bilder, Skripte und Seiten. Anmeldungen, Verlauf, Lesezeichen und Passwörter werden nie angetastet.</translation>
     </message>
     <message>
         <source>Logs &amp; crash reports</source>
@@ -90,7 +90,7 @@
     </message>
     <message>
         <source>Diagnostic logs and crash reports. Useful only when troubleshooting a recent problem.</source>
-        <translation>Diagnoseprotokolle und Absturzberichte. Nützlich nur bei der Suche nach der Ursache eines aktuellen Problems.</translation>
+        <translation>Diagnoseprotokolle und Absturzberichte. Nur nützlich, um ein kürzlich aufgetretenes Problem zu untersuchen.</translation>
     </message>
     <message>
         <source>Preview images of your files. They are regenerated the next time you open a folder.</source>
@@ -185,7 +185,7 @@
     <message>
         <source>SAFE TO CLEAN</source>
         <extracomment>Heading over some categories, always in capitals</extracomment>
-        <translation>Sicher zu bereinigen</translation>
+        <translation>Gefahrlos bereinigbar</translation>
     </message>
     <message>
         <source>REVIEW BEFORE CLEANING</source>
@@ -223,7 +223,7 @@
     </message>
     <message>
         <source>Largest items</source>
-        <translation>Top-Objekte</translation>
+        <translation>GRÖSSTE OBJEKTE</translation>
     </message>
     <message>
         <source>Show in %1</source>
@@ -260,7 +260,7 @@
     </message>
     <message>
         <source>&lt;b&gt;Left caches of running apps alone:&lt;/b&gt; %1. Quit them and clean again to include them.</source>
-        <translation>&lt;b&gt;Caches laufender Apps blieben unangetastet:&lt;/b&gt; %1. Beenden Sie diese Apps und bereinigen Sie erneut, um sie einzubeziehen.</translation>
+        <translation>&lt;b&gt;Caches laufender Apps blieben unangetastet:&lt;/b&gt; %1. Beenden Sie diese Apps und bereinigen Sie erneut, um die Caches einzubeziehen.</translation>
     </message>
     <message>
         <source>Cleanup complete</source>
@@ -278,7 +278,7 @@
     </message>
     <message>
         <source>View log</source>
-        <translation>Protokoll zeigen</translation>
+        <translation>Protokoll anzeigen</translation>
     </message>
     <message>
         <source>Done</source>
@@ -287,7 +287,7 @@
     </message>
     <message>
         <source>Moved to the %1. You can still restore anything.</source>
-        <translation>In den %1 gelegt. Sie können alles noch wiederherstellen.</translation>
+        <translation>In den %1 gelegt. Sie können noch alles wiederherstellen.</translation>
     </message>
     <message>
         <source>Items were deleted permanently.</source>
@@ -403,12 +403,12 @@
     <message>
         <source>moved to the %1</source>
         <extracomment>What will become of the selected files, as the tip of the button that cleans them; %1: the Trash</extracomment>
-        <translation>in den %1 legen</translation>
+        <translation>wird in den %1 gelegt</translation>
     </message>
     <message>
         <source>deleted permanently</source>
         <extracomment>What will become of the selected files, as the tip of the button that cleans them</extracomment>
-        <translation>dauerhaft löschen</translation>
+        <translation>wird dauerhaft gelöscht</translation>
     </message>
     <message>
         <source>Clean %1</source>
@@ -454,7 +454,7 @@
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation>Kein Festplattenvollzugriff</translation>
+        <translation>Festplattenvollzugriff nötig</translation>
     </message>
     <message>
         <source>No permission to read</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>look for files that take at least so many megabytes on the disk, whatever the settings say</source>
-        <translation>nach Dateien suchen, die mindestens so viele Megabyte belegen, unabhängig von den Einstellungen</translation>
+        <translation>nach Dateien suchen, die auf dem Laufwerk mindestens so viele Megabyte belegen, unabhängig von den Einstellungen</translation>
     </message>
     <message>
         <source>one JSON object on standard output</source>
@@ -563,7 +563,7 @@
     <message>
         <source>&quot;%1&quot; takes no --%2</source>
         <extracomment>%1: a command; %2: an option</extracomment>
-        <translation>„%1“ kennt kein --%2</translation>
+        <translation>„%1“ kennt die Option --%2 nicht</translation>
     </message>
     <message>
         <source>--delete and --trash exclude each other</source>
@@ -717,7 +717,7 @@
     <message>
         <source>%1 of it is safe to clean: tarnwick-cli clean</source>
         <extracomment>%1: a size; the command stays as it is</extracomment>
-        <translation>%1 davon sind sicher zu bereinigen: tarnwick-cli clean</translation>
+        <translation>%1 davon lassen sich gefahrlos bereinigen: tarnwick-cli clean</translation>
     </message>
     <message>
         <source>%1 is running, so %2 of its data will stay.</source>
@@ -844,7 +844,7 @@
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation>Kein Festplattenvollzugriff</translation>
+        <translation>Festplattenvollzugriff nötig</translation>
     </message>
     <message>
         <source>No permission to read</source>
@@ -985,7 +985,7 @@
     </message>
     <message>
         <source>Big files in your home folder. You decide what goes.</source>
-        <translation>Große Dateien in Ihrem Benutzerordner. Sie entscheiden, was gelöscht wird.</translation>
+        <translation>Große Dateien in Ihrem Benutzerordner. Sie entscheiden, was entfernt wird.</translation>
     </message>
     <message>
         <source>Find large files</source>
@@ -1056,7 +1056,7 @@
     <message>
         <source>Largest so far</source>
         <extracomment>Heading of a list while the search runs</extracomment>
-        <translation>Top-Dateien bisher</translation>
+        <translation>BISHER GRÖSSTE DATEIEN</translation>
     </message>
     <message>
         <source>Sort by</source>
@@ -1089,7 +1089,7 @@
     <message>
         <source>%1 is almost full. Run Smart Scan to free up space.</source>
         <extracomment>%1: the disk, such as “System disk”</extracomment>
-        <translation>%1 ist fast voll. Mit Smart Scan geben Sie Speicherplatz frei.</translation>
+        <translation>%1 ist fast voll. Starten Sie Smart Scan, um Speicherplatz freizugeben.</translation>
     </message>
 </context>
 <context>
@@ -1371,7 +1371,7 @@
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation>Suche nach Updates fehlgeschlagen</translation>
+        <translation>Update-Suche fehlgeschlagen</translation>
     </message>
     <message>
         <source>Check your internet connection and try again.</source>
@@ -1392,7 +1392,7 @@
     <message>
         <source>Retry</source>
         <extracomment>Button: look for updates again</extracomment>
-        <translation>Wiederholen</translation>
+        <translation>Erneut versuchen</translation>
     </message>
     <message>
         <source>Update now</source>
@@ -1703,7 +1703,7 @@
     </message>
     <message>
         <source>Scans when Tarnwick starts if the last scan is older than this. Never cleans on its own.</source>
-        <translation>Scannt beim Start von Tarnwick, wenn der letzte Scan länger zurückliegt. Bereinigt nie von selbst.</translation>
+        <translation>Scannt beim Start von Tarnwick, wenn der letzte Scan länger als hier gewählt zurückliegt. Bereinigt nie von selbst.</translation>
     </message>
     <message>
         <source>Off</source>
@@ -1955,7 +1955,7 @@
     </message>
     <message>
         <source>Show in Files</source>
-        <translation>Ordner öffnen</translation>
+        <translation>Im Ordner zeigen</translation>
     </message>
     <message>
         <source>Move to Trash</source>
@@ -2018,7 +2018,7 @@
     </message>
     <message>
         <source>There are no local snapshots to remove</source>
-        <translation>Es sind keine lokalen Snapshots vorhanden</translation>
+        <translation>Es sind keine lokalen Snapshots zum Entfernen vorhanden</translation>
     </message>
     <message>
         <source>Snapshots were not removed</source>
@@ -2206,7 +2206,7 @@
     </message>
     <message>
         <source>Hourly snapshots macOS keeps on this disk until Time Machine can reach its backup drive. macOS frees them when space runs low; removing them now is safe, but you lose those restore points.</source>
-        <translation>Stündliche Snapshots, die macOS auf diesem Laufwerk aufbewahrt, bis Time Machine das Backup-Volume erreicht. Bei Platzmangel gibt macOS sie frei; Sie können sie gefahrlos schon jetzt entfernen, verlieren aber diese Wiederherstellungspunkte.</translation>
+        <translation>Stündliche Snapshots, die macOS auf diesem Laufwerk aufbewahrt, bis Time Machine das Backup-Laufwerk erreicht. Bei Platzmangel gibt macOS sie frei; Sie können sie gefahrlos schon jetzt entfernen, verlieren aber diese Wiederherstellungspunkte.</translation>
     </message>
     <message>
         <source>iPhone &amp; iPad backups</source>
@@ -2222,7 +2222,7 @@
     </message>
     <message>
         <source>Debug symbols Xcode copies from every iOS, watchOS and tvOS version you&apos;ve connected. Xcode copies them again the next time you connect that device.</source>
-        <translation>Debug-Symbole, die Xcode von jeder verbundenen iOS-, watchOS- und tvOS-Version kopiert. Xcode kopiert sie erneut, wenn Sie das Gerät wieder verbinden.</translation>
+        <translation>Debug-Symbole, die Xcode von jeder iOS-, watchOS- und tvOS-Version der Geräte kopiert, die Sie verbunden haben. Xcode kopiert sie erneut, wenn Sie das Gerät wieder verbinden.</translation>
     </message>
     <message>
         <source>iOS Simulator devices</source>
@@ -2230,7 +2230,7 @@
     </message>
     <message>
         <source>Simulator devices and their app data. Removing unavailable devices (for runtimes you no longer have) is safe.</source>
-        <translation>Simulatorgeräte und ihre App-Daten. Nicht verfügbare Geräte (deren Laufzeitumgebung fehlt) können gefahrlos entfernt werden.</translation>
+        <translation>Simulatorgeräte und ihre App-Daten. Nicht verfügbare Geräte (deren Laufzeitumgebung nicht mehr vorhanden ist) können gefahrlos entfernt werden.</translation>
     </message>
     <message>
         <source>Simulator runtimes &amp; caches</source>
@@ -2254,7 +2254,7 @@
     </message>
     <message>
         <source>Builds you archived for distribution. Keep the ones you may need to symbolicate crash reports for.</source>
-        <translation>Builds, die Sie für die Verteilung archiviert haben. Behalten Sie solche, die Sie noch zum Symbolisieren von Absturzberichten brauchen.</translation>
+        <translation>Builds, die Sie für die Verteilung archiviert haben. Behalten Sie solche, die Sie vielleicht noch zum Symbolisieren von Absturzberichten brauchen.</translation>
     </message>
     <message>
         <source>Docker disk image</source>
@@ -2404,7 +2404,7 @@
     </message>
     <message>
         <source>Updating…</source>
-        <translation>Aktualisieren&#xa0;…</translation>
+        <translation>Wird aktualisiert&#xa0;…</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -2439,7 +2439,7 @@
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation>Kein Festplattenvollzugriff</translation>
+        <translation>Festplattenvollzugriff nötig</translation>
     </message>
     <message>
         <source>No permission to read</source>
