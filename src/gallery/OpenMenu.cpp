@@ -5,12 +5,14 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMenu>
+#include <QScreen>
 
 namespace gallery {
 
 namespace {
 
-constexpr int kEdgeAt = 440; // x of the window's right edge on the screen, which leaves room for the menus; pixels
+// How far the edge beside which the menus open lies from the other side of the screen, which leaves them room; pixels.
+constexpr int kEdgeAt = 440;
 
 } // namespace
 
@@ -21,7 +23,8 @@ OpenMenu::OpenMenu(ui::MainWindow* window) : QObject(window), m_window(window) {
 
 void OpenMenu::open() {
   while (QWidget* popup = QApplication::activePopupWidget()) popup->close(); // the submenu, then the menu
-  m_window->move(kEdgeAt - m_window->width(), 0);
+  const bool isMirrored = m_window->layoutDirection() == Qt::RightToLeft;
+  m_window->move(isMirrored ? m_window->screen()->geometry().width() - kEdgeAt : kEdgeAt - m_window->width(), 0);
   m_window->findChild<ui::TitleBar*>()->requestMenu();
   auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
   for (QAction* action : menu->actions())

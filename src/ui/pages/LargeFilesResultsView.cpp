@@ -95,6 +95,8 @@ QWidget* LargeFilesResultsView::buildBar() {
   m_search->setClearButtonEnabled(true);
   m_search->setFixedWidth(kSearchWidth);
   m_search->setTextMargins(paint::mirrored(QMargins(kSearchTextStart, 0, 0, 0), layoutDirection()));
+  // By itself, the field puts a text to the side where the text itself begins.
+  if (layoutDirection() == Qt::RightToLeft) m_search->setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
   auto* bar = new QWidget;
   QHBoxLayout* row = hbox(kBarSpacing);
   bar->setLayout(row);

@@ -53,7 +53,8 @@ class MainWindow : public QWidget {
 
   /// Does what the command says; nothing while a dialog is up that it would act behind.
   void perform(commands::Id command);
-  /// The menu of the title bar, with its card at @p pos, in global coordinates.
+  /// The menu of the title bar, with the upper corner of its card where a layout begins at @p pos, in global
+  /// coordinates.
   void showAppMenu(const QPoint& pos);
   /// The user's wish. Nothing in a build that doesn't update itself.
   void checkForUpdates();

@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QMenuBar>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -129,7 +130,8 @@ void MainWindow::showAppMenu(const QPoint& pos) {
       menu->setTrailingText(give(menu->addItem(row.icon, MenuBarWords::tr(row.text)), row.command), row.trailing);
   }
   connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
-  menu->popup(pos - kCardShift);
+  const int beyond = layoutDirection() == Qt::RightToLeft ? menu->sizeHint().width() - 2 * kCardShift.x() : 0;
+  menu->popup(pos - kCardShift - QPoint(beyond, 0));
 }
 
 // Lets @p action give a command, if it can be given now.
@@ -147,7 +149,8 @@ void MainWindow::fillHelp(AppMenu* menu) {
 }
 
 void MainWindow::openMenuByKey() {
-  m_titleBar ? m_titleBar->requestMenu() : showAppMenu(m_central->mapToGlobal(QPoint()));
+  m_titleBar ? m_titleBar->requestMenu()
+             : showAppMenu(m_central->mapToGlobal(QStyle::visualPos(layoutDirection(), m_central->rect(), QPoint())));
   auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
   if (!menu) return;
   for (QAction* action : menu->actions())

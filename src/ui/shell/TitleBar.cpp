@@ -55,7 +55,10 @@ TitleBar::TitleBar(QWidget* window, QWidget* parent) : QWidget(parent), m_window
   connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
 }
 
-void TitleBar::requestMenu() { emit menuRequested(m_menu->mapToGlobal(QPoint(0, m_menu->height()))); }
+void TitleBar::requestMenu() {
+  const int corner = layoutDirection() == Qt::RightToLeft ? m_menu->width() : 0;
+  emit menuRequested(m_menu->mapToGlobal(QPoint(corner, m_menu->height())));
+}
 
 CaptionButton* TitleBar::addButton(int kind, const QString& name) {
   auto* button = new CaptionButton(CaptionButton::Kind(kind));

@@ -23,7 +23,7 @@ class TitleBar : public QWidget {
   void requestMenu();
 
  signals:
-  /// The menu is wanted. @p globalPos  the lower left corner of its button
+  /// The menu is wanted. @p globalPos  the lower corner of its button where its layout begins
   void menuRequested(const QPoint& globalPos);
 
  protected:

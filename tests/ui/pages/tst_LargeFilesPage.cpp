@@ -73,6 +73,7 @@ class TestLargeFilesPage : public FlowTest {
   void searchAgainBeginsAnew();
   void cancelledFirstSearch();
   void cancelledLaterSearch();
+  void searchFieldMirrored();
   void resultsView();
   void listIsSetUp();
   void searchBox();
@@ -421,6 +422,17 @@ void TestLargeFilesPage::cancelledLaterSearch() {
 }
 
 // The results
+
+// What is written begins beside the icon, which is at the right then, and as near to it.
+void TestLargeFilesPage::searchFieldMirrored() {
+  QCOMPARE(search()->textMargins(), QMargins(-7, 0, 0, 0));
+  const pixels::Mirrored mirrored;
+  const ui::LargeFilesPage page(m_state.get());
+  const auto* field = page.findChild<QLineEdit*>();
+  QCOMPARE(field->textMargins(), QMargins(0, 0, -7, 0));
+  QCOMPARE(QStyle::visualAlignment(Qt::LeftToRight, field->alignment()) & Qt::AlignRight, Qt::AlignRight);
+  QCOMPARE(QStyle::visualAlignment(Qt::RightToLeft, field->alignment()) & Qt::AlignRight, Qt::AlignRight);
+}
 
 void TestLargeFilesPage::resultsView() {
   putFound({file(u"a"_s, 200)});

@@ -94,6 +94,7 @@ class TestMenus : public QObject {
   void pagesRestUnderADialog();
   void windowKeysWorkUnderADialog();
   void appMenuRows();
+  void appMenuMirrored();
   void appMenuEntriesAct();
   void appMenuUnderADialog();
   void appMenuByKey();
@@ -522,6 +523,17 @@ void TestMenus::appMenuRows() {
   QPointer<AppMenu> gone = openMenu();
   gone->close();
   QTRY_VERIFY(!gone);
+}
+
+// The other upper corner of its card stands there.
+void TestMenus::appMenuMirrored() {
+  const pixels::Mirrored mirrored;
+  m_window->move(0, 0);
+  m_window->showAppMenu(QPoint(500, 60));
+  const AppMenu* menu = openMenu();
+  QVERIFY(menu);
+  QCOMPARE(menu->geometry().right() + 1 - 14, 500);
+  QCOMPARE(menu->y() + 10, 60);
 }
 
 /// Opens the menu and takes one entry after another, as the keyboard does.

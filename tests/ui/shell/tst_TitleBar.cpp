@@ -8,6 +8,7 @@
 #include "ui/shell/frame.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QSignalSpy>
 #include <QVBoxLayout>
 
@@ -26,6 +27,7 @@ class TestTitleBar : public QObject {
   void logoPlace();
   void buttonsWork();
   void menuTellsItsPlace();
+  void menuTellsItsPlaceMirrored();
   void menuCanBeAskedFor();
   void glyphFollowsTheWindow();
   void doubleClickZooms();
@@ -102,6 +104,14 @@ void TestTitleBar::menuTellsItsPlace() {
   button(CaptionButton::Menu)->click();
   QCOMPARE(asked.count(), 1);
   QCOMPARE(asked[0][0].toPoint(), m_bar->mapToGlobal(QPoint(700 - 4 * 46, 40)));
+}
+
+void TestTitleBar::menuTellsItsPlaceMirrored() {
+  m_bar->setLayoutDirection(Qt::RightToLeft);
+  m_bar->layout()->activate();
+  QSignalSpy asked(m_bar, &TitleBar::menuRequested);
+  m_bar->requestMenu();
+  QCOMPARE(asked[0][0].toPoint(), m_bar->mapToGlobal(QPoint(4 * 46, 40)));
 }
 
 void TestTitleBar::menuCanBeAskedFor() {
