@@ -149,6 +149,10 @@ def same_languages(codes: list[str], root: pathlib.Path) -> Iterator[lintlib.Fin
     for code in sorted(there.symmetric_difference(codes)):
         what = "is for no language of src/ui/i18n.cpp" if code in there else "is missing"
         yield lintlib.Finding(f"{FOLDER}/tarnwick_{code}.ts", 1, what)
+    for code in codes:
+        glossary = f"{FOLDER}/glossary/{code}.md"
+        if code != "en" and not (root / glossary).exists():
+            yield lintlib.Finding(glossary, 1, "is missing: the terms of the language")
     for code in sorted(set(codes).symmetric_difference(FORMS)):
         yield lintlib.Finding("tests/lint/catalogues.py", 1, f"knows not how {code} counts, or knows it for nothing")
 

@@ -346,6 +346,7 @@ class Catalogues(LintCase):
         self.build(self.CODES)
         for code in self.CODES:
             self.say(code)
+            self.write(f"resources/i18n/glossary/{code}.md", "terms")
 
     def know(self, codes: list[str]):
         self.write("src/ui/i18n.cpp", "".join(f'{{u"{code}"_s, u"Name"_s}}, ' for code in codes))
@@ -388,11 +389,15 @@ class Catalogues(LintCase):
         self.say("ko", language="ja")
         (self.root / "resources/i18n/tarnwick_nl.ts").unlink()
         self.assert_found("resources/i18n/tarnwick_ko.ts:1")
+        self.say("ko")
+        (self.root / "resources/i18n/glossary/ko.md").unlink()
+        self.assert_found("resources/i18n/glossary/ko.md:1")
 
     def test_a_language_whose_forms_are_not_known_is_found(self):
         self.know([*self.CODES, "nl"])
         self.build([*self.CODES, "nl"])
         self.say("nl")
+        self.write("resources/i18n/glossary/nl.md", "terms")
         self.assert_found("tests/lint/catalogues.py:1")
 
     def test_places_in_the_sources_are_found(self):

@@ -5,6 +5,7 @@ the window in its menu with its icon."""
 import configparser
 import os
 import pathlib
+import re
 import shutil
 import struct
 import subprocess
@@ -29,6 +30,9 @@ DESKTOP = {
     "share/icons/hicolor/scalable/apps/tarnwick.svg",
     *(f"share/icons/hicolor/{side}x{side}/apps/tarnwick.png" for side in SIDES),
 }
+LANGUAGES = re.findall(
+    r'\{u"(\w+)"_s,\s*u"[^"]+"_s\}', (demo.SOURCE / "src/ui/i18n.cpp").read_text(encoding="utf-8")
+)
 
 
 def png_size(path: pathlib.Path) -> tuple[int, int]:
@@ -92,6 +96,18 @@ class Install(unittest.TestCase):
         categories = entry["Categories"].rstrip(";").split(";")
         self.assertEqual(len(MAIN_CATEGORIES.intersection(categories)), 1)
         self.assertFalse(entry["Comment"].endswith("."))
+
+    def test_the_entry_speaks_every_language_of_the_program(self):
+        entry = self.entry()
+        for code in LANGUAGES:
+            if code == "en":
+                continue
+            for key in ("GenericName", "Comment", "Keywords"):
+                text = entry[f"{key}[{code}]"]
+                self.assertNotEqual(text, entry[key])
+                self.assertEqual(text.endswith(";"), key == "Keywords", f"{key}[{code}]")
+                self.assertFalse(text.endswith((".", "。")), f"{key}[{code}]")
+        self.assertEqual(sum(key.startswith("Comment[") for key in entry), len(LANGUAGES) - 1)
 
     def test_the_entry_is_valid(self):
         self.entry()

@@ -44,6 +44,11 @@ class Bundle(unittest.TestCase):
         self.assertEqual(plist["CFBundleVersion"], "1.0.0")
         self.assertEqual(plist["LSMinimumSystemVersion"], "11.0")
         self.assertIs(plist["NSHighResolutionCapable"], True)
+        # As this system names the languages of the program.
+        code = {"zh_CN": "zh-Hans", "zh_TW": "zh-Hant", "pt_BR": "pt-BR"}
+        languages = (SOURCE / "src/ui/i18n.cpp").read_text(encoding="utf-8")
+        known = re.findall(r'\{u"(\w+)"_s,\s*u"[^"]+"_s\}', languages)
+        self.assertEqual(plist["CFBundleLocalizations"], [code.get(one, one) for one in known])
 
     def test_every_value_of_the_template_is_set(self):
         """A name that nothing sets would leave an empty text."""
