@@ -70,7 +70,7 @@
     </message>
     <message>
         <source>App caches</source>
-        <translation>Caches des apps</translation>
+        <translation>Caches d’apps</translation>
     </message>
     <message>
         <source>Data apps keep to load faster. Apps rebuild these automatically the next time they need them.</source>
@@ -219,7 +219,7 @@
     </message>
     <message>
         <source>Nothing left to clean. Rescan any time.</source>
-        <translation>Il n’y a plus rien à nettoyer. Relancez l’analyse quand vous voulez.</translation>
+        <translation>Plus rien à nettoyer. Réanalysez au besoin.</translation>
     </message>
     <message>
         <source>Largest items</source>
@@ -431,7 +431,7 @@
     <message>
         <source>Items checked</source>
         <extracomment>Caption of a counter</extracomment>
-        <translation>Éléments examinés</translation>
+        <translation>Éléments vus</translation>
     </message>
     <message>
         <source>Elapsed</source>
@@ -989,7 +989,7 @@
     </message>
     <message>
         <source>Find large files</source>
-        <translation>Rechercher les gros fichiers</translation>
+        <translation>Trouver les gros fichiers</translation>
     </message>
     <message>
         <source>Home folder · over %1</source>
@@ -1120,7 +1120,7 @@
     </message>
     <message>
         <source>Find Large Files</source>
-        <translation>Rechercher les gros fichiers</translation>
+        <translation>Voir les gros fichiers</translation>
     </message>
     <message>
         <source>Close Window</source>
@@ -1451,7 +1451,7 @@
     <message>
         <source>System files protected</source>
         <extracomment>Mark with a green dot: they are never touched</extracomment>
-        <translation>Fichiers système protégés</translation>
+        <translation>Système protégé</translation>
     </message>
     <message numerus="yes">
         <source>Freed in the last %1 months</source>
@@ -1528,7 +1528,7 @@
     <message>
         <source>Freed this month</source>
         <extracomment>Caption under a size</extracomment>
-        <translation>Libéré ce mois-ci</translation>
+        <translation>Libéré ce mois</translation>
     </message>
     <message>
         <source>Top recommendations</source>
@@ -2508,7 +2508,7 @@
     </message>
     <message>
         <source>Find Large Files</source>
-        <translation>Rechercher les gros fichiers</translation>
+        <translation>Voir les gros fichiers</translation>
     </message>
     <message>
         <source>Settings</source>
