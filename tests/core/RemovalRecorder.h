@@ -1,19 +1,23 @@
-/// What a removal asked and told, for tests: verdicts by path, everything else may go.
+/// What the tests of removal share: what one asked and told, how to step in between its acts, and what lies on the
+/// disk.
 #pragma once
 
 #include "core/names.h"
 #include "core/removal.h"
 
+#include <QDir>
 #include <QFile>
 #include <QHash>
 #include <QList>
 #include <QStringList>
 
+#include <fcntl.h>
 #include <grp.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+/// Verdicts are given by path; everything else may go.
 struct RemovalRecorder {
   QHash<QString, removal::Verdict> verdicts; ///< by Node::path
   QStringList asked;
@@ -52,6 +56,28 @@ struct RemovalRecorder {
     return paths;
   }
 };
+
+/// Calls back before each act of any removal until it goes.
+struct Pause {
+  explicit Pause(std::function<void(const removal::Node&)> hook) { removal::setPauseHook(std::move(hook)); }
+  ~Pause() { removal::setPauseHook({}); }
+};
+
+/// What is to be removed, where no link leads to it.
+inline removal::Target at(const QString& path) { return {path, path}; }
+
+/// All that a folder holds, in order.
+inline QStringList namesIn(const QString& folder) {
+  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+/// Makes @p name, any bytes, a file in @p folder.
+inline void rawFile(const QString& folder, const QByteArray& name) {
+  const QByteArray raw = QFile::encodeName(folder) + '/' + name;
+  const int fd = ::open(raw.constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600);
+  if (fd < 0) qFatal("cannot make %s", raw.constData());
+  ::close(fd);
+}
 
 /// Whether something stands at @p path, a dangling link too.
 inline bool isThere(const QString& path) {

@@ -1,8 +1,8 @@
+// What a removal takes and what it leaves, asks and tells, where nobody comes between.
 #include "RemovalRecorder.h"
 #include "support/FixtureHome.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QTest>
 
 #include <fcntl.h>
@@ -19,16 +19,6 @@ using removal::Target;
 using removal::Verdict;
 
 namespace {
-
-Target at(const QString& path) { return {path, path}; }
-
-/// Makes @p name, any bytes, a file in @p folder.
-void rawFile(const QString& folder, const QByteArray& name) {
-  const QByteArray raw = QFile::encodeName(folder) + '/' + name;
-  const int fd = ::open(raw.constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600);
-  if (fd < 0) qFatal("cannot make %s", raw.constData());
-  ::close(fd);
-}
 
 /// A chain of @p depth folders with a file in the deepest; made step by step, as its path is too long for one call.
 void deepChain(const QString& top, const QByteArray& name, int depth) {
@@ -73,17 +63,10 @@ class TestRemoval : public QObject {
   void removesBeyondThePathLimit();
   void removesAWideFolderCompletely();
   void seesBothSpellings();
-  void tellsAFolderThatIsFilledMeanwhile();
-  void removesWhatComesMeanwhile();
-  void leavesAFolderThatBecameALink();
-  void neverTakesAFileForAFolder();
   void tellsUnreadableFolders();
   void tellsImmutableFiles();
   void touchesNothingInADryRun();
   void countsWhatWouldStay();
-  void retriesANode();
-  void retriesWithEveryQuestion();
-  void retryFollowsNoLink();
   void boundsItsDescriptors();
 
  private:
@@ -316,85 +299,6 @@ void TestRemoval::seesBothSpellings() {
   QVERIFY(!nodes.at(1).isDir && nodes.at(1).isText);
 }
 
-namespace {
-/// Calls back before each act until it goes.
-struct Pause {
-  explicit Pause(std::function<void(const removal::Node&)> hook) { removal::setPauseHook(std::move(hook)); }
-  ~Pause() { removal::setPauseHook({}); }
-};
-} // namespace
-
-void TestRemoval::tellsAFolderThatIsFilledMeanwhile() {
-  const QString top = m_home.folder(u"busy"_s);
-  m_home.file(u"busy/in/file"_s);
-  int count = 0;
-  const Pause pause([&](const removal::Node& node) {
-    if (node.path == top + u"/in"_s) rawFile(node.path, "new " + QByteArray::number(++count));
-  });
-  RemovalRecorder seen;
-  Remover({}, seen.handlers()).remove(at(top));
-  QVERIFY(isThere(top + u"/in"_s));
-  QCOMPARE(seen.busyPaths(), QStringList{top + u"/in"_s});
-  QVERIFY(seen.busy.first().error == ENOTEMPTY);
-  QVERIFY(count < 20);
-}
-
-void TestRemoval::removesWhatComesMeanwhile() {
-  const QString top = m_home.folder(u"coming"_s);
-  m_home.file(u"coming/in/file"_s);
-  int count = 0;
-  const Pause pause([&](const removal::Node& node) {
-    if (node.path == top + u"/in"_s && ++count == 2) m_home.file(node.path + u"/sub/late"_s);
-  });
-  RemovalRecorder seen;
-  Remover({}, seen.handlers()).remove(at(top));
-  QVERIFY(!isThere(top));
-  QVERIFY(seen.busy.isEmpty());
-  QVERIFY(seen.asked.contains(top + u"/in/sub/late"_s));
-}
-
-void TestRemoval::leavesAFolderThatBecameALink() {
-  const QString outside = m_home.file(u"outside/precious"_s);
-  const QString top = m_home.folder(u"swap"_s);
-  m_home.file(u"swap/in/file"_s);
-  const Pause pause([&](const removal::Node& node) {
-    if (node.path != top + u"/in"_s) return;
-    QDir(top).rename(u"in"_s, u"../was in"_s);
-    m_home.link(u"swap/in"_s, m_home.path(u"outside"_s));
-  });
-  RemovalRecorder seen;
-  Remover({}, seen.handlers()).remove(at(top));
-  QVERIFY(isThere(outside));
-  QCOMPARE(seen.busyPaths(), QStringList{top + u"/in"_s});
-  QVERIFY(seen.busy.first().error == ELOOP || seen.busy.first().error == ENOTDIR);
-}
-
-void TestRemoval::neverTakesAFileForAFolder() {
-  // A file that becomes a folder, even an empty one, isn't removed as a file, and the other way round.
-  const QString top = m_home.folder(u"kinds"_s);
-  const QString file = m_home.file(u"kinds/file"_s);
-  const QString folder = m_home.folder(u"kinds/folder"_s);
-  QHash<QString, int> calls;
-  const Pause pause([&](const removal::Node& node) {
-    const int call = ++calls[node.path];
-    if (node.path == file && call == 1) {
-      QFile::remove(file);
-      QDir().mkdir(file);
-    }
-    if (node.path == folder && call == 2) {
-      QDir().rmdir(folder);
-      m_home.file(folder);
-    }
-  });
-  RemovalRecorder seen;
-  Remover({}, seen.handlers()).removeChildren(at(top));
-  QVERIFY(QFileInfo(file).isDir());
-  QVERIFY(QFileInfo(folder).isFile());
-  QCOMPARE(seen.busyPaths(), (QStringList{file, folder}));
-  QCOMPARE(seen.busy.at(0).error, EISDIR);
-  QCOMPARE(seen.busy.at(1).error, ENOTDIR);
-}
-
 void TestRemoval::tellsUnreadableFolders() {
   const QString top = m_home.folder(u"shut"_s);
   m_home.file(u"shut/closed/file"_s);
@@ -486,77 +390,6 @@ void TestRemoval::countsWhatWouldStay() {
   // A second target counts the same file afresh, as measuring each item does.
   remover.remove(at(m_home.path(u"count/kept too"_s)));
   QCOMPARE(remover.wouldStay().files, 4);
-}
-
-void TestRemoval::retriesANode() {
-  const QString file = m_home.file(u"retry/a/b/file"_s);
-  const QString beside = m_home.file(u"retry/a/beside"_s);
-  RemovalRecorder seen;
-  Remover remover({}, seen.handlers());
-  removal::Stay stay{
-      {file, file, QFile::encodeName(file), false, true}, QFile::encodeName(m_home.path(u"retry"_s)), EBUSY};
-  QVERIFY(remover.retry(&stay) == Remover::Retry::Gone);
-  QVERIFY(!isThere(m_home.path(u"retry/a/b"_s)));
-  QVERIFY(isThere(beside));
-  QCOMPARE(seen.asked, (QStringList{m_home.path(u"retry/a"_s), m_home.path(u"retry/a/b"_s), file}));
-  // What a retry finds gone counts as success; the top folder always stays.
-  QFile::remove(beside);
-  stay.node = {beside, beside, QFile::encodeName(beside), false, true};
-  QVERIFY(remover.retry(&stay) == Remover::Retry::Gone);
-  QVERIFY(!isThere(m_home.path(u"retry/a"_s)));
-  QVERIFY(isThere(m_home.path(u"retry"_s)));
-  QVERIFY(remover.retry(&stay) == Remover::Retry::Gone);
-  // A folder only if it is empty.
-  const QString folder = m_home.folder(u"retry/folder"_s);
-  m_home.file(u"retry/folder/file"_s);
-  stay.node = {folder, folder, QFile::encodeName(folder), true, true};
-  QVERIFY(remover.retry(&stay) == Remover::Retry::Stayed);
-  QCOMPARE(stay.error, ENOTEMPTY);
-  QFile::remove(folder + u"/file"_s);
-  QVERIFY(remover.retry(&stay) == Remover::Retry::Gone);
-  QVERIFY(!isThere(folder));
-}
-
-void TestRemoval::retriesWithEveryQuestion() {
-  const QString file = m_home.file(u"again/a/b/file"_s);
-  const QByteArray top = QFile::encodeName(m_home.path(u"again"_s));
-  for (const QString& refused : {file, m_home.path(u"again/a/b"_s), m_home.path(u"again/a"_s)}) {
-    RemovalRecorder seen;
-    seen.verdicts.insert(refused, Verdict::KeepExcluded);
-    Remover remover({}, seen.handlers());
-    removal::Stay stay{{file, file, QFile::encodeName(file), false, true}, top, EBUSY};
-    QVERIFY(remover.retry(&stay) == Remover::Retry::Kept);
-    QCOMPARE(seen.keptPaths(), QStringList{file});
-    QVERIFY(isThere(file));
-  }
-  // What lies outside of its top, or seems to, is left alone.
-  RemovalRecorder seen;
-  Remover remover({}, seen.handlers());
-  const QByteArrayList odd = {top, top + "/../again/a/b/file", top + "x/file", "relative", ""};
-  for (const QByteArray& raw : odd) {
-    removal::Stay stay{{file, file, raw, false, true}, top, EBUSY};
-    QVERIFY(remover.retry(&stay) == Remover::Retry::Stayed);
-    QCOMPARE(stay.error, EINVAL);
-  }
-  QVERIFY(isThere(file));
-}
-
-void TestRemoval::retryFollowsNoLink() {
-  const QString precious = m_home.file(u"treasure/file"_s);
-  m_home.folder(u"hole/a"_s);
-  m_home.link(u"hole/a/b"_s, m_home.path(u"treasure"_s));
-  const QString path = m_home.path(u"hole/a/b/file"_s);
-  RemovalRecorder seen;
-  Remover remover({}, seen.handlers());
-  removal::Stay stay{{path, path, QFile::encodeName(path), false, true}, QFile::encodeName(m_home.path(u"hole"_s)), 0};
-  QVERIFY(remover.retry(&stay) == Remover::Retry::Stayed);
-  QCOMPARE(stay.error, ELOOP);
-  // Nor above its top.
-  m_home.link(u"hole 2"_s, m_home.path(u"hole"_s));
-  stay.topRaw = QFile::encodeName(m_home.path(u"hole 2"_s));
-  stay.node.realRaw = stay.topRaw + "/a";
-  QVERIFY(remover.retry(&stay) == Remover::Retry::Stayed);
-  QVERIFY(isThere(precious) && isThere(m_home.path(u"hole/a"_s)));
 }
 
 void TestRemoval::boundsItsDescriptors() {

@@ -18,7 +18,6 @@ using removal::Verdict;
 
 namespace {
 
-Target at(const QString& path) { return {path, path}; }
 QByteArray raw(const QString& path) { return QFile::encodeName(path); }
 
 bool writeText(const char* path, const QByteArray& text) {
@@ -41,10 +40,6 @@ bool enterMountNamespace() {
 }
 
 bool g_mayMount = false;
-
-QStringList namesIn(const QString& folder) {
-  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
-}
 
 /// A mount for the length of a test.
 class Mount {

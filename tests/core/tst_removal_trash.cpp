@@ -10,21 +10,6 @@ using removal::Remover;
 using removal::Target;
 using removal::Verdict;
 
-namespace {
-
-Target at(const QString& path) { return {path, path}; }
-
-QStringList namesIn(const QString& folder) {
-  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
-}
-
-struct Pause {
-  explicit Pause(std::function<void(const removal::Node&)> hook) { removal::setPauseHook(std::move(hook)); }
-  ~Pause() { removal::setPauseHook({}); }
-};
-
-} // namespace
-
 class TestRemovalTrash : public QObject {
   Q_OBJECT
 

@@ -1,9 +1,6 @@
-#include "RemovalRecorder.h"
-#include "core/UniqueFd.h"
-#include "core/trash.h"
+// The way to the Trash: under which name and with which info file a thing comes there, and where there is none for it.
+#include "TrashTest.h"
 #include "engines/Mounts.h"
-#include "support/Arrivals.h"
-#include "support/FixtureHome.h"
 #include "support/child.h"
 
 #include <QDateTime>
@@ -23,25 +20,10 @@ using trash::Session;
 
 namespace {
 
-QByteArray raw(const QString& path) { return QFile::encodeName(path); }
-
-UniqueFd openFolder(const QString& path) {
-  return UniqueFd(::open(raw(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-}
-
-QByteArray contentsOf(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
-}
-
 mode_t modeOf(const QString& path) {
   struct stat status {};
   ::lstat(raw(path).constData(), &status);
   return status.st_mode & 07777u;
-}
-
-QStringList namesIn(const QString& folder) {
-  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
 }
 
 /// A file system at @p point that counts as a disk and needs none.
@@ -56,12 +38,13 @@ bool mountDisk(const QByteArray& point) {
 
 } // namespace
 
-class TestTrash : public QObject {
+class TestTrash : public TrashTest {
   Q_OBJECT
 
  private slots:
-  void init();
-  void cleanup();
+  void init() { make(); }
+  void cleanup() { drop(); }
+
   void makesTheHomeTrash();
   void writesTheInfoFile_data();
   void writesTheInfoFile();
@@ -81,35 +64,9 @@ class TestTrash : public QObject {
   void surveysWithoutMaking();
   void keepsOnWhenTheTrashIsEmptiedAway();
   void obeysTheDataFolder();
-  void restores();
-  void restoresWithoutOverwriting();
-  void restoresOnlyWhatIsWhole();
   void listsFilesFolders();
-  void forgets();
-  void forgetsNothingElse();
-  void keepsTheSizeCacheUpToDate();
-  void replacesTheSizeCacheOnceForAll();
   void listsOnlyWhatATextReaches();
-
- private:
-  Outcome move(const QString& path);
-
-  FixtureHome m_home;
-  QString m_trash;
 };
-
-void TestTrash::init() {
-  qunsetenv("XDG_DATA_HOME");
-  m_trash = m_home.path(u".local/share/Trash"_s);
-}
-
-void TestTrash::cleanup() { wipe(m_home.path()); }
-
-Outcome TestTrash::move(const QString& path) {
-  Session session;
-  const QFileInfo info(path);
-  return session.move(openFolder(info.path()).get(), raw(info.fileName()), raw(path));
-}
 
 void TestTrash::makesTheHomeTrash() {
   const QString file = m_home.file(u"a/file.txt"_s);
@@ -363,40 +320,6 @@ void TestTrash::obeysTheDataFolder() {
   QCOMPARE(trash::filesFolders().value(0), m_home.path(u"my data/Trash/files"_s));
 }
 
-void TestTrash::restores() {
-  const QString file = m_home.file(u"a/file"_s, 7);
-  const Outcome outcome = move(file);
-  QCOMPARE(trash::restore(outcome.trashedPath, outcome.infoPath, file), 0);
-  QCOMPARE(contentsOf(file), "xxxxxxx");
-  QVERIFY(!isThere(outcome.trashedPath) && !isThere(outcome.infoPath));
-}
-
-void TestTrash::restoresWithoutOverwriting() {
-  const QString file = m_home.file(u"a/file"_s, 7);
-  const Outcome outcome = move(file);
-  m_home.file(u"a/file"_s, 1);
-  QCOMPARE(trash::restore(outcome.trashedPath, outcome.infoPath, file), EEXIST);
-  QCOMPARE(contentsOf(file), "x");
-  QVERIFY(isThere(outcome.trashedPath) && isThere(outcome.infoPath));
-  QFile::remove(file);
-  m_home.link(u"a/file"_s, u"/no/such/file"_s);
-  QCOMPARE(trash::restore(outcome.trashedPath, outcome.infoPath, file), EEXIST);
-}
-
-void TestTrash::restoresOnlyWhatIsWhole() {
-  const QString file = m_home.file(u"a/file"_s);
-  const Outcome outcome = move(file);
-  QDir(m_home.path(u"a"_s)).removeRecursively();
-  QCOMPARE(trash::restore(outcome.trashedPath, outcome.infoPath, file), ENOENT);
-  QVERIFY(isThere(outcome.trashedPath) && isThere(outcome.infoPath));
-  QCOMPARE(trash::restore(outcome.trashedPath + u"x"_s, outcome.infoPath, m_home.path(u"b"_s)), ENOENT);
-  QCOMPARE(trash::restore({}, {}, file), ENOENT);
-  // An info file that isn't the thing's own stays.
-  const QString other = m_home.file(m_trash + u"/info/other.trashinfo"_s);
-  QCOMPARE(trash::restore(outcome.trashedPath, other, m_home.path(u"b"_s)), 0);
-  QVERIFY(isThere(other) && isThere(m_home.path(u"b"_s)));
-}
-
 void TestTrash::listsFilesFolders() {
   const auto own = [&] { return trash::filesFolders().filter(m_home.path()); };
   QVERIFY(own().isEmpty());
@@ -406,86 +329,6 @@ void TestTrash::listsFilesFolders() {
   m_home.folder(u"elsewhere/files"_s);
   m_home.link(u".local/share/Trash"_s, m_home.path(u"elsewhere"_s));
   QVERIFY(own().isEmpty());
-}
-
-void TestTrash::forgets() {
-  const Outcome outcome = move(m_home.file(u"a/file.txt"_s));
-  trash::forget(m_trash + u"/files"_s, {"file.txt"}); // still there
-  QVERIFY(isThere(outcome.infoPath));
-  QFile::remove(outcome.trashedPath);
-  trash::forget(m_trash + u"/files"_s, {"file.txt"});
-  QVERIFY(!isThere(outcome.infoPath));
-  QVERIFY(isThere(m_trash + u"/info"_s));
-}
-
-void TestTrash::forgetsNothingElse() {
-  // A folder that only looks like a Trash.
-  m_home.folder(u"fake/files"_s);
-  const QString info = m_home.file(u"fake/info/a.trashinfo"_s);
-  trash::forget(m_home.path(u"fake/files"_s), {"a"});
-  trash::forget(m_home.path(u"fake"_s), {"a"});
-  trash::forget({}, {"a"});
-  QVERIFY(isThere(info));
-  // The real one, with names that lead elsewhere.
-  const Outcome outcome = move(m_home.file(u"b"_s));
-  const QString outside = m_home.file(u".local/share/Trash/x.trashinfo"_s);
-  trash::forget(m_trash + u"/files"_s, {"../x"});
-  trash::forget(m_trash + u"/files"_s, {""});
-  QVERIFY(isThere(outside) && isThere(outcome.infoPath));
-  // A planted link in the place of the info folder.
-  QDir().rename(m_trash + u"/info"_s, m_home.path(u"old info"_s));
-  m_home.link(u".local/share/Trash/info"_s, m_home.path(u"old info"_s));
-  QFile::remove(outcome.trashedPath);
-  trash::forget(m_trash + u"/files"_s, {"b"});
-  QVERIFY(isThere(m_home.path(u"old info/b.trashinfo"_s)));
-}
-
-void TestTrash::keepsTheSizeCacheUpToDate() {
-  m_home.file(u"one two/file"_s);
-  m_home.file(u"three/file"_s);
-  const Outcome first = move(m_home.path(u"one two"_s));
-  const Outcome second = move(m_home.path(u"three"_s));
-  QFile cache(m_trash + u"/directorysizes"_s);
-  QVERIFY(cache.open(QIODevice::WriteOnly));
-  cache.write("4096 1700000000 one%20two\n4096 1700000000 three\n4096 1700000000 other\n");
-  cache.close();
-  QDir(first.trashedPath).removeRecursively();
-  trash::forget(m_trash + u"/files"_s, {"one two"});
-  QCOMPARE(contentsOf(cache.fileName()), "4096 1700000000 three\n4096 1700000000 other\n");
-  QCOMPARE(trash::restore(second.trashedPath, second.infoPath, m_home.path(u"three"_s)), 0);
-  QCOMPARE(contentsOf(cache.fileName()), "4096 1700000000 other\n");
-  QCOMPARE(namesIn(m_trash), (QStringList{u"directorysizes"_s, u"files"_s, u"info"_s}));
-  // A link in its place is left alone.
-  cache.remove();
-  const QString target = m_home.file(u"target"_s, 1);
-  QFile::link(target, cache.fileName());
-  trash::forget(m_trash + u"/files"_s, {"other"});
-  QVERIFY(QFileInfo(cache.fileName()).isSymLink());
-  QCOMPARE(contentsOf(target), "x");
-}
-
-void TestTrash::replacesTheSizeCacheOnceForAll() {
-  QByteArrayList names;
-  QByteArray sizes;
-  for (int i = 0; i < 300; ++i) {
-    names << "folder " + QByteArray::number(i);
-    sizes += "4096 1700000000 " + names.last().toPercentEncoding() + '\n';
-    m_home.file(m_trash + u"/info/folder %1.trashinfo"_s.arg(i));
-  }
-  m_home.folder(m_trash + u"/files/folder 7"_s); // still there
-  QFile cache(m_trash + u"/directorysizes"_s);
-  QVERIFY(cache.open(QIODevice::WriteOnly));
-  cache.write(sizes + "1 1 other\n");
-  cache.close();
-
-  const Arrivals arrivals(m_trash);
-  trash::forget(m_trash + u"/files"_s, names);
-  QCOMPARE(arrivals.count("directorysizes"), 1);
-  QCOMPARE(contentsOf(cache.fileName()), "4096 1700000000 folder%207\n1 1 other\n");
-  QCOMPARE(namesIn(m_trash + u"/info"_s), QStringList{u"folder 7.trashinfo"_s});
-  trash::forget(m_trash + u"/files"_s, names);
-  trash::forget(m_trash + u"/files"_s, {});
-  QCOMPARE(arrivals.count("directorysizes"), 0); // there was nothing to take out
 }
 
 void TestTrash::listsOnlyWhatATextReaches() {
