@@ -1,11 +1,7 @@
-// The search for large files: what it finds and leaves out, in which order, and what it tells on the way.
-#include "engines/LargeFileFinder.h"
-
-#include "core/fs.h"
-#include "support/FixtureHome.h"
+// The search for large files: what it finds and leaves out, and in which order.
+#include "engines/LargeFileTest.h"
 #include "support/trees.h"
 
-#include <QSemaphore>
 #include <QTest>
 #include <QTranslator>
 
@@ -21,11 +17,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int kPatienceMs = 60'000;
-constexpr qint64 kBlock = 4096; ///< what sizes on disk are whole numbers of
-constexpr qint64 kMin = 4 * kBlock;
-constexpr int kFilesPerLook = 16;
-
 /// A language in which the kinds of files stand in angle brackets.
 class Kinds : public QTranslator {
  public:
@@ -35,79 +26,9 @@ class Kinds : public QTranslator {
   }
 };
 
-struct Told {
-  qint64 filesSeen;
-  QString dir;
-  int found;
-  qint64 bytesFound;
-  QList<LargeFile> top;
-};
-
-/// A finder with a clock of the test's, and all that it tells. The clock moves on by a step each time it is asked.
-class Run {
- public:
-  explicit Run(std::chrono::milliseconds step = 0ms)
-      : finder(nullptr, [this, step] {
-          if (onLook) onLook();
-          return m_time += step;
-        }) {
-    QObject::connect(
-        &finder, &LargeFileFinder::progress, &finder,
-        [this](qint64 seen, const QString& dir, int found, qint64 bytes, const QList<LargeFile>& top) {
-          told << Told{seen, dir, found, bytes, top};
-        },
-        Qt::DirectConnection);
-    QObject::connect(
-        &finder, &LargeFileFinder::finished, &finder,
-        [this](const QList<LargeFile>& list, bool wasCancelled) {
-          files = list;
-          cancelled = wasCancelled;
-          ++ends;
-          m_done.release();
-        },
-        Qt::DirectConnection);
-  }
-  /// Searches to the end.
-  void search(qint64 minBytes = kMin, const QStringList& rules = {}) {
-    finder.start(minBytes, rules);
-    wait();
-  }
-  /// Returns when the search has told its end.
-  void wait() { QVERIFY(m_done.tryAcquire(1, kPatienceMs)); }
-  [[nodiscard]] QStringList names() const {
-    QStringList all;
-    for (const LargeFile& file : files) all << file.name;
-    return all;
-  }
-  [[nodiscard]] QStringList sortedNames() const {
-    QStringList all = names();
-    all.sort();
-    return all;
-  }
-
-  std::function<void()> onLook; ///< on the worker, each time the clock is looked at; the first when the search begins
-  QList<Told> told;
-  QList<LargeFile> files;
-  bool cancelled = false;
-  std::atomic<int> ends = 0;
-
- private:
-  std::chrono::milliseconds m_time{1'000'000};
-  QSemaphore m_done;
-
- public:
-  LargeFileFinder finder;
-};
-
 qint64 allocated(const QString& path) {
   fs::Entry entry;
   return fs::stat(path, &entry) ? entry.allocated : -1;
-}
-
-QList<qint64> blocks(const QList<LargeFile>& files) {
-  QList<qint64> all;
-  for (const LargeFile& file : files) all << file.size / kBlock;
-  return all;
 }
 
 void setTimes(const QString& path, qint64 accessedMs, qint64 modifiedMs) {
@@ -118,12 +39,12 @@ void setTimes(const QString& path, qint64 accessedMs, qint64 modifiedMs) {
 
 } // namespace
 
-class tst_LargeFileFinder : public QObject {
+class tst_LargeFileFinder : public LargeFileTest {
   Q_OBJECT
 
  private slots:
-  void init();
-  void cleanup() { m_home.reset(); }
+  void init() { make(); }
+  void cleanup() { drop(); }
 
   void kinds_data();
   void kinds();
@@ -140,34 +61,7 @@ class tst_LargeFileFinder : public QObject {
   void leavesOutNamesThatAreNoText();
   void sortsLargestFirst();
   void handsOverFiveHundred();
-  void keepsTheLargestOnTop();
-  void keepsTheFirstOfEqualOnesOnTop();
-  void tellsHowFarItIs();
-  void tellsAtMostEvery81Ms_data();
-  void tellsAtMostEvery81Ms();
-  void startDuringASearchChangesNothing();
-  void cancelledSearchHandsOverWhatItHas();
-  void cancelBeforeTheStartDoesNothing();
-  void endsWithItsOwner();
-  void searchesAgain();
-  void homeThatIsNotThere();
-
- private:
-  QString large(const QString& relative, qint64 sizeInBlocks = 5) const {
-    return m_home->file(relative, sizeInBlocks * kBlock);
-  }
-  /// Files that nobody looks for, in a folder that is walked after all that lies in the home folder itself.
-  void addSmall(const QString& folder, int count = kFilesPerLook) const {
-    for (int i = 0; i < count; ++i) m_home->file(folder + u"/small %1"_s.arg(i), 0);
-  }
-
-  std::unique_ptr<FixtureHome> m_home;
 };
-
-void tst_LargeFileFinder::init() {
-  records::registerMetaTypes();
-  m_home = std::make_unique<FixtureHome>();
-}
 
 void tst_LargeFileFinder::kinds_data() {
   QTest::addColumn<QString>("label");
@@ -366,145 +260,6 @@ void tst_LargeFileFinder::handsOverFiveHundred() {
   QCOMPARE(summary.ids.size(), 500);
   for (const LargeFile& file : run.files) QVERIFY(summary.ids.contains(file.path));
   QVERIFY(run.told.last().found > 500 && run.told.last().found < kMany);
-}
-
-void tst_LargeFileFinder::keepsTheLargestOnTop() {
-  for (const int size : {3, 8, 1, 9, 2, 6, 4, 7, 5}) large(u"file %1"_s.arg(size), 10 + size);
-  addSmall(u"later"_s, 2 * kFilesPerLook);
-  Run run(81ms);
-  run.search(10 * kBlock);
-  QVERIFY(!run.told.isEmpty());
-  QCOMPARE(blocks(run.told.last().top), (QList<qint64>{19, 18, 17, 16, 15, 14, 13, 12}));
-  QCOMPARE(run.told.last().found, 9);
-}
-
-void tst_LargeFileFinder::keepsTheFirstOfEqualOnesOnTop() {
-  for (int i = 0; i < 12; ++i) large(u"same %1"_s.arg(i));
-  large(u"larger"_s, 6);
-  QStringList inOrder; // as the folder lists them, which is how they are found
-  for (const fs::Entry& entry : fs::list(m_home->path()))
-    if (entry.name.startsWith(u"same"_s)) inOrder << entry.name;
-  addSmall(u"later"_s, 2 * kFilesPerLook);
-  Run run(81ms);
-  run.search();
-  QStringList top;
-  for (const LargeFile& file : run.told.last().top) top << file.name;
-  QCOMPARE(top, QStringList{u"larger"_s} + inOrder.first(7));
-}
-
-void tst_LargeFileFinder::tellsHowFarItIs() {
-  large(u"film.mov"_s, 7);
-  large(u"other.mov"_s, 6);
-  addSmall(u"one/deep"_s, 20);
-  addSmall(u"two"_s, 20);
-  Run run(81ms);
-  run.search();
-  QCOMPARE(run.told.size(), 2); // at the 16th and the 32nd file
-  QCOMPARE(run.told.at(0).filesSeen, 16);
-  QCOMPARE(run.told.at(1).filesSeen, 32);
-  for (const Told& told : run.told) {
-    QCOMPARE(told.found, 2);
-    QCOMPARE(told.bytesFound, 13 * kBlock);
-    QCOMPARE(blocks(told.top), (QList<qint64>{7, 6}));
-    QCOMPARE(told.top.first().path, m_home->path(u"film.mov"_s));
-  }
-  QStringList dirs{run.told.at(0).dir, run.told.at(1).dir};
-  dirs.sort();
-  QCOMPARE(dirs, (QStringList{m_home->path(u"one/deep"_s), m_home->path(u"two"_s)}));
-}
-
-void tst_LargeFileFinder::tellsAtMostEvery81Ms_data() {
-  QTest::addColumn<int>("stepMs"); // between two looks at the clock
-  QTest::addColumn<int>("signalCount");
-  QTest::newRow("a clock that stands") << 0 << 0;
-  QTest::newRow("just too early") << 16 << 1; // 80 ms aren't enough, and then it counts from there
-  QTest::newRow("each second look") << 41 << 5;
-  QTest::newRow("just so") << 81 << 10;
-}
-
-void tst_LargeFileFinder::tellsAtMostEvery81Ms() {
-  QFETCH(int, stepMs);
-  QFETCH(int, signalCount);
-  addSmall(u"many"_s, 10 * kFilesPerLook);
-  Run run{std::chrono::milliseconds(stepMs)};
-  run.search();
-  QCOMPARE(run.told.size(), signalCount);
-}
-
-void tst_LargeFileFinder::startDuringASearchChangesNothing() {
-  large(u"a.iso"_s, 5);
-  large(u"b.mov"_s, 9);
-  QSemaphore go;
-  Run run;
-  run.onLook = [&] { go.acquire(); };
-  run.finder.start(kMin, {u"*.iso"_s});
-  QVERIFY(run.finder.isRunning());
-  run.finder.start(0, {});
-  go.release();
-  run.wait();
-  QCOMPARE(run.names(), QStringList{u"b.mov"_s});
-  QCOMPARE(run.ends.load(), 1);
-  QVERIFY(!run.finder.isRunning());
-}
-
-void tst_LargeFileFinder::cancelledSearchHandsOverWhatItHas() {
-  large(u"first.iso"_s, 5);
-  large(u"second.iso"_s, 6);
-  addSmall(u"."_s);
-  large(u"folder/late.iso"_s);
-  Run run;
-  int looks = 0;
-  run.onLook = [&] {
-    if (++looks == 2) run.finder.cancel(); // within the home folder, which is walked to its end
-  };
-  run.search();
-  QCOMPARE(run.ends.load(), 1);
-  QVERIFY(run.cancelled);
-  QCOMPARE(run.names(), (QStringList{u"second.iso"_s, u"first.iso"_s}));
-  QCOMPARE(run.finder.summary().found, 2);
-  QCOMPARE(run.finder.summary().filesSeen, 18);
-}
-
-void tst_LargeFileFinder::cancelBeforeTheStartDoesNothing() {
-  large(u"a.iso"_s);
-  Run run;
-  run.finder.cancel();
-  run.search();
-  QVERIFY(!run.cancelled && run.files.size() == 1);
-}
-
-void tst_LargeFileFinder::endsWithItsOwner() {
-  addSmall(u"many"_s);
-  std::atomic<bool> begun = false;
-  {
-    LargeFileFinder finder(nullptr, [&] {
-      begun = true;
-      return 0ms;
-    });
-    finder.start(kMin, {});
-    QTRY_VERIFY_WITH_TIMEOUT(begun.load(), kPatienceMs);
-  }
-  QVERIFY(begun); // and nothing of the search touches what has gone: a sanitizer looks
-}
-
-void tst_LargeFileFinder::searchesAgain() {
-  const QString one = large(u"one.iso"_s);
-  Run run;
-  run.search();
-  QVERIFY(QFile::remove(one));
-  const QString two = large(u"two.iso"_s);
-  run.search();
-  QCOMPARE(run.names(), QStringList{u"two.iso"_s});
-  QCOMPARE(run.finder.summary().found, 1);
-  QCOMPARE(run.finder.summary().ids.keys(), QStringList{two});
-}
-
-void tst_LargeFileFinder::homeThatIsNotThere() {
-  qputenv("HOME", m_home->path(u"missing"_s).toUtf8());
-  Run run;
-  run.search();
-  QVERIFY(run.ends == 1 && run.files.isEmpty() && !run.cancelled);
-  qputenv("HOME", m_home->path().toUtf8());
 }
 
 QTEST_GUILESS_MAIN(tst_LargeFileFinder)
