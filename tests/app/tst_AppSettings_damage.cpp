@@ -1,12 +1,8 @@
 // A store that is damaged, or has lost what it held: it is told, nothing is written over it, and no rule gets lost.
-#include "app/AppSettings.h"
-#include "app/identity.h"
+#include "DamageTest.h"
 #include "core/UniqueFd.h"
-#include "support/FixtureHome.h"
 #include "support/child.h"
-#include "support/settings.h"
 
-#include <QDir>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QSignalSpy>
@@ -18,22 +14,13 @@
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
-using Store = AppSettings::Store;
 
-namespace {
-const QStringList kRules = {u"**/.git"_s, u"~/Documents/Prüfung, alt"_s, u"*.iso"_s};
-} // namespace
-
-class tst_AppSettings_damage : public QObject {
+class tst_AppSettings_damage : public DamageTest {
   Q_OBJECT
 
  private slots:
-  void initTestCase() {
-    identity::apply();
-    settings();
-  }
-  void init();
-  void cleanup();
+  void init() { make(); }
+  void cleanup() { drop(); }
 
   void soundAtFirst();
   void damage_data();
@@ -45,14 +32,6 @@ class tst_AppSettings_damage : public QObject {
   void brokenWhileItRuns();
   void nothingIsWrittenOverIt();
   void setMeanwhileHoldsInTheProcess();
-  void acceptedKeepsWhatCouldBeRead();
-  void acceptedKeepsTheUsersList();
-  void acceptedTwiceKeepsBothFiles();
-  void acceptedAsItIs();
-  void acceptingCanFail();
-  void mendedByHand();
-  void rulesAddedByHand();
-  void rulesRemovedByHand();
   void withoutTheMemory();
   void damagedMemory_data();
   void damagedMemory();
@@ -61,56 +40,7 @@ class tst_AppSettings_damage : public QObject {
   void neverInDoubtInBetween();
   void fileForAllUsersIsDamaged();
   void anotherStart();
-
- private:
-  static AppSettings& settings() { return AppSettings::instance(); }
-  static QString path() { return settings().path(); }
-  static QByteArray bytes() { return settingsstore::bytes(path()); }
-  static void write(const QByteArray& text) { settingsstore::write(path(), text); }
-  /// Files of the store's folder that were set aside.
-  static QStringList aside() {
-    return QDir(QFileInfo(path()).path())
-        .entryList({u"*.damaged*"_s}, QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot);
-  }
-  static bool keepsAllRules() {
-    const QStringList rules = settings().exclusions();
-    return std::all_of(kRules.cbegin(), kRules.cend(), [&](const QString& rule) { return rules.contains(rule); });
-  }
-  /// What must be true whatever has become of the store's bytes.
-  static void checkNoRuleIsLost(const QByteArray& text) {
-    write(text);
-    const Store worth = settings().look();
-    QVERIFY2(keepsAllRules(), text.constData());
-    if (worth == Store::Sound) {
-      const QStringList stored = QSettings(path(), QSettings::IniFormat).value(u"clean/exclusions"_s).toStringList();
-      for (const QString& rule : kRules) QVERIFY2(stored.contains(rule), text.constData());
-    }
-    QCOMPARE(bytes(), text);
-  }
-
-  FixtureHome m_home;
 };
-
-void tst_AppSettings_damage::init() {
-  settingsstore::forget();
-  settings().setExclusions(kRules);
-  settings().setThemeMode(AppSettings::Light);
-  settings().setLargeFileMB(250);
-  QCOMPARE(settings().look(), Store::Sound);
-}
-
-void tst_AppSettings_damage::cleanup() {
-  QFile::setPermissions(path(), QFile::ReadOwner | QFile::WriteOwner);
-  QFile::remove(path());
-  QDir().rmdir(path());
-  QDir(settings().memoryPath()).removeRecursively();
-  QFile::remove(settings().memoryPath());
-  for (const QString& name : aside()) {
-    const QString whole = QFileInfo(path()).path() + u'/' + name;
-    QFile::remove(whole);
-    QDir().rmdir(whole);
-  }
-}
 
 void tst_AppSettings_damage::soundAtFirst() {
   QVERIFY(settings().isReadable());
@@ -280,109 +210,6 @@ void tst_AppSettings_damage::setMeanwhileHoldsInTheProcess() {
   QCOMPARE(QSettings().value(u"ui/theme"_s).toInt(), 2);
   QCOMPARE(settings().freedHistory(1), QList<qint64>{11});
   QCOMPARE(settings().exclusions(), QStringList{u"only"_s});
-}
-
-void tst_AppSettings_damage::acceptedKeepsWhatCouldBeRead() {
-  write("[ui]\ntheme=2\nlanguage=ja\n[clean]\nexclusions=**/.git, new\n[large]\noldMonths=@Variant(xx)\n");
-  QCOMPARE(settings().look(), Store::Lost);
-  QVERIFY(settings().exclusions().contains(u"new"_s));
-  QVERIFY(settings().acceptExclusions());
-  QCOMPARE(settings().themeMode(), AppSettings::Dark);
-  QCOMPARE(settings().language(), u"ja"_s);
-  QVERIFY(settings().exclusions().contains(u"new"_s));
-  QVERIFY(keepsAllRules());
-  QVERIFY(!bytes().contains("Variant"));
-}
-
-void tst_AppSettings_damage::acceptedKeepsTheUsersList() {
-  write("broken");
-  settings().setExclusions({u"**/.git"_s, u"~/Else"_s});
-  QVERIFY(settings().acceptExclusions());
-  QCOMPARE(settings().exclusions(), (QStringList{u"**/.git"_s, u"~/Else"_s}));
-  QVERIFY(settings().isReadable());
-  settings().setExclusions({});
-  QVERIFY(settings().isReadable()); // nothing old is remembered
-}
-
-void tst_AppSettings_damage::acceptedTwiceKeepsBothFiles() {
-  for (const char* text : {"first", "second"}) {
-    write(text);
-    QVERIFY(!settings().isReadable());
-    QVERIFY(settings().acceptExclusions());
-  }
-  QCOMPARE(settingsstore::bytes(path() + u".damaged"_s), QByteArray("first"));
-  QCOMPARE(settingsstore::bytes(path() + u".damaged-2"_s), QByteArray("second"));
-}
-
-// Whatever stands in the store's place moves as it is, a folder and a link too.
-void tst_AppSettings_damage::acceptedAsItIs() {
-  QVERIFY(QFile::remove(path()));
-  QVERIFY(QDir().mkdir(path()));
-  QVERIFY(!settings().isReadable());
-  QVERIFY(settings().acceptExclusions());
-  QVERIFY(QFileInfo(path() + u".damaged"_s).isDir());
-  QVERIFY(QFileInfo(path()).isFile());
-  QVERIFY(keepsAllRules());
-
-  QVERIFY(QFile::remove(path()));
-  QVERIFY(!settings().isReadable());
-  QVERIFY(settings().acceptExclusions()); // there is nothing to keep
-  QCOMPARE(aside().size(), 1);
-  QVERIFY(settings().isReadable());
-  QVERIFY(keepsAllRules());
-}
-
-void tst_AppSettings_damage::acceptingCanFail() {
-  const QString folder = QFileInfo(path()).path();
-  QVERIFY(QDir().rename(folder, folder + u".away"_s));
-  settingsstore::write(folder, "in the way");
-  QVERIFY(!settings().isReadable());
-  settings().setThemeMode(AppSettings::Dark);
-  settings().setExclusions(kRules);
-  QVERIFY(!settings().acceptExclusions());
-  QVERIFY(!settings().isReadable());
-  QCOMPARE(settings().themeMode(), AppSettings::Dark);
-  QVERIFY(keepsAllRules());
-  QVERIFY(QFile::remove(folder));
-  QVERIFY(QDir().rename(folder + u".away"_s, folder));
-  QVERIFY(settings().isReadable());
-}
-
-void tst_AppSettings_damage::mendedByHand() {
-  const QByteArray whole = bytes();
-  write("broken");
-  settings().setThemeMode(AppSettings::Dark);
-  settings().setExclusions({kRules.first(), u"added"_s});
-  write(whole);
-  QVERIFY(settings().isReadable());
-  // A list that was made without seeing all of them doesn't replace them; a rule that was added to it isn't lost.
-  QCOMPARE(settings().exclusions(), kRules + QStringList{u"added"_s});
-  QCOMPARE(settings().themeMode(), AppSettings::Dark);
-  QCOMPARE(QSettings().value(u"ui/theme"_s).toInt(), 2);
-  QCOMPARE(aside(), QStringList());
-  write(whole); // without the rule that was added, which is remembered like the others
-  QCOMPARE(settings().look(), Store::Lost);
-  QVERIFY(settings().exclusions().contains(u"added"_s));
-}
-
-void tst_AppSettings_damage::rulesAddedByHand() {
-  write("[clean]\nexclusions=first, **/.git, \"~/Documents/Prüfung, alt\", *.iso, last\n");
-  QVERIFY(settings().isReadable());
-  QCOMPARE(settings().exclusions().size(), 5);
-  settings().setThemeMode(AppSettings::Dark); // and from now on they are remembered too
-  write("[clean]\nexclusions=**/.git, \"~/Documents/Prüfung, alt\", *.iso, last\n");
-  QCOMPARE(settings().look(), Store::Lost);
-  QVERIFY(settings().exclusions().contains(u"first"_s));
-}
-
-// It can't be told from damage; the user is asked once.
-void tst_AppSettings_damage::rulesRemovedByHand() {
-  write("[clean]\nexclusions=**/.git\n");
-  QCOMPARE(settings().look(), Store::Lost);
-  settings().setExclusions({u"**/.git"_s});
-  QVERIFY(settings().acceptExclusions());
-  QCOMPARE(settings().exclusions(), QStringList{u"**/.git"_s});
-  QVERIFY(settings().isReadable());
 }
 
 // A store from before there was one, and a start from nothing on purpose.
