@@ -1,16 +1,6 @@
-// The window: its pages, its close rule, its geometry, and the whole journey of a Smart Scan by mouse and by keyboard.
-#include "ui/shell/MainWindow.h"
-
-#include "app/AppState.h"
-#include "engines/Cleaner.h"
-#include "engines/systemdata.h"
+// The window: its pages, its dialogs and messages, its sidebar in both metrics, and what it paints itself.
+#include "MainWindowTest.h"
 #include "support/Desktop.h"
-#include "support/SampleHome.h"
-#include "support/pixels.h"
-#include "support/uitest.h"
-#include "support/window.h"
-#include "ui/Theme.h"
-#include "ui/controls/Button.h"
 #include "ui/controls/PageHeader.h"
 #include "ui/pages/CleanupPage.h"
 #include "ui/pages/OverviewPage.h"
@@ -18,35 +8,24 @@
 #include "ui/shell/AboutDialog.h"
 #include "ui/shell/AppMenu.h"
 #include "ui/shell/CaptionButton.h"
-#include "ui/shell/ConfirmCleanDialog.h"
 #include "ui/shell/ConfirmDialog.h"
 #include "ui/shell/NavButton.h"
-#include "ui/shell/Sidebar.h"
 #include "ui/shell/SidebarToggle.h"
 #include "ui/shell/TitleBar.h"
-#include "ui/shell/Toast.h"
 #include "ui/shell/UpdateDialog.h"
-#include "ui/shell/program.h"
 #include "update/Updater.h"
 
-#include <QAccessible>
-#include <QCheckBox>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLayout>
 #include <QScreen>
-#include <QSettings>
-#include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 using namespace ui;
 using windowtest::click;
-using windowtest::tabTo;
 
 namespace {
-
-const QString kGeometryKey = u"ui/windowGeometry"_s;
 
 CategoryResult found(const QString& id, qint64 bytes) {
   CategoryResult result;
@@ -56,26 +35,15 @@ CategoryResult found(const QString& id, qint64 bytes) {
   return result;
 }
 
-/// Those on show that take the focus, by Tab or by a click, and of which a screen reader could say nothing.
-QList<QWidget*> namelessControls(const QWidget& window) {
-  QList<QWidget*> found;
-  for (QWidget* one : window.findChildren<QWidget*>()) {
-    if (one->focusPolicy() == Qt::NoFocus || !one->isVisible()) continue;
-    const QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(one);
-    if (!heard || heard->text(QAccessible::Name).isEmpty() || heard->role() == QAccessible::NoRole) found << one;
-  }
-  return found;
-}
-
 } // namespace
 
-class TestMainWindow : public QObject {
+class TestMainWindow : public MainWindowTest {
   Q_OBJECT
 
  private slots:
   void initTestCase() { Theme::get().install(qApp); }
-  void init();
-  void cleanup();
+  void init() { make(); }
+  void cleanup() { drop(); }
 
   void firstSight();
   void menuButtonOpensTheMenu();
@@ -92,71 +60,13 @@ class TestMainWindow : public QObject {
   void floatingToggleStandsAtTheEdge();
   void floatingToggleMirrored();
   void noToggleOfItsOwnInTheOthers();
-  void geometryComesBack();
-  void refusedGeometryIsNone();
-  void closingWithoutATrayQuits();
-  void quitSavesTheGeometry();
   void backdropIsPainted();
   void outlineWhileNotMaximised();
   void updatesAreAskedForFromTheSettings();
   void helpOpensInTheBrowser();
   void logFolderIsMadeFirst();
   void aboutIsShown();
-  void everyControlHasAName_data();
-  void everyControlHasAName();
-  void readerStaysInTheDialog();
-  void startOptionsAreExact();
-  void backgroundWithoutATrayIsMinimised();
-  void lowSpace_data();
-  void lowSpace();
-  void stepsAfterStartAreIndependent();
-  void journeyByMouse();
-  void journeyByKeyboard();
-  void escapeLeavesTheQuestion();
-
- private:
-  void startAgain();
-  [[nodiscard]] bool there(const QString& relative) const { return QFile::exists(m_home->path(relative)); }
-  [[nodiscard]] QString toastText() const {
-    const auto* toast = m_window->findChild<Toast*>();
-    return toast->isHidden() ? QString() : toast->accessibleName();
-  }
-  [[nodiscard]] ConfirmCleanDialog* question() const { return m_window->findChild<ConfirmCleanDialog*>(); }
-  void scanWithButton();
-
-  std::unique_ptr<FixtureHome> m_home;
-  std::unique_ptr<AppState> m_state;
-  std::unique_ptr<MainWindow> m_window;
 };
-
-void TestMainWindow::init() {
-  Theme::get().mac = true;
-  m_home = std::make_unique<FixtureHome>();
-  QSettings().clear();
-  pixels::setLook(false);
-  AppSettings::instance().setMoveToTrash(false);
-  fillSampleHome(*m_home);
-  startAgain();
-}
-
-void TestMainWindow::startAgain() {
-  m_window.reset();
-  CleanerWorld world;
-  world.lockPath = m_home->outside(u"clean.lock"_s); // so that no test waits for another one
-  SystemDataWorld systemData;
-  systemData.root = m_home->outside(u"disk"_s); // as empty on every machine
-  m_state = std::make_unique<AppState>(nullptr, world, systemData);
-  m_window = std::make_unique<MainWindow>(m_state.get());
-  m_window->show();
-  QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-}
-
-void TestMainWindow::cleanup() {
-  m_window.reset();
-  m_state.reset();
-  m_home.reset();
-  Theme::get().mac = true;
-}
 
 void TestMainWindow::firstSight() {
   QCOMPARE(m_window->windowTitle(), u"Tarnwick"_s);
@@ -313,44 +223,6 @@ void TestMainWindow::noToggleOfItsOwnInTheOthers() {
   for (const PageHeader* header : m_window->findChildren<PageHeader*>()) QVERIFY(!header->isToolbar());
 }
 
-void TestMainWindow::geometryComesBack() {
-  m_window->resize(1000, 700);
-  m_window->saveWindowState();
-  startAgain();
-  m_window->restoreWindowState();
-  QCOMPARE(m_window->size(), QSize(1000, 700));
-}
-
-void TestMainWindow::refusedGeometryIsNone() {
-  for (const QByteArray& stored : {QByteArray(), QByteArray("nonsense")}) {
-    QSettings().setValue(kGeometryKey, stored);
-    m_window->resize(5000, 5000);
-    m_window->restoreWindowState();
-    const QRect available = m_window->screen()->availableGeometry();
-    const QSize wanted = QSize(5000, 5000).boundedTo(available.size()).expandedTo(m_window->minimumSize());
-    QCOMPARE(m_window->size(), wanted);
-    const QPoint off = m_window->geometry().center() - available.center();
-    QVERIFY2(off.manhattanLength() <= 2 || wanted.width() > available.width(), qPrintable(QString::number(off.x())));
-  }
-}
-
-void TestMainWindow::closingWithoutATrayQuits() {
-  QSettings().remove(kGeometryKey);
-  QSignalSpy leaving(qApp, &QCoreApplication::aboutToQuit);
-  QTimer::singleShot(0, m_window.get(), &QWidget::close);
-  QApplication::exec(); // would not return
-  QCOMPARE(leaving.count(), 1);
-  QVERIFY(!QSettings().value(kGeometryKey).toByteArray().isEmpty());
-}
-
-void TestMainWindow::quitSavesTheGeometry() {
-  QSettings().remove(kGeometryKey);
-  QTimer::singleShot(0, qApp, &QCoreApplication::quit);
-  QApplication::exec();
-  QVERIFY(m_window->isHidden());
-  QVERIFY(!QSettings().value(kGeometryKey).toByteArray().isEmpty());
-}
-
 void TestMainWindow::backdropIsPainted() {
   for (const bool dark : {false, true}) {
     pixels::setLook(dark);
@@ -400,174 +272,6 @@ void TestMainWindow::aboutIsShown() {
   const Desktop desktop({u"https"_s});
   click(*about, u"Tarnwick Website"_s);
   QCOMPARE(desktop.opened, QStringList{u"/tarnwick/"_s});
-}
-
-void TestMainWindow::everyControlHasAName_data() {
-  QTest::addColumn<bool>("mac");
-  QTest::newRow("mac") << true;
-  QTest::newRow("win") << false;
-}
-
-// Through the pages that a user sees on the way from a scan to its review, and the question.
-void TestMainWindow::everyControlHasAName() {
-  QFETCH(bool, mac);
-  Theme::get().mac = mac;
-  startAgain();
-  const auto check = [this] {
-    const QList<QWidget*> nameless = namelessControls(*m_window);
-    for (const QWidget* one : nameless) qWarning() << "without a name:" << one << one->parentWidget();
-    QVERIFY(nameless.isEmpty());
-  };
-  check();
-  m_window->go(Sidebar::Cleanup);
-  check();
-  scanWithButton();
-  check();
-  emit m_window->findChild<OverviewPage*>()->openCleanup(u"dev"_s);
-  check();
-  m_window->go(Sidebar::SpaceMap);
-  check();
-  QTRY_VERIFY(m_state->largeScanned);
-  check();
-  m_window->go(Sidebar::SystemData);
-  check();
-  QTRY_VERIFY(m_state->systemDataReady);
-  check();
-  emit m_window->findChild<CleanupPage*>()->confirmRequested();
-  check();
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-  QTRY_VERIFY(!question());
-  m_window->showAbout();
-  check();
-}
-
-void TestMainWindow::readerStaysInTheDialog() {
-  const auto* sidebar = m_window->findChild<Sidebar*>();
-  QAccessibleInterface* area = QAccessible::queryAccessibleInterface(sidebar->parentWidget());
-  const int usually = area->childCount();
-  QVERIFY(usually >= 2);
-  emit m_window->findChild<CleanupPage*>()->confirmRequested();
-  QCOMPARE(area->childCount(), 1);
-  QCOMPARE(area->child(0)->object(), question());
-  QCOMPARE(area->child(0)->role(), QAccessible::Dialog);
-  QCOMPARE(area->indexOfChild(area->child(0)), 0);
-  QCOMPARE(area->child(0)->parent()->object(), area->object());
-  QVERIFY(!area->child(1));
-  question()->close();
-  QTRY_VERIFY(!question());
-  QCOMPARE(area->childCount(), usually);
-  QCOMPARE(area->indexOfChild(QAccessible::queryAccessibleInterface(const_cast<Sidebar*>(sidebar))),
-           area->indexOfChild(area->child(0)));
-}
-
-void TestMainWindow::startOptionsAreExact() {
-  const StartOptions none = startOptions({u"tarnwick"_s, u"--Background"_s, u"--updated=1"_s, u"file"_s});
-  QVERIFY(!none.background && !none.updated);
-  const StartOptions both = startOptions({u"tarnwick"_s, u"--updated"_s, u"--background"_s});
-  QVERIFY(both.background && both.updated);
-}
-
-void TestMainWindow::backgroundWithoutATrayIsMinimised() {
-  AppSettings::instance().setShowInTray(false); // so that none is waited for
-  m_window->hide();
-  showAtStart(m_window.get(), {.background = true});
-  QVERIFY(m_window->isMinimized());
-  m_window->showFromTray();
-  QVERIFY(!m_window->isMinimized() && m_window->isVisible());
-}
-
-void TestMainWindow::lowSpace_data() {
-  QTest::addColumn<qint64>("total");
-  QTest::addColumn<qint64>("available");
-  QTest::addColumn<bool>("alerts");
-  QTest::addColumn<bool>("told");
-  QTest::newRow("a tenth") << qint64(1000) << qint64(100) << true << false;
-  QTest::newRow("a byte less") << qint64(1000) << qint64(99) << true << true;
-  QTest::newRow("a tenth, rounded down") << qint64(1009) << qint64(100) << true << false;
-  QTest::newRow("unknown") << qint64(0) << qint64(-1) << true << false;
-  QTest::newRow("not wanted") << qint64(1000) << qint64(1) << false << false;
-}
-
-void TestMainWindow::lowSpace() {
-  QFETCH(qint64, total);
-  QFETCH(qint64, available);
-  QFETCH(bool, alerts);
-  QFETCH(bool, told);
-  AppSettings::instance().setLowSpaceAlerts(alerts);
-  m_state->volume.name = u"System disk"_s;
-  m_state->volume.totalBytes = total;
-  m_state->volume.availableBytes = available;
-  afterStart(m_window.get(), m_state.get(), {});
-  QCOMPARE(toastText(), told ? u"System disk is almost full. Run Smart Scan to free up space."_s : QString());
-  QCOMPARE(m_state->phase, AppState::Empty);
-}
-
-void TestMainWindow::stepsAfterStartAreIndependent() {
-  AppSettings::instance().setLowSpaceAlerts(false);
-  AppSettings::instance().setSchedule(AppSettings::Weekly);
-  AppSettings::instance().setLastScan(QDateTime::currentDateTime().addDays(-30));
-  afterStart(m_window.get(), m_state.get(), {.updated = true});
-  QCOMPARE(toastText(), u"Tarnwick was updated to version 1.0.0."_s);
-  QCOMPARE(m_state->phase, AppState::Scanning);
-}
-
-void TestMainWindow::scanWithButton() {
-  m_window->go(Sidebar::Cleanup);
-  click(*m_window, u"Start Smart Scan"_s);
-  QTRY_COMPARE(m_state->phase, AppState::Review);
-}
-
-void TestMainWindow::journeyByMouse() {
-  scanWithButton();
-  const qint64 selected = m_state->selectedBytes();
-  QVERIFY(selected > 0);
-  QVERIFY(m_window->findChildren<NavButton*>()[1]->badge().size() > 0);
-  Button* clean = nullptr;
-  for (Button* one : m_window->findChildren<Button*>())
-    if (one->text().startsWith(u"Clean "_s) && one->isVisible()) clean = one;
-  QVERIFY(clean && clean->isEnabled());
-  QTest::mouseClick(clean, Qt::LeftButton);
-  QVERIFY(question());
-  click(*question(), u"Clean and delete"_s);
-  QTRY_COMPARE(m_state->phase, AppState::Done);
-  QVERIFY(!there(u".cache/acme-notes/index"_s));
-  QVERIFY(there(u".cache/pip/http/1"_s));            // to be reviewed, so not recommended
-  QVERIFY(there(u"Downloads/tool_1.0_amd64.deb"_s)); // as well
-  QVERIFY(there(u".local/share/Trash/files/old-letter.odt"_s));
-  QVERIFY(there(u"Documents/book.odt"_s));
-  QVERIFY(QFile::exists(m_state->report.logPath));
-  QCOMPARE(AppSettings::instance().freedHistory(1).last(), m_state->report.freedBytes);
-  click(*m_window, u"Done"_s);
-  QCOMPARE(m_window->page(), int(Sidebar::Overview));
-  QCOMPARE(m_state->phase, AppState::Review); // what was not cleaned is still there
-}
-
-void TestMainWindow::journeyByKeyboard() {
-  m_window->activateWindow();
-  tabTo(*m_window, u"Smart Scan"_s);
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down); // among the pages, arrow keys go on
-  QCOMPARE(m_window->page(), int(Sidebar::Cleanup));
-  tabTo(*m_window, u"Start Smart Scan"_s);
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-  QTRY_COMPARE(m_state->phase, AppState::Review);
-  tabTo(*m_window, u"Clean "_s);
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-  QVERIFY(question());
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); // the default action
-  QTRY_COMPARE(m_state->phase, AppState::Done);
-  QVERIFY(!there(u".cache/acme-notes/index"_s));
-  tabTo(*m_window, u"Done"_s);
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-  QCOMPARE(m_window->page(), int(Sidebar::Overview));
-}
-
-void TestMainWindow::escapeLeavesTheQuestion() {
-  scanWithButton();
-  emit m_window->findChild<CleanupPage*>()->confirmRequested();
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-  QTRY_VERIFY(!question());
-  QCOMPARE(m_state->phase, AppState::Review);
-  QVERIFY(there(u".cache/acme-notes/index"_s));
 }
 
 int main(int argc, char** argv) { return uitest::run<TestMainWindow>(argc, argv); }

@@ -1,21 +1,8 @@
-// The window's commands: one table for the menu bar, the shortcuts and the list of them; every shortcut is pressed on a
-// real window, and every entry of the title bar's menu is used.
-#include "app/AppState.h"
-#include "app/identity.h"
-#include "engines/Cleaner.h"
+// The window's commands: one table for the menu bar and the shortcuts, each of which is pressed on a real window.
+#include "MenusTest.h"
 #include "engines/LargeFileFinder.h"
-#include "support/Desktop.h"
-#include "support/pixels.h"
-#include "support/uitest.h"
-#include "support/window.h"
-#include "ui/Theme.h"
 #include "ui/controls/Button.h"
-#include "ui/shell/AboutDialog.h"
-#include "ui/shell/AppMenu.h"
 #include "ui/shell/CommandSet.h"
-#include "ui/shell/KeyCaps.h"
-#include "ui/shell/MainWindow.h"
-#include "ui/shell/ShortcutsOverlay.h"
 #include "ui/shell/Sidebar.h"
 
 #include <QClipboard>
@@ -23,7 +10,6 @@
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QSet>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QStackedWidget>
 
@@ -50,23 +36,15 @@ class Editable : public QWidget {
   void selectAll() { called << u"selectAll"_s; }
 };
 
-AppMenu* openMenu() { return qobject_cast<AppMenu*>(QApplication::activePopupWidget()); }
-
-QAction* entryOf(const QMenu* menu, const QString& text) {
-  for (QAction* action : menu->actions())
-    if (action->text() == text) return action;
-  return nullptr;
-}
-
 } // namespace
 
-class TestMenus : public QObject {
+class TestMenus : public MenusTest {
   Q_OBJECT
 
  private slots:
   void initTestCase() { Theme::get().install(qApp); }
-  void init();
-  void cleanup();
+  void init() { make(); }
+  void cleanup() { drop(); }
 
   void menuBarAsDesigned();
   void menuBarActs();
@@ -93,69 +71,7 @@ class TestMenus : public QObject {
   void lineEditKeepsItsKeys();
   void pagesRestUnderADialog();
   void windowKeysWorkUnderADialog();
-  void appMenuRows();
-  void appMenuMirrored();
-  void appMenuEntriesAct();
-  void appMenuUnderADialog();
-  void appMenuByKey();
-  void helpMenu();
-  void shortcutsAreListed();
-  void shortcutsByKey();
-  void keyNamesAreSplit_data();
-  void keyNamesAreSplit();
-  void capsStandInARow();
-  void shortcutsFitTheSmallestWindow();
-
- private:
-  void press(const QKeySequence& keys) const {
-    QWidget* focused = QApplication::focusWidget();
-    QTest::keySequence(focused ? focused : m_window.get(), keys);
-  }
-  void press(const char* keys) const { press(QKeySequence(QString::fromLatin1(keys))); }
-  void press(Id id) const {
-    const QList<QKeySequence> keys = commands::keysOf(*commands::entry(id));
-    QVERIFY(!keys.isEmpty());
-    press(keys.first());
-  }
-  [[nodiscard]] bool hasPage(int page) const {
-    const int before = m_window->page();
-    m_window->go(page);
-    const bool has = m_window->page() == page;
-    m_window->go(before);
-    return has;
-  }
-  [[nodiscard]] QList<Overlay*> dialogs() const { return m_window->findChildren<Overlay*>(); }
-  AppMenu* showMenu() const {
-    m_window->showAppMenu(m_window->mapToGlobal(QPoint(200, 60)));
-    return openMenu();
-  }
-  void choose(const QStringList& way) const;
-
-  std::unique_ptr<FixtureHome> m_home;
-  std::unique_ptr<AppState> m_state;
-  std::unique_ptr<MainWindow> m_window;
 };
-
-void TestMenus::init() {
-  m_home = std::make_unique<FixtureHome>();
-  QSettings().clear();
-  pixels::setLook(false);
-  m_home->file(u".cache/acme/1"_s);
-  AppSettings::instance().setExclusions(FixtureHome::rulesForOutside());
-  CleanerWorld world;
-  world.lockPath = m_home->outside(u"clean.lock"_s);
-  m_state = std::make_unique<AppState>(nullptr, world);
-  m_window = std::make_unique<MainWindow>(m_state.get());
-  m_window->show();
-  QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-}
-
-void TestMenus::cleanup() {
-  if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
-  m_window.reset();
-  m_state.reset();
-  m_home.reset();
-}
 
 // Menu, text, keys of ours, role; an empty text is a line.
 void TestMenus::menuBarAsDesigned() {
@@ -501,187 +417,6 @@ void TestMenus::windowKeysWorkUnderADialog() {
   QTRY_VERIFY(m_window->isMaximized());
   press(Id::CloseWindow);
   QVERIFY(m_window->isHidden());
-}
-
-void TestMenus::appMenuRows() {
-  const AppMenu* menu = showMenu();
-  QVERIFY(menu);
-  QStringList texts;
-  for (const QAction* action : menu->actions())
-    texts << (action->isSeparator() ? u"-"_s
-                                    : action->text() + u'|' + action->property("appMenuTrailingText").toString());
-  QCOMPARE(texts, (QStringList{u"Settings|"_s, u"-"_s, u"Check for Updates|"_s, u"Help|"_s,
-                               u"About Tarnwick|"_s + identity::kVersion, u"-"_s, u"Quit Tarnwick|"_s}));
-  for (const QAction* action : menu->actions()) QCOMPARE(action->icon().isNull(), action->isSeparator());
-  QCOMPARE(menu->parentWidget(), m_window.get());
-  QCOMPARE(menu->pos(), m_window->mapToGlobal(QPoint(200, 60)) - QPoint(14, 10));
-  const auto* help = qobject_cast<AppMenu*>(entryOf(menu, u"Help"_s)->menu());
-  QVERIFY(help);
-  texts.clear();
-  for (const QAction* action : help->actions()) texts << action->text();
-  QCOMPARE(texts, (QStringList{u"Guide"_s, u"FAQ"_s, u"Open Log Folder"_s, u"Keyboard Shortcuts"_s}));
-  QPointer<AppMenu> gone = openMenu();
-  gone->close();
-  QTRY_VERIFY(!gone);
-}
-
-// The other upper corner of its card stands there.
-void TestMenus::appMenuMirrored() {
-  const pixels::Mirrored mirrored;
-  m_window->move(0, 0);
-  m_window->showAppMenu(QPoint(500, 60));
-  const AppMenu* menu = openMenu();
-  QVERIFY(menu);
-  QCOMPARE(menu->geometry().right() + 1 - 14, 500);
-  QCOMPARE(menu->y() + 10, 60);
-}
-
-/// Opens the menu and takes one entry after another, as the keyboard does.
-void TestMenus::choose(const QStringList& way) const {
-  QMenu* menu = showMenu();
-  for (const QString& text : way) {
-    QVERIFY2(menu, qPrintable(text));
-    QAction* action = entryOf(menu, text);
-    QVERIFY2(action, qPrintable(text));
-    menu->setActiveAction(action);
-    QTest::keyClick(menu, action->menu() ? Qt::Key_Right : Qt::Key_Return);
-    menu = action->menu();
-  }
-}
-
-void TestMenus::appMenuEntriesAct() {
-  const int wanted = hasPage(Sidebar::Settings) ? int(Sidebar::Settings) : m_window->page();
-  choose({u"Settings"_s});
-  QCOMPARE(m_window->page(), wanted);
-  choose({u"About Tarnwick"_s});
-  QVERIFY(m_window->findChild<AboutDialog*>());
-  dialogs().first()->close();
-  const Desktop desktop({u"https"_s, u"file"_s});
-  choose({u"Help"_s, u"Guide"_s});
-  choose({u"Help"_s, u"FAQ"_s});
-  choose({u"Help"_s, u"Open Log Folder"_s});
-  QCOMPARE(desktop.opened,
-           (QStringList{u"/guide/get-started-with-tarnwick/"_s, u"/support-center/"_s, Cleaner::logDir()}));
-  QTRY_VERIFY(dialogs().isEmpty());
-  choose({u"Help"_s, u"Keyboard Shortcuts"_s});
-  QVERIFY(m_window->findChild<ShortcutsOverlay*>());
-  QSignalSpy leaving(qApp, &QCoreApplication::aboutToQuit);
-  QTimer::singleShot(0, m_window.get(), [this] { choose({u"Quit Tarnwick"_s}); });
-  QApplication::exec();
-  QCOMPARE(leaving.count(), 1);
-}
-
-void TestMenus::appMenuUnderADialog() {
-  m_window->showAbout();
-  const AppMenu* menu = showMenu();
-  for (const QString& text : {u"Settings"_s, u"Check for Updates"_s, u"About Tarnwick"_s})
-    QVERIFY2(!entryOf(menu, text)->isEnabled(), qPrintable(text));
-  QVERIFY(entryOf(menu, u"Quit Tarnwick"_s)->isEnabled());
-  const QMenu* help = entryOf(menu, u"Help"_s)->menu();
-  QVERIFY(entryOf(help, u"Guide"_s)->isEnabled());
-  QVERIFY(!entryOf(help, u"Keyboard Shortcuts"_s)->isEnabled());
-}
-
-void TestMenus::appMenuByKey() {
-  press("F10");
-  QVERIFY(openMenu());
-  QCOMPARE(openMenu()->activeAction(), openMenu()->actions().first());
-  QTest::keyClick(openMenu(), Qt::Key_Escape);
-  QVERIFY(!QApplication::activePopupWidget());
-  m_window->showAbout();
-  press("F10");
-  QVERIFY(openMenu());
-  QCOMPARE(openMenu()->activeAction()->text(), u"Quit Tarnwick"_s); // the first that can be chosen
-}
-
-void TestMenus::helpMenu() {
-  AppMenu* menu = showMenu();
-  menu->setActiveAction(entryOf(menu, u"Help"_s));
-  QTest::keyClick(menu, Qt::Key_Right);
-  auto* help = qobject_cast<AppMenu*>(QApplication::activePopupWidget());
-  QVERIFY(help && help != menu);
-  QCOMPARE(entryOf(help, u"Keyboard Shortcuts"_s)->property("appMenuTrailingText").toString(), u"Ctrl+?"_s);
-}
-
-// Every command with keys, and no other, is on the list, with its first keys.
-void TestMenus::shortcutsAreListed() {
-  m_window->setSidebarCollapsed(true);
-  m_window->showShortcuts();
-  const auto* list = m_window->findChild<ShortcutsOverlay*>();
-  QVERIFY(list && list->isVisible());
-  QCOMPARE(list->accessibleName(), u"Keyboard shortcuts"_s);
-  const QStringList texts = windowtest::shownTexts(*list);
-  QStringList shown;
-  for (const KeyCaps* caps : list->findChildren<KeyCaps*>()) shown << caps->shownText();
-  QStringList wanted;
-  for (const QAction* action : m_window->actions()) {
-    if (action->shortcut().isEmpty()) continue;
-    wanted << action->shortcut().toString(QKeySequence::NativeText);
-    QString text = action->text();
-    QVERIFY2(texts.contains(text.remove(u'…')), qPrintable(text));
-  }
-  shown.sort();
-  wanted.sort();
-  QCOMPARE(shown, wanted);
-  for (const char* keys : {"Ctrl+Shift+L", "Ctrl+W", "Ctrl+Shift+Z"}) // of several, the one that everybody knows
-    QVERIFY2(shown.contains(QString::fromLatin1(keys)), keys);
-  for (const char* title : {"File", "Edit", "View", "Window", "Help", "Show Sidebar", "Keyboard shortcuts"})
-    QVERIFY2(texts.contains(QString::fromLatin1(title)), title);
-  QVERIFY(!texts.contains(u"Zoom"_s));
-}
-
-void TestMenus::shortcutsByKey() {
-  press("Ctrl+?");
-  QCOMPARE(m_window->findChildren<ShortcutsOverlay*>().size(), 1);
-  press("Ctrl+?");
-  QCOMPARE(m_window->findChildren<ShortcutsOverlay*>().size(), 1);
-  windowtest::press(*m_window, Qt::Key_Escape);
-  QTRY_VERIFY(!m_window->findChild<ShortcutsOverlay*>());
-  press("Ctrl+?");
-  windowtest::press(*m_window, Qt::Key_Return); // the button to close it
-  QTRY_VERIFY(!m_window->findChild<ShortcutsOverlay*>());
-}
-
-void TestMenus::keyNamesAreSplit_data() {
-  QTest::addColumn<QString>("keys");
-  QTest::addColumn<QStringList>("names");
-  QTest::newRow("one") << u"F10"_s << QStringList{u"F10"_s};
-  QTest::newRow("three") << u"Ctrl+Shift+L"_s << QStringList{u"Ctrl"_s, u"Shift"_s, u"L"_s};
-  QTest::newRow("plus") << u"Ctrl++"_s << QStringList{u"Ctrl"_s, u"+"_s};
-  QTest::newRow("comma") << u"Ctrl+,"_s << QStringList{u"Ctrl"_s, u","_s};
-  QTest::newRow("none") << QString() << QStringList();
-}
-
-void TestMenus::keyNamesAreSplit() {
-  QFETCH(QString, keys);
-  QTEST(keyNames(QKeySequence(keys)), "names");
-}
-
-void TestMenus::capsStandInARow() {
-  const QList<QRectF> boxes = keyCapsLayout({20, 3});
-  QCOMPARE(boxes, (QList<QRectF>{{0, 0, 34, 22}, {38, 0, 22, 22}}));
-  QVERIFY(keyCapsLayout({}).isEmpty());
-  KeyCaps caps(QKeySequence(u"Ctrl+R"_s));
-  caps.resize(caps.sizeHint());
-  QVERIFY(caps.width() > 22 + 4 + 22);
-  const QImage image = pixels::rendered(caps);
-  QVERIFY(pixels::count(image, image.rect(), Theme::get().surface2) > 0);
-  QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
-  const QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(&caps);
-  QCOMPARE(heard->text(QAccessible::Name), u"Ctrl+R"_s);
-}
-
-void TestMenus::shortcutsFitTheSmallestWindow() {
-  m_window->resize(m_window->minimumSize());
-  for (const bool mac : {true, false}) {
-    Theme::get().mac = mac;
-    m_window->showShortcuts();
-    const auto* list = m_window->findChild<ShortcutsOverlay*>();
-    QTRY_VERIFY(list->rect().contains(list->panel->geometry()));
-    dialogs().first()->close();
-    QTRY_VERIFY(dialogs().isEmpty());
-  }
-  Theme::get().mac = true;
 }
 
 int main(int argc, char** argv) { return uitest::run<TestMenus>(argc, argv); }
