@@ -1,5 +1,6 @@
 // "Restart now": the program starts itself anew for another language, and its guard against a second start lets the new
 // one be the first. The programs are this test program itself, started as a child, which write down who they are.
+#include "ProgramTest.h"
 #include "app/AppSettings.h"
 #include "core/login.h"
 #include "support/FixtureHome.h"
@@ -9,7 +10,6 @@
 #include "ui/shell/Instance.h"
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/Sidebar.h"
-#include "ui/shell/program.h"
 
 #include <QApplication>
 #include <QDir>
@@ -23,14 +23,13 @@
 #include <csignal>
 
 using namespace Qt::StringLiterals;
+using programtest::kLookMs;
+using programtest::kPatienceMs;
 using namespace std::chrono_literals;
 
 namespace {
 
-constexpr char kStore[] = "TARNWICK_TEST_STORE"; // folder of the settings; set in a child
-constexpr char kLog[] = "TARNWICK_TEST_LOG";     // a line for each child with a window: its process, its language
-constexpr int kPatienceMs = 60'000;
-constexpr int kLookMs = 20;
+constexpr char kLog[] = "TARNWICK_TEST_LOG"; // a line for each child with a window: its process, its language
 
 ui::MainWindow* mainWindow() {
   for (QWidget* one : QApplication::topLevelWidgets())
@@ -83,12 +82,9 @@ class TestRestart : public QObject {
 
  private:
   void start(QProcess* process, const QStringList& arguments = {}) const {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QString::fromLatin1(kStore), QFileInfo(QFileInfo(QSettings().fileName()).path()).path());
-    environment.insert(QString::fromLatin1(kLog), m_log);
-    process->setProcessEnvironment(environment);
-    process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process->start(QCoreApplication::applicationFilePath(), arguments);
+    QProcessEnvironment further;
+    further.insert(QString::fromLatin1(kLog), m_log);
+    programtest::start(process, arguments, further);
   }
   [[nodiscard]] QList<QByteArray> lines() const {
     QList<QByteArray> all = settingsstore::bytes(m_log).split('\n');
@@ -150,19 +146,6 @@ void TestRestart::entryForTheLoginIsKeptTrue() {
   QTRY_COMPARE_WITH_TIMEOUT(program.state(), QProcess::NotRunning, kPatienceMs);
 }
 
-int main(int argc, char** argv) {
-  if (!qEnvironmentVariableIsSet(kStore)) {
-    QCoreApplication::setApplicationName(u"Tarnwick"_s);
-    QCoreApplication::setOrganizationName(u"Tarnwick"_s);
-    for (const char* name : {"DBUS_SESSION_BUS_ADDRESS", "TARNWICK_LANG", "TARNWICK_LOOK"}) qunsetenv(name);
-    QCoreApplication app(argc, argv);
-    TestRestart test;
-    return QTest::qExec(&test, argc, argv);
-  }
-  QSettings::setDefaultFormat(QSettings::IniFormat);
-  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, qEnvironmentVariable(kStore));
-  qAddPreRoutine(work);
-  return ui::runProgram(argc, argv);
-}
+int main(int argc, char** argv) { return programtest::run<TestRestart>(argc, argv, work); }
 
 #include "tst_Restart.moc"

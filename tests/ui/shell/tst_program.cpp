@@ -1,8 +1,7 @@
 // ctest: RESOURCE_LOCK clean
 // The program as it runs: started, started again, stopped while it works. It is this test program itself, started as a
 // child, which tells on its standard output what its window shows.
-#include "ui/shell/program.h"
-
+#include "ProgramTest.h"
 #include "app/AppSettings.h"
 #include "engines/Cleaner.h"
 #include "support/SampleHome.h"
@@ -24,13 +23,12 @@
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
+using programtest::kLookMs;
+using programtest::kPatienceMs;
 
 namespace {
 
-constexpr char kStore[] = "TARNWICK_TEST_STORE"; // folder of the settings; set in a child
 constexpr char kClean[] = "TARNWICK_TEST_CLEAN"; // set where the child is to clean what a scan finds
-constexpr int kPatienceMs = 60'000;
-constexpr int kLookMs = 20;
 
 ui::MainWindow* mainWindow() {
   for (QWidget* one : QApplication::topLevelWidgets())
@@ -84,12 +82,9 @@ QStringList slowPatterns() {
 class Start {
  public:
   explicit Start(const QStringList& arguments = {}, bool cleans = false) {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QString::fromLatin1(kStore), QFileInfo(QFileInfo(QSettings().fileName()).path()).path());
-    if (cleans) environment.insert(QString::fromLatin1(kClean), u"yes"_s);
-    m_process.setProcessEnvironment(environment);
-    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_process.start(QCoreApplication::applicationFilePath(), arguments);
+    QProcessEnvironment further;
+    if (cleans) further.insert(QString::fromLatin1(kClean), u"yes"_s);
+    programtest::start(&m_process, arguments, further);
   }
   ~Start() {
     m_process.kill();
@@ -260,19 +255,6 @@ void TestProgram::cleanIsStoppedWithItsLogWhole() {
   QCOMPARE(text.count("\nDELETED  " + QFile::encodeName(m_home.path(u".cache/notes-"_s))), kItems - left);
 }
 
-int main(int argc, char** argv) {
-  if (!qEnvironmentVariableIsSet(kStore)) {
-    QCoreApplication::setApplicationName(u"Tarnwick"_s);
-    QCoreApplication::setOrganizationName(u"Tarnwick"_s);
-    for (const char* name : {"DBUS_SESSION_BUS_ADDRESS", "TARNWICK_LANG", "TARNWICK_LOOK"}) qunsetenv(name);
-    QCoreApplication app(argc, argv);
-    TestProgram test;
-    return QTest::qExec(&test, argc, argv);
-  }
-  QSettings::setDefaultFormat(QSettings::IniFormat);
-  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, qEnvironmentVariable(kStore));
-  qAddPreRoutine(watch);
-  return ui::runProgram(argc, argv);
-}
+int main(int argc, char** argv) { return programtest::run<TestProgram>(argc, argv, watch); }
 
 #include "tst_program.moc"
