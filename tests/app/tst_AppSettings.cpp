@@ -90,18 +90,7 @@ void tst_AppSettings::defaults() {
 
 void tst_AppSettings::roundTrips() {
   const QDateTime when(QDate(2024, 2, 29), QTime(12, 30, 1));
-  settings().setMoveToTrash(false);
-  settings().setExclusions({u"~/Keep, this"_s, u"*.iso"_s});
-  settings().setSchedule(AppSettings::Monthly);
-  settings().setLowSpaceAlerts(false);
-  settings().setStartAtLogin(true);
-  settings().setCloseAction(AppSettings::Quit);
-  settings().setShowInTray(false);
-  settings().setThemeMode(AppSettings::Dark);
-  settings().setLanguage(u"pt_BR"_s);
-  settings().setLargeFileMB(100);
-  settings().setOldMonths(24);
-  settings().setLastScan(when);
+  settingsstore::setAll(when);
 
   QCOMPARE(settings().moveToTrash(), false);
   QCOMPARE(settings().exclusions(), (QStringList{u"~/Keep, this"_s, u"*.iso"_s}));

@@ -174,18 +174,7 @@ void tst_AppSettings_damage::nothingIsWrittenOverIt() {
   const QByteArray memory = settingsstore::bytes(settings().memoryPath());
   for (const QByteArray& text : {QByteArray("broken"), QByteArray(), QByteArray("[ui]\ntheme=1\n")}) {
     write(text);
-    settings().setMoveToTrash(false);
-    settings().setExclusions({u"mine"_s});
-    settings().setSchedule(AppSettings::Monthly);
-    settings().setLowSpaceAlerts(false);
-    settings().setStartAtLogin(true);
-    settings().setCloseAction(AppSettings::Quit);
-    settings().setShowInTray(false);
-    settings().setThemeMode(AppSettings::Dark);
-    settings().setLanguage(u"ja"_s);
-    settings().setLargeFileMB(100);
-    settings().setOldMonths(24);
-    settings().setLastScan(QDateTime::currentDateTime());
+    settingsstore::setAll(QDateTime::currentDateTime());
     settings().addFreed(12);
     QCoreApplication::processEvents();
     QCOMPARE(bytes(), text);

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QObject>
+#include <QTest>
 
 #include <algorithm>
 #include <memory>
@@ -75,6 +76,17 @@ class SystemDataTest : public QObject {
     QFile file(m_home->file(tool("list"), 0));
     if (!file.open(QIODevice::WriteOnly)) qFatal("cannot write the list");
     file.write(list);
+  }
+
+  /// What must be true of every row before anything is measured.
+  void checkNothingIsMeasured() const {
+    for (const SystemDataItem& row : rows()) {
+      QCOMPARE(row.bytes, 0);
+      QCOMPARE(row.files, 0);
+      QCOMPARE(row.denied, false);
+      QCOMPARE(row.count, -1);
+      QCOMPARE(row.detail, QString());
+    }
   }
 
   [[nodiscard]] QList<SystemDataItem> rows() const { return systemdata::definitions(m_world); }

@@ -3,6 +3,7 @@
 
 #include "app/AppSettings.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
@@ -24,6 +25,23 @@ inline void forget() {
 inline void stayWithTheFirst() {
   const QString folder = QFileInfo(QFileInfo(AppSettings::instance().path()).path()).path();
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
+}
+
+/// Sets every setting but what was freed, each to another value than its default.
+inline void setAll(const QDateTime& lastScan) {
+  AppSettings& settings = AppSettings::instance();
+  settings.setMoveToTrash(false);
+  settings.setExclusions({QStringLiteral("~/Keep, this"), QStringLiteral("*.iso")});
+  settings.setSchedule(AppSettings::Monthly);
+  settings.setLowSpaceAlerts(false);
+  settings.setStartAtLogin(true);
+  settings.setCloseAction(AppSettings::Quit);
+  settings.setShowInTray(false);
+  settings.setThemeMode(AppSettings::Dark);
+  settings.setLanguage(QStringLiteral("pt_BR"));
+  settings.setLargeFileMB(100);
+  settings.setOldMonths(24);
+  settings.setLastScan(lastScan);
 }
 
 inline QByteArray bytes(const QString& path) {
