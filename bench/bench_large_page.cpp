@@ -88,11 +88,7 @@ bench::Clock timed(std::vector<double>* ms, Action action) {
 } // namespace
 
 int main(int argc, char** argv) {
-  bench::withoutScreen("2");
-  QApplication app(argc, argv);
-  const bench::OwnSettings settings;
-  QApplication::setStyle(u"Fusion"_s);
-  records::registerMetaTypes();
+  const bench::Application app(argc, argv, "2");
   AppState state;
   state.largeFiles = files();
   state.largeScanned = true;
@@ -109,7 +105,7 @@ int main(int argc, char** argv) {
   const auto plain = bench::inTurns(
       kRounds, [&](int round) { scroll(table, round); }, [&](int round) { scroll(stock.table(), round); });
 
-  Theme::get().install(&app); // as in the program
+  Theme::get().install(qApp); // as in the program
   QApplication::processEvents();
   const auto dressed = bench::inTurns(
       kRounds, [&](int round) { scroll(table, round); }, [&](int round) { scroll(stock.table(), round); });

@@ -5,8 +5,6 @@
 
 #include "window.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int kRounds = 31;
@@ -18,18 +16,15 @@ void setLook(int round) {
 } // namespace
 
 int main(int argc, char** argv) {
-  bench::withoutScreen("1");
-  QApplication app(argc, argv);
-  const bench::OwnSettings settings;
-  QApplication::setStyle(u"Fusion"_s);
-  Theme::get().install(&app);
+  const bench::Application app(argc, argv, "1");
+  Theme::get().install(qApp);
   gallery::Sheet sheet;
   sheet.show();
   QApplication::processEvents();
 
   // Each round changes the look, and then sets the sheet of the look that it came to.
   const auto [ours, peer] =
-      bench::inTurns(kRounds, setLook, [&](int) { app.setStyleSheet(Theme::get().styleSheet()); });
+      bench::inTurns(kRounds, setLook, [&](int) { qApp->setStyleSheet(Theme::get().styleSheet()); });
   std::printf("name=refresh widgets=%lld ms=%.1f sheet_ms=%.1f ratio=%.2f peak_kib=%ld\n",
               static_cast<long long>(QApplication::allWidgets().size()), ours, peer, ours / peer, bench::peakKib());
 }

@@ -64,11 +64,8 @@ class Findings {
 } // namespace
 
 int main(int argc, char** argv) {
-  bench::withoutScreen("1");
-  QApplication app(argc, argv);
-  const bench::OwnSettings settings;
-  QApplication::setStyle(u"Fusion"_s);
-  Theme::get().install(&app);
+  const bench::Application app(argc, argv, "1");
+  Theme::get().install(qApp);
   Findings many(kMany);
   Findings few(kFew);
 

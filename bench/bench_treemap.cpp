@@ -58,10 +58,7 @@ void show(QWidget* widget) {
 } // namespace
 
 int main(int argc, char** argv) {
-  bench::withoutScreen("2");
-  const QApplication app(argc, argv);
-  const bench::OwnSettings settings;
-  QApplication::setStyle(u"Fusion"_s);
+  const bench::Application app(argc, argv, "2");
   Theme::get().refresh(); // colours alone: the table is painted without a style sheet
   ui::Treemap map;
   const QSet<QString> selected = fill(&map);

@@ -110,12 +110,8 @@ class Findings : public QObject {
 } // namespace
 
 int main(int argc, char** argv) {
-  bench::withoutScreen("2");
-  QApplication app(argc, argv);
-  const bench::OwnSettings settings;
-  QApplication::setStyle(u"Fusion"_s);
-  records::registerMetaTypes();
-  Theme::get().install(&app);
+  const bench::Application app(argc, argv, "2");
+  Theme::get().install(qApp);
   Findings many(kMany);
   Findings few(kFew);
 

@@ -138,18 +138,14 @@ int main(int argc, char** argv) {
   const char* tree = bench::folderArgument(argc, argv);
   const QTemporaryDir home(u"/var/tmp/tarnwick-bench-home-XXXXXX"_s);
   bench::moveInto(home.path(), QString::fromLocal8Bit(tree));
-  bench::withoutScreen("2");
-  QApplication app(argc, argv);
-  const bench::OwnSettings settings;
-  QApplication::setStyle(u"Fusion"_s);
-  records::registerMetaTypes();
+  const bench::Application app(argc, argv, "2");
 
   Heartbeat unseen;
   const double unseenMs = scanUnseen(&unseen);
   Heartbeat bare;
   waitFor(int(unseenMs), &bare);
 
-  Theme::get().install(&app);
+  Theme::get().install(qApp);
   AppState state;
   ui::MainWindow window(&state);
   window.show();

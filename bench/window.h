@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/identity.h"
+#include "app/records.h"
 #include "figure.h"
 
 #include <QApplication>
@@ -19,7 +20,7 @@ namespace bench {
 /// What the platform says of itself isn't a figure.
 inline void silence(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*text*/) {}
 
-/// Before the application. @param scale  pixels of the screen to a logical one
+/// @param scale  pixels of the screen to a logical one
 inline void withoutScreen(const char* scale) {
   qInstallMessageHandler(silence);
   qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -39,6 +40,21 @@ class OwnSettings {
 
  private:
   QTemporaryDir m_folder;
+};
+
+/// An application as the program makes it, but without a screen and with settings of its own.
+class Application {
+ public:
+  /// @param scale  pixels of the screen to a logical one
+  Application(int argc, char** argv, const char* scale) : m_argc((withoutScreen(scale), argc)), m_app(m_argc, argv) {
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    records::registerMetaTypes();
+  }
+
+ private:
+  int m_argc; // which the application keeps a reference to
+  QApplication m_app;
+  OwnSettings m_settings;
 };
 
 /// Medians of what was timed, in ms.
