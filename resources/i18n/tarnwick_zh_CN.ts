@@ -70,7 +70,7 @@
     </message>
     <message>
         <source>Data apps keep to load faster. Apps rebuild these automatically the next time they need them.</source>
-        <translation>应用为加快加载而保存的数据。下次需要时，应用会自动重新生成。</translation>
+        <translation>应用为加快加载速度而保留的数据。下次需要时，应用会自动重新生成。</translation>
     </message>
     <message>
         <source>Browser caches</source>
@@ -78,7 +78,7 @@
     </message>
     <message>
         <source>Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched.</source>
-        <translation>缓存的图像、脚本和网页。登录状态、历史记录、书签和密码绝不会受影响。</translation>
+        <translation>缓存的图像、脚本和网页。绝不会改动登录状态、历史记录、书签和密码。</translation>
     </message>
     <message>
         <source>Logs &amp; crash reports</source>
@@ -110,7 +110,7 @@
     </message>
     <message>
         <source>Items you have already deleted. Emptying cannot be undone.</source>
-        <translation>你已删除的项目。清倒后无法撤销。</translation>
+        <translation>你已删除的项目。清空后无法撤销。</translation>
     </message>
     <message>
         <source>QuickLook cache</source>
@@ -122,11 +122,11 @@
     </message>
     <message>
         <source>Disk images and installer packages in your Downloads folder. Review in case you still need an installer.</source>
-        <translation>“下载”文件夹中的磁盘映像和安装包。请检查是否还需要其中的安装程序。</translation>
+        <translation>“下载”文件夹中的磁盘映像和安装包。请先检查，其中可能有你还需要的安装包。</translation>
     </message>
     <message>
         <source>Software packages and disc images in your Downloads folder. Review in case you still need one of them.</source>
-        <translation>“下载”文件夹中的软件包和光盘映像。请检查是否还需要其中的文件。</translation>
+        <translation>“下载”文件夹中的软件包和光盘映像。请先检查，其中可能有你还需要的文件。</translation>
     </message>
     <message>
         <source>Safe</source>
@@ -303,7 +303,7 @@
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
-        <translation>部分文件属于系统，未作处理。</translation>
+        <translation>部分文件属于系统，未作改动。</translation>
     </message>
     <message>
         <source>These files need administrator rights.</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
-        <translation>仅限这些类别；清理时全部处理，包括未经指定绝不清理的类别</translation>
+        <translation>仅检查这些类别；清理时会全部清理，包括未经指定绝不清理的类别</translation>
     </message>
     <message>
         <source>never touch what this rule names, beside the rules in the settings; repeatable</source>
@@ -712,7 +712,7 @@
     <message>
         <source>%1 is running, so %2 of its data will stay.</source>
         <extracomment>%1: an app; %2: a size</extracomment>
-        <translation>%1 正在运行，因此将保留其 %2 数据。</translation>
+        <translation>%1 正在运行，因此其数据中有 %2 将会保留。</translation>
     </message>
     <message>
         <source>Left alone unless you name it: %1. To clean it: --only %2</source>
@@ -747,7 +747,7 @@
     </message>
     <message>
         <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation>移到废纸篓的内容在清倒之前仍会占用空间。</translation>
+        <translation>在清空废纸篓之前，移到其中的内容仍会占用空间。</translation>
     </message>
     <message>
         <source>Scanned in %1. Nothing was changed.</source>
@@ -784,7 +784,7 @@
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
-        <translation>部分文件属于系统，未作处理。</translation>
+        <translation>部分文件属于系统，未作改动。</translation>
     </message>
     <message>
         <source>Log: %1</source>
@@ -1249,7 +1249,7 @@
     </message>
     <message>
         <source>Keep Tarnwick running?</source>
-        <translation>让 Tarnwick 继续运行？</translation>
+        <translation>要让 Tarnwick 继续运行吗？</translation>
     </message>
     <message>
         <source>Tarnwick can stay in the system tray when you close the window, so scheduled scans and low space alerts keep working. You can open it again from the tray icon.</source>
@@ -1275,7 +1275,7 @@
     <message>
         <source>Emptying the %1 can&apos;t be undone. Everything else goes to the %1.</source>
         <extracomment>%1: the Trash</extracomment>
-        <translation>清倒%1的操作无法撤销。其他内容会移到%1。</translation>
+        <translation>清空%1的操作无法撤销。其他内容会移到%1。</translation>
     </message>
     <message>
         <source>Everything will be moved to the %1, so you can restore it later.</source>
@@ -1441,7 +1441,7 @@
         <source>Freed in the last %1 months</source>
         <extracomment>Said by a screen reader of a small chart; %1: 6</extracomment>
         <translation>
-            <numerusform>最近 %1 个月已释放</numerusform>
+            <numerusform>最近 %1 个月释放的空间</numerusform>
         </translation>
     </message>
     <message>
@@ -1686,7 +1686,7 @@
     </message>
     <message>
         <source>Scans when Tarnwick starts if the last scan is older than this. Never cleans on its own.</source>
-        <translation>如果上次扫描早于此间隔，Tarnwick 会在启动时扫描。绝不会自行清理。</translation>
+        <translation>如果距上次扫描已超过此间隔，Tarnwick 会在启动时扫描。绝不会自行清理。</translation>
     </message>
     <message>
         <source>Off</source>
@@ -1787,7 +1787,7 @@
     </message>
     <message>
         <source>Tarnwick restarts to switch languages.</source>
-        <translation>Tarnwick 会重新启动以切换语言。</translation>
+        <translation>Tarnwick 会重启以切换语言。</translation>
     </message>
     <message>
         <source>Protected system locations</source>
@@ -1796,7 +1796,7 @@
     <message>
         <source> — always skipped.</source>
         <extracomment>Follows a list of folders</extracomment>
-        <translation> — 始终跳过。</translation>
+        <translation>——始终跳过。</translation>
     </message>
     <message>
         <source>Protected apps</source>
@@ -1804,7 +1804,7 @@
     </message>
     <message>
         <source> — their data is never cleaned. Caches of running apps and open files are skipped too.</source>
-        <translation> — 绝不清理其数据。正在运行的应用的缓存和打开的文件也会跳过。</translation>
+        <translation>——绝不清理其数据。正在运行的应用的缓存和打开的文件也会跳过。</translation>
     </message>
     <message>
         <source>Open logs</source>
@@ -1836,7 +1836,7 @@
     </message>
     <message>
         <source>Never touch these</source>
-        <translation>绝不触碰的内容</translation>
+        <translation>绝不改动的内容</translation>
     </message>
     <message>
         <source>Folders and patterns Tarnwick always skips.</source>
@@ -1926,7 +1926,7 @@
     <message>
         <source>Done</source>
         <extracomment>State of a step of the scan, said by a screen reader</extracomment>
-        <translation>完成</translation>
+        <translation>已完成</translation>
     </message>
 </context>
 <context>
@@ -2040,7 +2040,7 @@
     </message>
     <message>
         <source>Caches that apps keep in your cache folder. The safe ones can be cleaned from Cleanup.</source>
-        <translation>应用保存在缓存文件夹中的缓存。可安全清理的部分可在“清理”页面中清理。</translation>
+        <translation>应用保存在缓存文件夹中的缓存。其中安全的部分可在“清理”页面中清理。</translation>
     </message>
     <message>
         <source>Hidden folders in your home folder</source>
@@ -2104,7 +2104,7 @@
     </message>
     <message>
         <source>Settings that apps keep for you; some keep profiles and caches beside them. An app without its settings starts afresh.</source>
-        <translation>应用为你保存的设置；有些应用还会同时保存个人资料和缓存。没有设置的应用会从头开始。</translation>
+        <translation>应用为你保存的设置；有些应用还会同时保存个人资料和缓存。应用失去设置后会回到初始状态。</translation>
     </message>
     <message>
         <source>System journal</source>
@@ -2220,7 +2220,7 @@
     </message>
     <message>
         <source>Caches apps keep in your Library folder. The safe ones can be cleaned from Cleanup.</source>
-        <translation>应用保存在“资源库”文件夹中的缓存。可安全清理的部分可在“清理”页面中清理。</translation>
+        <translation>应用保存在“资源库”文件夹中的缓存。其中安全的部分可在“清理”页面中清理。</translation>
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .cache, .npm and .nvm. Caches are safe to clear; keep tool installs.</source>
@@ -2371,7 +2371,7 @@
     <message>
         <source>measured in System Data · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; you can act on</source>
         <extracomment>Follows a size in large figures; %2: a size; leave the tag as it is</extracomment>
-        <translation>系统数据（已计算） · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; 可由你处理</translation>
+        <translation>已计算的系统数据 · 其中 &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; 可由你处理</translation>
     </message>
     <message>
         <source>Working…</source>
@@ -2407,11 +2407,11 @@
     </message>
     <message>
         <source>Simulator devices whose iOS runtime is no longer installed will be deleted, with their apps and data.</source>
-        <translation>iOS 运行时已不存在的模拟器设备将连同其应用和数据一并删除。</translation>
+        <translation>iOS 运行时已不再安装的模拟器设备将连同其应用和数据一并删除。</translation>
     </message>
     <message>
         <source>%1 will be moved to the Trash. Xcode recreates it when you connect a device again.</source>
-        <translation>将有 %1 移到废纸篓。再次连接设备时，Xcode 会重新创建。</translation>
+        <translation>%1 的数据将移到废纸篓。再次连接设备时，Xcode 会重新创建这些数据。</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
@@ -2537,7 +2537,7 @@
     <message>
         <source>Could not save the update: %1</source>
         <extracomment>%1: what the system says about it</extracomment>
-        <translation>无法存储更新：%1</translation>
+        <translation>无法保存更新：%1</translation>
     </message>
     <message>
         <source>The update could not be downloaded: %1</source>

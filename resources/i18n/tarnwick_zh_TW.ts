@@ -78,7 +78,7 @@
     </message>
     <message>
         <source>Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched.</source>
-        <translation>快取的影像、指令碼和網頁。登入狀態、瀏覽記錄、書籤和密碼絕不會受影響。</translation>
+        <translation>快取的影像、指令碼和網頁。絕不會更動登入狀態、瀏覽記錄、書籤和密碼。</translation>
     </message>
     <message>
         <source>Logs &amp; crash reports</source>
@@ -122,11 +122,11 @@
     </message>
     <message>
         <source>Disk images and installer packages in your Downloads folder. Review in case you still need an installer.</source>
-        <translation>「下載項目」資料夾中的磁碟映像檔和安裝套件。請檢查是否還需要其中的安裝程式。</translation>
+        <translation>「下載項目」資料夾中的磁碟映像檔和安裝套件。請先檢查，其中可能有您還需要的安裝檔。</translation>
     </message>
     <message>
         <source>Software packages and disc images in your Downloads folder. Review in case you still need one of them.</source>
-        <translation>「下載」資料夾中的軟體套件和光碟映像檔。請檢查是否還需要其中的檔案。</translation>
+        <translation>「下載」資料夾中的軟體套件和光碟映像檔。請先檢查，其中可能有您還需要的檔案。</translation>
     </message>
     <message>
         <source>Safe</source>
@@ -303,7 +303,7 @@
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
-        <translation>部分檔案屬於系統，未予處理。</translation>
+        <translation>部分檔案屬於系統，未予更動。</translation>
     </message>
     <message>
         <source>These files need administrator rights.</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
-        <translation>僅限這些類別；清理時全部處理，包括未經指定絕不清理的類別</translation>
+        <translation>僅檢查這些類別；清理時會全部清理，包括未經指定絕不清理的類別</translation>
     </message>
     <message>
         <source>never touch what this rule names, beside the rules in the settings; repeatable</source>
@@ -501,7 +501,7 @@
     </message>
     <message>
         <source>one JSON object on standard output</source>
-        <translation>在標準輸出寫入一個 JSON 物件</translation>
+        <translation>將一個 JSON 物件寫入標準輸出</translation>
     </message>
     <message>
         <source>%1 and %2</source>
@@ -712,7 +712,7 @@
     <message>
         <source>%1 is running, so %2 of its data will stay.</source>
         <extracomment>%1: an app; %2: a size</extracomment>
-        <translation>%1 正在執行，因此將保留其 %2 資料。</translation>
+        <translation>%1 正在執行，因此其資料中有 %2 將會保留。</translation>
     </message>
     <message>
         <source>Left alone unless you name it: %1. To clean it: --only %2</source>
@@ -747,7 +747,7 @@
     </message>
     <message>
         <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation>移到垃圾桶的項目在清空之前仍會佔用空間。</translation>
+        <translation>在清空垃圾桶之前，移到其中的項目仍會佔用空間。</translation>
     </message>
     <message>
         <source>Scanned in %1. Nothing was changed.</source>
@@ -784,7 +784,7 @@
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
-        <translation>部分檔案屬於系統，未予處理。</translation>
+        <translation>部分檔案屬於系統，未予更動。</translation>
     </message>
     <message>
         <source>Log: %1</source>
@@ -1249,7 +1249,7 @@
     </message>
     <message>
         <source>Keep Tarnwick running?</source>
-        <translation>讓 Tarnwick 繼續執行？</translation>
+        <translation>要讓 Tarnwick 繼續執行嗎？</translation>
     </message>
     <message>
         <source>Tarnwick can stay in the system tray when you close the window, so scheduled scans and low space alerts keep working. You can open it again from the tray icon.</source>
@@ -1441,7 +1441,7 @@
         <source>Freed in the last %1 months</source>
         <extracomment>Said by a screen reader of a small chart; %1: 6</extracomment>
         <translation>
-            <numerusform>最近 %1 個月已釋放</numerusform>
+            <numerusform>最近 %1 個月釋放的空間</numerusform>
         </translation>
     </message>
     <message>
@@ -1628,7 +1628,7 @@
     </message>
     <message>
         <source>Recommended. Turn off to delete files permanently.</source>
-        <translation>建議開啟。關閉後，檔案將永久刪除。</translation>
+        <translation>建議開啟。關閉後，檔案會永久刪除。</translation>
     </message>
     <message>
         <source>Large file size</source>
@@ -1686,7 +1686,7 @@
     </message>
     <message>
         <source>Scans when Tarnwick starts if the last scan is older than this. Never cleans on its own.</source>
-        <translation>如果上次掃描早於此間隔，Tarnwick 會在啟動時掃描。絕不會自行清理。</translation>
+        <translation>如果距離上次掃描已超過此間隔，Tarnwick 會在啟動時掃描。絕不會自行清理。</translation>
     </message>
     <message>
         <source>Off</source>
@@ -1796,7 +1796,7 @@
     <message>
         <source> — always skipped.</source>
         <extracomment>Follows a list of folders</extracomment>
-        <translation> — 一律略過。</translation>
+        <translation>——一律略過。</translation>
     </message>
     <message>
         <source>Protected apps</source>
@@ -1804,7 +1804,7 @@
     </message>
     <message>
         <source> — their data is never cleaned. Caches of running apps and open files are skipped too.</source>
-        <translation> — 絕不清理其資料。正在執行的應用程式的快取和開啟的檔案也會略過。</translation>
+        <translation>——絕不清理其資料。正在執行的應用程式的快取和開啟的檔案也會略過。</translation>
     </message>
     <message>
         <source>Open logs</source>
@@ -1926,7 +1926,7 @@
     <message>
         <source>Done</source>
         <extracomment>State of a step of the scan, said by a screen reader</extracomment>
-        <translation>完成</translation>
+        <translation>已完成</translation>
     </message>
 </context>
 <context>
@@ -2040,7 +2040,7 @@
     </message>
     <message>
         <source>Caches that apps keep in your cache folder. The safe ones can be cleaned from Cleanup.</source>
-        <translation>應用程式保存在快取資料夾中的快取。可安全清理的部分可在「清理」頁面中清理。</translation>
+        <translation>應用程式保存在快取資料夾中的快取。其中安全的部分可在「清理」頁面中清理。</translation>
     </message>
     <message>
         <source>Hidden folders in your home folder</source>
@@ -2104,7 +2104,7 @@
     </message>
     <message>
         <source>Settings that apps keep for you; some keep profiles and caches beside them. An app without its settings starts afresh.</source>
-        <translation>應用程式為您保存的設定；有些應用程式還會同時保存設定檔和快取。沒有設定的應用程式會從頭開始。</translation>
+        <translation>應用程式為您保存的設定；有些應用程式還會同時保存設定檔和快取。應用程式失去設定後會回到初始狀態。</translation>
     </message>
     <message>
         <source>System journal</source>
@@ -2220,7 +2220,7 @@
     </message>
     <message>
         <source>Caches apps keep in your Library folder. The safe ones can be cleaned from Cleanup.</source>
-        <translation>應用程式保存在「資源庫」資料夾中的快取。可安全清理的部分可在「清理」頁面中清理。</translation>
+        <translation>應用程式保存在「資源庫」資料夾中的快取。其中安全的部分可在「清理」頁面中清理。</translation>
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .cache, .npm and .nvm. Caches are safe to clear; keep tool installs.</source>
@@ -2280,7 +2280,7 @@
     </message>
     <message>
         <source>Swap files and the hibernation image. They grow and shrink with memory use and reset when you restart.</source>
-        <translation>置換檔和休眠映像檔。其大小隨記憶體使用情況增減，並在重新開機時重置。</translation>
+        <translation>置換檔和休眠映像檔。其大小隨記憶體使用情況增減，並在重新開機時重設。</translation>
     </message>
     <message>
         <source>macOS assets &amp; updates</source>
@@ -2371,7 +2371,7 @@
     <message>
         <source>measured in System Data · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; you can act on</source>
         <extracomment>Follows a size in large figures; %2: a size; leave the tag as it is</extracomment>
-        <translation>系統資料（已計算） · &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; 可由您處理</translation>
+        <translation>已計算的系統資料 · 其中 &lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; 可由您處理</translation>
     </message>
     <message>
         <source>Working…</source>
@@ -2407,11 +2407,11 @@
     </message>
     <message>
         <source>Simulator devices whose iOS runtime is no longer installed will be deleted, with their apps and data.</source>
-        <translation>iOS 執行環境已不存在的模擬器裝置，將連同其應用程式和資料一併刪除。</translation>
+        <translation>iOS 執行環境已不再安裝的模擬器裝置，將連同其應用程式和資料一併刪除。</translation>
     </message>
     <message>
         <source>%1 will be moved to the Trash. Xcode recreates it when you connect a device again.</source>
-        <translation>將有 %1 移到垃圾桶。再次連接裝置時，Xcode 會重新建立。</translation>
+        <translation>%1 的資料將移到垃圾桶。再次連接裝置時，Xcode 會重新建立這些資料。</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
