@@ -78,7 +78,7 @@
     </message>
     <message>
         <source>Browser caches</source>
-        <translation>Caché del navegador</translation>
+        <translation>Caché de navegadores</translation>
     </message>
     <message>
         <source>Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched.</source>
@@ -86,7 +86,7 @@
     </message>
     <message>
         <source>Logs &amp; crash reports</source>
-        <translation>Registros e informes</translation>
+        <translation>Registros y fallos</translation>
     </message>
     <message>
         <source>Diagnostic logs and crash reports. Useful only when troubleshooting a recent problem.</source>
@@ -344,7 +344,7 @@
     </message>
     <message>
         <source>Start Smart Scan</source>
-        <translation>Iniciar análisis</translation>
+        <translation>Iniciar análisis inteligente</translation>
     </message>
     <message>
         <source>Cleanup</source>
@@ -369,7 +369,7 @@
     <message>
         <source>Select recommended</source>
         <extracomment>Button: tick the recommended categories</extracomment>
-        <translation>Seleccionar recomendados</translation>
+        <translation>Selección recomendada</translation>
     </message>
     <message>
         <source>Rescan</source>
@@ -388,7 +388,7 @@
     <message>
         <source>%1 can be cleaned</source>
         <extracomment>Heading; %1: a size</extracomment>
-        <translation>Se pueden limpiar %1</translation>
+        <translation>%1 para limpiar</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected%3</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
-        <translation>analiza solo estas categorías; al limpiar se incluyen todas ellas, también las que nunca se limpian sin pedirlo</translation>
+        <translation>analiza solo estas categorías; al limpiar se incluyen todas ellas, también las que nunca se limpian si no lo pides</translation>
     </message>
     <message>
         <source>never touch what this rule names, beside the rules in the settings; repeatable</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>look for files that take at least so many megabytes on the disk, whatever the settings say</source>
-        <translation>busca archivos que ocupen al menos estos megabytes en el disco, digan lo que digan los ajustes</translation>
+        <translation>busca archivos que ocupen en el disco al menos este número de megabytes, digan lo que digan los ajustes</translation>
     </message>
     <message>
         <source>one JSON object on standard output</source>
@@ -567,7 +567,7 @@
     </message>
     <message>
         <source>--delete and --trash exclude each other</source>
-        <translation>--delete y --trash son incompatibles</translation>
+        <translation>--delete y --trash son incompatibles entre sí</translation>
     </message>
     <message>
         <source>--only wants ids of categories: %1</source>
@@ -833,8 +833,8 @@
         <source>Searched %1 in %2. Nothing was changed.</source>
         <extracomment>%1: “1 file” or “%1 files”, which the forms count; %2: a time such as “2.1 s”</extracomment>
         <translation>
-            <numerusform>%1 revisado en %2. No se ha cambiado nada.</numerusform>
-            <numerusform>%1 revisados en %2. No se ha cambiado nada.</numerusform>
+            <numerusform>%1 examinado en %2. No se ha cambiado nada.</numerusform>
+            <numerusform>%1 examinados en %2. No se ha cambiado nada.</numerusform>
         </translation>
     </message>
     <message>
@@ -1040,8 +1040,8 @@
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
         <extracomment>%2, %3: sizes; %4: how many files are listed, which the forms count; leave the tag as it is</extracomment>
         <translation>
-            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; de %3 · %4 archivo</numerusform>
-            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; de %3 · %4 archivos</numerusform>
+            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; seleccionados de %3 · %4 archivo</numerusform>
+            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; seleccionados de %3 · %4 archivos</numerusform>
         </translation>
     </message>
     <message>
@@ -1451,7 +1451,7 @@
     <message>
         <source>System files protected</source>
         <extracomment>Mark with a green dot: they are never touched</extracomment>
-        <translation>Sistema protegido</translation>
+        <translation>Archivos del sistema protegidos</translation>
     </message>
     <message numerus="yes">
         <source>Freed in the last %1 months</source>
@@ -1518,7 +1518,7 @@
     </message>
     <message>
         <source>Never scanned</source>
-        <translation>Sin analizar</translation>
+        <translation>Nunca analizado</translation>
     </message>
     <message>
         <source>Last scan</source>
@@ -1649,7 +1649,7 @@
     </message>
     <message>
         <source>Large file size</source>
-        <translation>Tamaño de archivo grande</translation>
+        <translation>Archivos grandes a partir de</translation>
     </message>
     <message>
         <source>Files bigger than this appear in Large &amp; Old Files.</source>
@@ -1833,11 +1833,11 @@
     </message>
     <message>
         <source>Every cleanup writes a log you can review. Tarnwick checks for updates when it starts.</source>
-        <translation>Cada limpieza escribe un registro que puedes consultar. Tarnwick busca actualizaciones al iniciarse.</translation>
+        <translation>Cada limpieza genera un registro que puedes consultar. Tarnwick busca actualizaciones al iniciarse.</translation>
     </message>
     <message>
         <source>Every cleanup writes a log you can review.</source>
-        <translation>Cada limpieza escribe un registro que puedes consultar.</translation>
+        <translation>Cada limpieza genera un registro que puedes consultar.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Rules have gone from the settings.&lt;/b&gt; Check that these are all of yours, and put back what is missing. Nothing is cleaned until then.</source>
@@ -1973,7 +1973,7 @@
     <message>
         <source>Clean in Cleanup</source>
         <extracomment>Button: go to the page Cleanup to clean it there</extracomment>
-        <translation>Limpiar en Limpieza</translation>
+        <translation>Ir a Limpieza</translation>
     </message>
     <message>
         <source>Open Xcode</source>
@@ -2000,8 +2000,8 @@
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count; %2: how many others</extracomment>
         <translation>
-            <numerusform>%1 movido a la Papelera; sin mover: %2</numerusform>
-            <numerusform>%1 movidos a la Papelera; sin mover: %2</numerusform>
+            <numerusform>%1 movido a la Papelera; no se ha podido mover: %2</numerusform>
+            <numerusform>%1 movidos a la Papelera; no se ha podido mover: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -2039,7 +2039,7 @@
     </message>
     <message>
         <source>No unavailable simulator devices — nothing to delete</source>
-        <translation>Ningún dispositivo de simulador no disponible: nada que eliminar</translation>
+        <translation>No hay dispositivos de simulador no disponibles: nada que eliminar</translation>
     </message>
     <message>
         <source>Deleted 1 unavailable simulator device</source>

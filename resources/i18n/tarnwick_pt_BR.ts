@@ -78,7 +78,7 @@
     </message>
     <message>
         <source>Browser caches</source>
-        <translation>Cache do navegador</translation>
+        <translation>Cache de navegadores</translation>
     </message>
     <message>
         <source>Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched.</source>
@@ -86,7 +86,7 @@
     </message>
     <message>
         <source>Logs &amp; crash reports</source>
-        <translation>Registros e relatórios</translation>
+        <translation>Registros e falhas</translation>
     </message>
     <message>
         <source>Diagnostic logs and crash reports. Useful only when troubleshooting a recent problem.</source>
@@ -118,7 +118,7 @@
     </message>
     <message>
         <source>QuickLook cache</source>
-        <translation>Cache do QuickLook</translation>
+        <translation>Cache da Visualização Rápida</translation>
     </message>
     <message>
         <source>Thumbnail cache</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>QuickLook thumbnails</source>
-        <translation>Miniaturas do QuickLook</translation>
+        <translation>Miniaturas da Visualização Rápida</translation>
     </message>
     <message>
         <source>Simulator caches</source>
@@ -344,7 +344,7 @@
     </message>
     <message>
         <source>Start Smart Scan</source>
-        <translation>Iniciar análise</translation>
+        <translation>Iniciar análise inteligente</translation>
     </message>
     <message>
         <source>Cleanup</source>
@@ -369,7 +369,7 @@
     <message>
         <source>Select recommended</source>
         <extracomment>Button: tick the recommended categories</extracomment>
-        <translation>Selecionar recomendados</translation>
+        <translation>Seleção recomendada</translation>
     </message>
     <message>
         <source>Rescan</source>
@@ -388,7 +388,7 @@
     <message>
         <source>%1 can be cleaned</source>
         <extracomment>Heading; %1: a size</extracomment>
-        <translation>É possível limpar %1</translation>
+        <translation>%1 para limpar</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected%3</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>Searches the home folder for large files, and changes nothing.</source>
-        <translation>Procura arquivos grandes na pasta pessoal, sem alterar nada.</translation>
+        <translation>Busca arquivos grandes na pasta pessoal, sem alterar nada.</translation>
     </message>
     <message>
         <source>Measures what makes up the system&apos;s share of the disk, and changes nothing.</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
-        <translation>analisa apenas estas categorias; ao limpar, inclui todas elas, também as que nunca são limpas sem um pedido</translation>
+        <translation>analisa apenas estas categorias; ao limpar, inclui todas elas, também as que nunca são limpas sem que você peça</translation>
     </message>
     <message>
         <source>never touch what this rule names, beside the rules in the settings; repeatable</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>look for files that take at least so many megabytes on the disk, whatever the settings say</source>
-        <translation>procura arquivos que ocupem pelo menos estes megabytes no disco, não importa o que digam os ajustes</translation>
+        <translation>busca arquivos que ocupem no disco pelo menos este número de megabytes, não importa o que digam os ajustes</translation>
     </message>
     <message>
         <source>one JSON object on standard output</source>
@@ -647,7 +647,7 @@
     <message>
         <source>Searching</source>
         <extracomment>What the program does now, in a line that tells how far it is</extracomment>
-        <translation>Procurando</translation>
+        <translation>Buscando</translation>
     </message>
     <message>
         <source>the scan was cancelled</source>
@@ -1040,13 +1040,13 @@
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
         <extracomment>%2, %3: sizes; %4: how many files are listed, which the forms count; leave the tag as it is</extracomment>
         <translation>
-            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; de %3 · %4 arquivo</numerusform>
-            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; de %3 · %4 arquivos</numerusform>
+            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selecionados de %3 · %4 arquivo</numerusform>
+            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selecionados de %3 · %4 arquivos</numerusform>
         </translation>
     </message>
     <message>
         <source>Looking for large files…</source>
-        <translation>Procurando arquivos grandes…</translation>
+        <translation>Buscando arquivos grandes…</translation>
     </message>
     <message>
         <source>Large files</source>
@@ -1451,7 +1451,7 @@
     <message>
         <source>System files protected</source>
         <extracomment>Mark with a green dot: they are never touched</extracomment>
-        <translation>Sistema protegido</translation>
+        <translation>Arquivos do sistema protegidos</translation>
     </message>
     <message numerus="yes">
         <source>Freed in the last %1 months</source>
@@ -1649,7 +1649,7 @@
     </message>
     <message>
         <source>Large file size</source>
-        <translation>Tamanho de arquivo grande</translation>
+        <translation>Arquivos grandes a partir de</translation>
     </message>
     <message>
         <source>Files bigger than this appear in Large &amp; Old Files.</source>
@@ -1973,7 +1973,7 @@
     <message>
         <source>Clean in Cleanup</source>
         <extracomment>Button: go to the page Cleanup to clean it there</extracomment>
-        <translation>Limpar em Limpeza</translation>
+        <translation>Ir para Limpeza</translation>
     </message>
     <message>
         <source>Open Xcode</source>
@@ -2000,8 +2000,8 @@
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count; %2: how many others</extracomment>
         <translation>
-            <numerusform>%1 movido para a Lixeira; não movidos: %2</numerusform>
-            <numerusform>%1 movidos para a Lixeira; não movidos: %2</numerusform>
+            <numerusform>%1 movido para a Lixeira; não foi possível mover: %2</numerusform>
+            <numerusform>%1 movidos para a Lixeira; não foi possível mover: %2</numerusform>
         </translation>
     </message>
     <message>
