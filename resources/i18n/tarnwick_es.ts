@@ -1866,7 +1866,7 @@
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button that takes a rule away; a screen reader says the rule after it</extracomment>
+        <extracomment>Tip of a button that takes a rule away</extracomment>
         <translation>Quitar</translation>
     </message>
     <message>
@@ -1880,6 +1880,11 @@
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
         <translation>Los ajustes no se pueden escribir, así que se quedan como están.</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <extracomment>Said by a screen reader of a button; %1: a rule, such as &quot;.git&quot;</extracomment>
+        <translation>Quitar %1</translation>
     </message>
 </context>
 <context>
@@ -2472,6 +2477,11 @@
         <source>&lt;b&gt;Why Storage settings shows a bigger number&lt;/b&gt;&lt;br&gt;macOS works out System Data as whatever is left on the disk after Apps, Documents, Photos and its other categories. That remainder also includes things no app can measure: the Spotlight index, APFS snapshots, purgeable space and root-only system files. Without Full Disk Access, Tarnwick also can&apos;t see protected folders, so its total is lower than what macOS reports.</source>
         <translation>&lt;b&gt;Por qué los ajustes de Almacenamiento muestran una cifra mayor&lt;/b&gt;&lt;br&gt;macOS calcula Datos del sistema como lo que queda en el disco después de Apps, Documentos, Fotos y sus demás categorías. Ese resto incluye además cosas que ninguna app puede medir: el índice de Spotlight, las instantáneas APFS, el espacio purgable y archivos del sistema reservados a root. Sin Acceso total al disco, Tarnwick tampoco puede ver las carpetas protegidas, así que su total es menor que el que indica macOS.</translation>
     </message>
+    <message>
+        <source>%1?</source>
+        <extracomment>A question made of what a button says, such as “Remove snapshots”</extracomment>
+        <translation>¿%1?</translation>
+    </message>
 </context>
 <context>
     <name>TitleBar</name>
@@ -2641,6 +2651,11 @@
             <numerusform>Hace %n año</numerusform>
             <numerusform>Hace %n años</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the things of a list: names of apps, say</extracomment>
+        <translation>, </translation>
     </message>
 </context>
 </TS>

@@ -1866,7 +1866,7 @@
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button that takes a rule away; a screen reader says the rule after it</extracomment>
+        <extracomment>Tip of a button that takes a rule away</extracomment>
         <translation>Retirer</translation>
     </message>
     <message>
@@ -1880,6 +1880,11 @@
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
         <translation>Impossible d’enregistrer les réglages&#xa0;: ils restent tels quels.</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <extracomment>Said by a screen reader of a button; %1: a rule, such as &quot;.git&quot;</extracomment>
+        <translation>Retirer %1</translation>
     </message>
 </context>
 <context>
@@ -2472,6 +2477,11 @@
         <source>&lt;b&gt;Why Storage settings shows a bigger number&lt;/b&gt;&lt;br&gt;macOS works out System Data as whatever is left on the disk after Apps, Documents, Photos and its other categories. That remainder also includes things no app can measure: the Spotlight index, APFS snapshots, purgeable space and root-only system files. Without Full Disk Access, Tarnwick also can&apos;t see protected folders, so its total is lower than what macOS reports.</source>
         <translation>&lt;b&gt;Pourquoi les réglages Stockage affichent un chiffre plus élevé&lt;/b&gt;&lt;br&gt;Pour macOS, les données système sont tout ce qui reste sur le disque une fois déduits les apps, les documents, les photos et ses autres catégories. Ce reste comprend aussi ce qu’aucune app ne peut mesurer&#xa0;: l’index Spotlight, les instantanés APFS, l’espace purgeable et les fichiers système réservés à root. Sans l’accès complet au disque, Tarnwick ne voit pas non plus les dossiers protégés&#xa0;: son total est donc inférieur à celui de macOS.</translation>
     </message>
+    <message>
+        <source>%1?</source>
+        <extracomment>A question made of what a button says, such as “Remove snapshots”</extracomment>
+        <translation>%1&#xa0;?</translation>
+    </message>
 </context>
 <context>
     <name>TitleBar</name>
@@ -2641,6 +2651,11 @@
             <numerusform>Il y a %n an</numerusform>
             <numerusform>Il y a %n ans</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the things of a list: names of apps, say</extracomment>
+        <translation>, </translation>
     </message>
 </context>
 </TS>

@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button that takes a rule away; a screen reader says the rule after it</extracomment>
+        <extracomment>Tip of a button that takes a rule away</extracomment>
         <translation>削除</translation>
     </message>
     <message>
@@ -1863,6 +1863,11 @@
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
         <translation>設定を書き込めないため、元のままになります。</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <extracomment>Said by a screen reader of a button; %1: a rule, such as &quot;.git&quot;</extracomment>
+        <translation>%1を削除</translation>
     </message>
 </context>
 <context>
@@ -2448,6 +2453,11 @@
         <source>&lt;b&gt;Why Storage settings shows a bigger number&lt;/b&gt;&lt;br&gt;macOS works out System Data as whatever is left on the disk after Apps, Documents, Photos and its other categories. That remainder also includes things no app can measure: the Spotlight index, APFS snapshots, purgeable space and root-only system files. Without Full Disk Access, Tarnwick also can&apos;t see protected folders, so its total is lower than what macOS reports.</source>
         <translation>&lt;b&gt;「ストレージ」設定の数値のほうが大きい理由&lt;/b&gt;&lt;br&gt;macOSは、アプリケーション、書類、写真などのカテゴリを除いたディスクの残りをシステムデータとして計算します。この残りには、アプリでは計測できないもの、つまりSpotlightの索引、APFSスナップショット、パージ可能な領域、ルート専用のシステムファイルも含まれます。さらに、フルディスクアクセスがないとTarnwickは保護されたフォルダを確認できないため、合計はmacOSの表示より小さくなります。</translation>
     </message>
+    <message>
+        <source>%1?</source>
+        <extracomment>A question made of what a button says, such as “Remove snapshots”</extracomment>
+        <translation>%1？</translation>
+    </message>
 </context>
 <context>
     <name>TitleBar</name>
@@ -2613,6 +2623,11 @@
         <translation>
             <numerusform>%n年前</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the things of a list: names of apps, say</extracomment>
+        <translation>、</translation>
     </message>
 </context>
 </TS>

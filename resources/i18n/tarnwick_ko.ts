@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button that takes a rule away; a screen reader says the rule after it</extracomment>
+        <extracomment>Tip of a button that takes a rule away</extracomment>
         <translation>제거</translation>
     </message>
     <message>
@@ -1863,6 +1863,11 @@
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
         <translation>설정을 쓸 수 없어 그대로 유지됩니다.</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <extracomment>Said by a screen reader of a button; %1: a rule, such as &quot;.git&quot;</extracomment>
+        <translation>%1 규칙 제거</translation>
     </message>
 </context>
 <context>
@@ -2448,6 +2453,11 @@
         <source>&lt;b&gt;Why Storage settings shows a bigger number&lt;/b&gt;&lt;br&gt;macOS works out System Data as whatever is left on the disk after Apps, Documents, Photos and its other categories. That remainder also includes things no app can measure: the Spotlight index, APFS snapshots, purgeable space and root-only system files. Without Full Disk Access, Tarnwick also can&apos;t see protected folders, so its total is lower than what macOS reports.</source>
         <translation>&lt;b&gt;저장 공간 설정에 더 큰 숫자가 표시되는 이유&lt;/b&gt;&lt;br&gt;macOS는 앱, 문서, 사진 및 기타 카테고리를 제외하고 디스크에 남은 모든 것을 시스템 데이터로 계산합니다. 여기에는 Spotlight 색인, APFS 스냅샷, 제거 가능한 공간, 루트 전용 시스템 파일처럼 앱이 측정할 수 없는 항목도 포함됩니다. 또한 전체 디스크 접근 권한이 없으면 Tarnwick이 보호된 폴더를 볼 수 없으므로 합계가 macOS에서 표시하는 것보다 작습니다.</translation>
     </message>
+    <message>
+        <source>%1?</source>
+        <extracomment>A question made of what a button says, such as “Remove snapshots”</extracomment>
+        <translation>%1?</translation>
+    </message>
 </context>
 <context>
     <name>TitleBar</name>
@@ -2613,6 +2623,11 @@
         <translation>
             <numerusform>%n년 전</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the things of a list: names of apps, say</extracomment>
+        <translation>, </translation>
     </message>
 </context>
 </TS>

@@ -1866,7 +1866,7 @@
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button that takes a rule away; a screen reader says the rule after it</extracomment>
+        <extracomment>Tip of a button that takes a rule away</extracomment>
         <translation>Remover</translation>
     </message>
     <message>
@@ -1880,6 +1880,11 @@
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
         <translation>Não é possível gravar os ajustes, por isso eles ficam como estão.</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <extracomment>Said by a screen reader of a button; %1: a rule, such as &quot;.git&quot;</extracomment>
+        <translation>Remover %1</translation>
     </message>
 </context>
 <context>
@@ -2472,6 +2477,11 @@
         <source>&lt;b&gt;Why Storage settings shows a bigger number&lt;/b&gt;&lt;br&gt;macOS works out System Data as whatever is left on the disk after Apps, Documents, Photos and its other categories. That remainder also includes things no app can measure: the Spotlight index, APFS snapshots, purgeable space and root-only system files. Without Full Disk Access, Tarnwick also can&apos;t see protected folders, so its total is lower than what macOS reports.</source>
         <translation>&lt;b&gt;Por que os ajustes de Armazenamento mostram um número maior&lt;/b&gt;&lt;br&gt;O macOS calcula Dados do sistema como o que sobra no disco depois de Apps, Documentos, Fotos e suas outras categorias. Essa sobra também inclui coisas que nenhum app consegue medir: o índice do Spotlight, snapshots do APFS, espaço purgável e arquivos do sistema restritos ao root. Sem Acesso Total ao Disco, o Tarnwick também não vê as pastas protegidas, por isso seu total é menor que o informado pelo macOS.</translation>
     </message>
+    <message>
+        <source>%1?</source>
+        <extracomment>A question made of what a button says, such as “Remove snapshots”</extracomment>
+        <translation>%1?</translation>
+    </message>
 </context>
 <context>
     <name>TitleBar</name>
@@ -2641,6 +2651,11 @@
             <numerusform>Há %n ano</numerusform>
             <numerusform>Há %n anos</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the things of a list: names of apps, say</extracomment>
+        <translation>, </translation>
     </message>
 </context>
 </TS>

@@ -1883,7 +1883,7 @@
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button that takes a rule away; a screen reader says the rule after it</extracomment>
+        <extracomment>Tip of a button that takes a rule away</extracomment>
         <translation>Удалить</translation>
     </message>
     <message>
@@ -1897,6 +1897,11 @@
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
         <translation>Не удалось записать настройки, поэтому они остались прежними.</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <extracomment>Said by a screen reader of a button; %1: a rule, such as &quot;.git&quot;</extracomment>
+        <translation>Удалить %1</translation>
     </message>
 </context>
 <context>
@@ -2496,6 +2501,11 @@
         <source>&lt;b&gt;Why Storage settings shows a bigger number&lt;/b&gt;&lt;br&gt;macOS works out System Data as whatever is left on the disk after Apps, Documents, Photos and its other categories. That remainder also includes things no app can measure: the Spotlight index, APFS snapshots, purgeable space and root-only system files. Without Full Disk Access, Tarnwick also can&apos;t see protected folders, so its total is lower than what macOS reports.</source>
         <translation>&lt;b&gt;Почему в настройках хранилища число больше&lt;/b&gt;&lt;br&gt;К системным данным macOS относит всё, что остаётся на диске за вычетом приложений, документов, фото и других её категорий. В этот остаток входит и то, что не может измерить ни одно приложение: индекс Spotlight, снимки APFS, очищаемое место и системные файлы, доступные только суперпользователю. Без полного доступа к диску Tarnwick к тому же не видит защищённых папок, поэтому его сумма меньше той, которую сообщает macOS.</translation>
     </message>
+    <message>
+        <source>%1?</source>
+        <extracomment>A question made of what a button says, such as “Remove snapshots”</extracomment>
+        <translation>%1?</translation>
+    </message>
 </context>
 <context>
     <name>TitleBar</name>
@@ -2669,6 +2679,11 @@
             <numerusform>%n года назад</numerusform>
             <numerusform>%n лет назад</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the things of a list: names of apps, say</extracomment>
+        <translation>, </translation>
     </message>
 </context>
 </TS>

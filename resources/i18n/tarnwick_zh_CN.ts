@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button that takes a rule away; a screen reader says the rule after it</extracomment>
+        <extracomment>Tip of a button that takes a rule away</extracomment>
         <translation>移除</translation>
     </message>
     <message>
@@ -1863,6 +1863,11 @@
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
         <translation>无法写入设置，因此设置保持不变。</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <extracomment>Said by a screen reader of a button; %1: a rule, such as &quot;.git&quot;</extracomment>
+        <translation>移除 %1</translation>
     </message>
 </context>
 <context>
@@ -2448,6 +2453,11 @@
         <source>&lt;b&gt;Why Storage settings shows a bigger number&lt;/b&gt;&lt;br&gt;macOS works out System Data as whatever is left on the disk after Apps, Documents, Photos and its other categories. That remainder also includes things no app can measure: the Spotlight index, APFS snapshots, purgeable space and root-only system files. Without Full Disk Access, Tarnwick also can&apos;t see protected folders, so its total is lower than what macOS reports.</source>
         <translation>&lt;b&gt;为什么“储存空间”设置显示的数字更大&lt;/b&gt;&lt;br&gt;macOS 将磁盘上除“应用程序”、“文稿”、“照片”和其他类别之外的剩余部分都算作“系统数据”。其中还包括任何应用都无法计算的内容：“聚焦”索引、APFS 快照、可清除空间，以及仅 root 用户可访问的系统文件。如果没有“完全磁盘访问权限”，Tarnwick 也无法看到受保护的文件夹，因此其总计低于 macOS 报告的数字。</translation>
     </message>
+    <message>
+        <source>%1?</source>
+        <extracomment>A question made of what a button says, such as “Remove snapshots”</extracomment>
+        <translation>要%1吗？</translation>
+    </message>
 </context>
 <context>
     <name>TitleBar</name>
@@ -2613,6 +2623,11 @@
         <translation>
             <numerusform>%n 年前</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the things of a list: names of apps, say</extracomment>
+        <translation>、</translation>
     </message>
 </context>
 </TS>

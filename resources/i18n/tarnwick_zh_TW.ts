@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>Remove</source>
-        <extracomment>Button that takes a rule away; a screen reader says the rule after it</extracomment>
+        <extracomment>Tip of a button that takes a rule away</extracomment>
         <translation>移除</translation>
     </message>
     <message>
@@ -1863,6 +1863,11 @@
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
         <translation>無法寫入設定，因此設定維持不變。</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <extracomment>Said by a screen reader of a button; %1: a rule, such as &quot;.git&quot;</extracomment>
+        <translation>移除 %1</translation>
     </message>
 </context>
 <context>
@@ -2448,6 +2453,11 @@
         <source>&lt;b&gt;Why Storage settings shows a bigger number&lt;/b&gt;&lt;br&gt;macOS works out System Data as whatever is left on the disk after Apps, Documents, Photos and its other categories. That remainder also includes things no app can measure: the Spotlight index, APFS snapshots, purgeable space and root-only system files. Without Full Disk Access, Tarnwick also can&apos;t see protected folders, so its total is lower than what macOS reports.</source>
         <translation>&lt;b&gt;為何「儲存空間」設定顯示的數字較大&lt;/b&gt;&lt;br&gt;macOS 將磁碟上除「應用程式」、「文件」、「照片」和其他類別之外的剩餘部分都算作「系統資料」。其中還包括任何應用程式都無法計算的項目：Spotlight 索引、APFS 快照、可清除的空間，以及只有 root 使用者可取用的系統檔案。若沒有「完全取用磁碟」權限，Tarnwick 也無法看到受保護的資料夾，因此其總計低於 macOS 回報的數字。</translation>
     </message>
+    <message>
+        <source>%1?</source>
+        <extracomment>A question made of what a button says, such as “Remove snapshots”</extracomment>
+        <translation>要%1嗎？</translation>
+    </message>
 </context>
 <context>
     <name>TitleBar</name>
@@ -2613,6 +2623,11 @@
         <translation>
             <numerusform>%n 年前</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the things of a list: names of apps, say</extracomment>
+        <translation>、</translation>
     </message>
 </context>
 </TS>

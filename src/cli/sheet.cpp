@@ -32,7 +32,7 @@ QString timeText(qint64 elapsedMs) {
 
 QString unreadNote(const QStringList& titles) {
   //: %1: titles, with commas
-  return titles.isEmpty() ? QString() : Words::tr("Not everything could be read: %1.").arg(titles.join(u", "_s));
+  return titles.isEmpty() ? QString() : Words::tr("Not everything could be read: %1.").arg(fmt::list(titles));
 }
 
 QString paragraph(const QStringList& texts, const Paper& paper) {

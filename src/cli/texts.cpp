@@ -113,8 +113,7 @@ QString leftNote(const QList<CategoryResult>& left) {
     ids << one.def.id;
   }
   //: %1: titles with sizes; %2: ids
-  return Words::tr("Left alone unless you name it: %1. To clean it: --only %2")
-      .arg(parts.join(u", "_s), ids.join(u','));
+  return Words::tr("Left alone unless you name it: %1. To clean it: --only %2").arg(fmt::list(parts), ids.join(u','));
 }
 
 QString withoutTrashNote(qint64 bytes) {
@@ -157,7 +156,7 @@ QString skippedText(const CleanReport& report) {
 QString runningText(const CleanReport& report) {
   if (report.runningApps.isEmpty()) return {};
   //: %1: apps, with commas
-  return Words::tr("Left alone, because they are running: %1.").arg(names::escaped(report.runningApps.join(u", "_s)));
+  return Words::tr("Left alone, because they are running: %1.").arg(names::escaped(fmt::list(report.runningApps)));
 }
 
 QString trashText(const CleanReport& report, bool toTrash) {

@@ -96,6 +96,11 @@ QString age(const QDateTime& when, QDate today) {
   return ago(QT_TRANSLATE_N_NOOP("fmt", "%n year(s) ago"), months / 12);
 }
 
+QString list(const QStringList& names) {
+  //: Between the things of a list: names of apps, say
+  return names.join(QCoreApplication::translate("fmt", ", "));
+}
+
 QString clock(qint64 seconds) {
   const qint64 whole = qMax<qint64>(0, seconds);
   return QStringLiteral("%1:%2").arg(whole / 60).arg(whole % 60, 2, 10, QLatin1Char('0'));

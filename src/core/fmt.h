@@ -4,6 +4,7 @@
 #include <QDate>
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
 
 #include <limits>
 
@@ -35,6 +36,8 @@ namespace fmt {
 /// Both as seen on the day @p today, which the above take from the clock.
 [[nodiscard]] int monthsSince(const QDateTime& when, QDate today);
 [[nodiscard]] QString age(const QDateTime& when, QDate today);
+/// Names beside each other, with what the language has between them: ", " or "、".
+[[nodiscard]] QString list(const QStringList& names);
 /// Minutes and seconds, "62:05"; a negative value counts as 0.
 [[nodiscard]] QString clock(qint64 seconds);
 /// @p path in native separators with the home folder at its start as "~". Goes by the text alone, in any case of

@@ -35,7 +35,7 @@ QString largestOf(QList<Location> locations) {
                    [](const Location& a, const Location& b) { return a.bytes > b.bytes; });
   QStringList names;
   for (const Location& one : locations.first(std::min(kNamedFolders, locations.size()))) names << one.name;
-  return names.join(u", "_s);
+  return fmt::list(names);
 }
 
 QString snapshotsText(qsizetype count) {

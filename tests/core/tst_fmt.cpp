@@ -21,6 +21,7 @@ class Catalogue : public QTranslator {
     const QString key = QString::fromUtf8(text);
     if (key == u"%1 %2"_s) return u"%2~%1"_s;
     if (key == u"KB"_s) return u"Ko"_s;
+    if (key == u", "_s) return u"、"_s;
     if (key == u"Yesterday"_s) return u"Gestern, am Tag davor"_s;
     if (key == u"%n month(s) ago"_s) return n == 1 ? u"one month"_s : u"%n months"_s;
     return {};
@@ -184,6 +185,15 @@ class TestFmt : public QObject {
       QCOMPARE(n % 100, int(more));
     }
     QVERIFY(fmt::plural(std::numeric_limits<qint64>::max()) > 1);
+  }
+
+  void listsHaveTheLanguagesMark() {
+    QCOMPARE(fmt::list({}), QString());
+    QCOMPARE(fmt::list({u"a"_s}), u"a"_s);
+    QCOMPARE(fmt::list({u"a"_s, u"b"_s, u"c"_s}), u"a, b, c"_s);
+    Catalogue catalogue;
+    QCoreApplication::installTranslator(&catalogue);
+    QCOMPARE(fmt::list({u"a"_s, u"b"_s, u"c"_s}), u"a、b、c"_s);
   }
 
   void clock() {

@@ -58,7 +58,7 @@ QString skippedText(const CleanReport& report, const QFontMetrics& metrics) {
 
 QString runningText(const QStringList& apps) {
   return CleanupWords::tr("<b>Left caches of running apps alone:</b> %1. Quit them and clean again to include them.")
-      .arg(apps.join(", "_L1).toHtmlEscaped());
+      .arg(fmt::list(apps).toHtmlEscaped());
 }
 
 void openLocal(const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }

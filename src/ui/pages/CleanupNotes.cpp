@@ -1,5 +1,6 @@
 #include "ui/pages/CleanupNotes.h"
 
+#include "core/fmt.h"
 #include "core/platform.h"
 #include "ui/pages/CleanupWords.h"
 
@@ -98,7 +99,7 @@ Note* runningNote(const QList<CleanItem>& items) {
   //: %1: an app
   const QString text = owners.size() == 1 ? CleanupWords::tr("%1 is open. Quit it to include its cache.")
                                           : CleanupWords::tr("%1 are open. Quit them to include their caches.");
-  return spokenNote(Note::Caution, u"alert"_s, text.arg(owners.join(", "_L1).toHtmlEscaped()));
+  return spokenNote(Note::Caution, u"alert"_s, text.arg(fmt::list(owners).toHtmlEscaped()));
 }
 
 } // namespace ui

@@ -119,9 +119,10 @@ Button* SettingsPage::addRuleCard(const QString& rule) {
   remove->setFixedWidth(kRemoveSide);
   remove->setOwnHeight(kRemoveSide);
   remove->setStyleSheet(u"padding: 0; min-height: 24px; max-height: 24px;"_s);
-  //: Button that takes a rule away; a screen reader says the rule after it
+  //: Tip of a button that takes a rule away
   remove->setToolTip(SettingsWords::tr("Remove"));
-  remove->setAccessibleName(SettingsWords::tr("Remove") + u' ' + rule);
+  //: Said by a screen reader of a button; %1: a rule, such as ".git"
+  remove->setAccessibleName(SettingsWords::tr("Remove %1").arg(rule));
   connect(remove, &Button::clicked, this, [this, rule] { removeRule(rule); });
   line->addWidget(remove);
   m_exclusionsLayout->addWidget(card);

@@ -63,7 +63,8 @@ QString SystemDataWords::explanation() {
 
 SystemDataWords::Question SystemDataWords::questionFor(const SystemDataItem& item) {
   const QString label = item.actionLabel();
-  return {.title = label + u'?', .body = questionBody(item), .confirm = label};
+  //: A question made of what a button says, such as “Remove snapshots”
+  return {.title = tr("%1?").arg(label), .body = questionBody(item), .confirm = label};
 }
 
 } // namespace ui

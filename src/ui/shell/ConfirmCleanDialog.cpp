@@ -112,7 +112,7 @@ void ConfirmCleanDialog::addWhatStays(QVBoxLayout* body) {
   if (!used.apps.isEmpty())
     //: %1: a size; %2: apps, with commas
     body->addWidget(wrapped(OverlayWords::tr("%1 of it will stay while these apps are open: %2.")
-                                .arg(fmt::bytes(used.bytes), used.apps.join(QStringLiteral(", ")))));
+                                .arg(fmt::bytes(used.bytes), fmt::list(used.apps))));
 }
 
 void ConfirmCleanDialog::addCategories(QVBoxLayout* body) {
