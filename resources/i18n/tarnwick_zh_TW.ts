@@ -864,18 +864,23 @@
         <source>Measured in %1. Nothing was changed.</source>
         <translation>計算耗時 %1。未做任何更動。</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>%1: the title of a category; %2: a size</extracomment>
+        <translation>%1（%2）</translation>
+    </message>
 </context>
 <context>
     <name>DiskOrb</name>
     <message>
-        <source>%1% used</source>
-        <extracomment>Said by a screen reader; %1: how much of the disk</extracomment>
-        <translation>已使用 %1%</translation>
-    </message>
-    <message>
         <source>%1 can be cleaned</source>
         <extracomment>Said by a screen reader; %1: a size</extracomment>
         <translation>可清理 %1</translation>
+    </message>
+    <message>
+        <source>%1 used</source>
+        <extracomment>Said by a screen reader; %1: how much of the disk, such as “62%”</extracomment>
+        <translation>已使用 %1</translation>
     </message>
 </context>
 <context>
@@ -1918,6 +1923,14 @@
     </message>
 </context>
 <context>
+    <name>StackBar</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Said by a screen reader; %1: what takes space; %2: its share, such as “62%”</extracomment>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
     <name>StepBar</name>
     <message>
         <source>Waiting</source>
@@ -2626,8 +2639,13 @@
     </message>
     <message>
         <source>, </source>
-        <extracomment>Between the things of a list: names of apps, say</extracomment>
+        <extracomment>Stands between the things of a list: names, or a name and what there is to say of it</extracomment>
         <translation>、</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <extracomment>A share; %1: a figure. With a no-break space before the sign where the language has one</extracomment>
+        <translation>%1%</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 #include "app/identity.h"
 #include "cli/terminal.h"
 #include "cli/words.h"
+#include "core/fmt.h"
 #include "core/names.h"
 #include "core/places.h"
 
@@ -90,7 +91,7 @@ QString verbNames() {
   for (const VerbRow& row : kVerbs) names << u'"' + QLatin1String(row.name) + u'"';
   const QString last = names.takeLast();
   //: %1: one or more words, with commas; %2: the last one
-  return Words::tr("%1 and %2").arg(names.join(u", "_s), last);
+  return Words::tr("%1 and %2").arg(fmt::list(names), last);
 }
 
 const VerbRow* findVerb(const QString& name) {

@@ -6,8 +6,6 @@
 
 #include <QLocale>
 
-using namespace Qt::StringLiterals;
-
 namespace cli {
 namespace {
 

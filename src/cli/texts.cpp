@@ -109,7 +109,8 @@ QString leftNote(const QList<CategoryResult>& left) {
   QStringList parts;
   QStringList ids;
   for (const CategoryResult& one : left) {
-    parts << u"%1 (%2)"_s.arg(one.def.title, fmt::bytes(one.bytes));
+    //: %1: the title of a category; %2: a size
+    parts << Words::tr("%1 (%2)").arg(one.def.title, fmt::bytes(one.bytes));
     ids << one.def.id;
   }
   //: %1: titles with sizes; %2: ids

@@ -45,7 +45,7 @@ QString placesText(const SystemDataItem& item) {
   QStringList places;
   for (const QString& path : item.paths)
     if (QFileInfo::exists(path)) places << names::escaped(fmt::shortPath(path));
-  return places.join(u", "_s);
+  return fmt::list(places);
 }
 
 QString detailText(const SystemDataItem& item) {

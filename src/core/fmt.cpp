@@ -30,6 +30,7 @@ constexpr Step kSteps[] = {
     {1000, 1e3, Figure::Rounded, 0, QT_TRANSLATE_NOOP("fmt", "KB")},
 };
 
+constexpr double kPercent = 100;
 constexpr qsizetype kGroup = 3; ///< digits between two separators
 
 QString withUnit(const QString& number, const char* unit) {
@@ -66,6 +67,18 @@ QString count(qint64 n) {
   return text;
 }
 
+QString percent(double share) {
+  //: A share; %1: a figure. With a no-break space before the sign where the language has one
+  return QCoreApplication::translate("fmt", "%1%").arg(std::lround(share * kPercent));
+}
+
+QString list(const QStringList& things) { return things.join(listSeparator()); }
+
+QString listSeparator() {
+  //: Stands between the things of a list: names, or a name and what there is to say of it
+  return QCoreApplication::translate("fmt", ", ");
+}
+
 int monthsSince(const QDateTime& when) { return monthsSince(when, QDate::currentDate()); }
 
 int monthsSince(const QDateTime& when, QDate today) {
@@ -94,11 +107,6 @@ QString age(const QDateTime& when, QDate today) {
   const int months = monthsSince(when, today);
   if (months < 12) return ago(QT_TRANSLATE_N_NOOP("fmt", "%n month(s) ago"), qMax(1, months));
   return ago(QT_TRANSLATE_N_NOOP("fmt", "%n year(s) ago"), months / 12);
-}
-
-QString list(const QStringList& names) {
-  //: Between the things of a list: names of apps, say
-  return names.join(QCoreApplication::translate("fmt", ", "));
 }
 
 QString clock(qint64 seconds) {

@@ -18,6 +18,13 @@ namespace fmt {
 [[nodiscard]] QString bytes(qint64 bytes);
 /// A count with group separators.
 [[nodiscard]] QString count(qint64 n);
+/// A share of a whole, 0.62 say, in whole percent: "62%". Some languages have a blank before the sign.
+[[nodiscard]] QString percent(double share);
+/// Things one behind the other, with what the language sets between them: "Slack, Zoom". Names, or a name and what
+/// there is to say of it; not ids, which are typed with commas.
+[[nodiscard]] QString list(const QStringList& things);
+/// What stands between two things of a list.
+[[nodiscard]] QString listSeparator();
 /// @p n as the number that a translated text chooses its plural form by, where count() shows it: one that fits, with
 /// the same form in every language, which goes by the last two digits at most and by whether it is 0 or 1.
 [[nodiscard]] constexpr int plural(qint64 n) {
@@ -36,8 +43,6 @@ namespace fmt {
 /// Both as seen on the day @p today, which the above take from the clock.
 [[nodiscard]] int monthsSince(const QDateTime& when, QDate today);
 [[nodiscard]] QString age(const QDateTime& when, QDate today);
-/// Names beside each other, with what the language has between them: ", " or "、".
-[[nodiscard]] QString list(const QStringList& names);
 /// Minutes and seconds, "62:05"; a negative value counts as 0.
 [[nodiscard]] QString clock(qint64 seconds);
 /// @p path in native separators with the home folder at its start as "~". Goes by the text alone, in any case of

@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <chrono>
 
-using namespace Qt::StringLiterals;
 using systemdata::Words;
 
 namespace {

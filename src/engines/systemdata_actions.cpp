@@ -22,7 +22,6 @@ namespace {
 const QString kThinSnapshots = u"/usr/bin/tmutil thinlocalsnapshots / 999999999999999 4"_s;
 const QString kAsAdministrator = u"do shell script \"%1\" with administrator privileges"_s;
 const QString kXcode = u"com.apple.dt.Xcode"_s;
-const QString kSeparator = u", "_s; // between the names in the detail of "hidden"
 
 /// How an action ended, and what there is to say.
 struct Outcome {
@@ -40,7 +39,7 @@ bool handOver(const QString& program, const QStringList& arguments) {
 /// The folder of a row that there is to show; of the hidden ones the largest, which the detail names first.
 QString targetOf(const SystemDataItem& item) {
   if (item.id == u"hidden" && !item.detail.isEmpty())
-    return fs::join(places::home(), item.detail.section(kSeparator, 0, 0));
+    return fs::join(places::home(), item.detail.section(fmt::listSeparator(), 0, 0));
   if (platform::host() == platform::Host::Mac) return item.paths.value(0);
   const auto there = std::find_if(item.paths.begin(), item.paths.end(), qOverload<const QString&>(&QFileInfo::exists));
   return there == item.paths.end() ? item.paths.value(0) : *there;

@@ -21,6 +21,7 @@ class Catalogue : public QTranslator {
     const QString key = QString::fromUtf8(text);
     if (key == u"%1 %2"_s) return u"%2~%1"_s;
     if (key == u"KB"_s) return u"Ko"_s;
+    if (key == u"%1%"_s) return u"%1 per cent"_s;
     if (key == u", "_s) return u"、"_s;
     if (key == u"Yesterday"_s) return u"Gestern, am Tag davor"_s;
     if (key == u"%n month(s) ago"_s) return n == 1 ? u"one month"_s : u"%n months"_s;
@@ -88,9 +89,32 @@ class TestFmt : public QObject {
     QVERIFY(QCoreApplication::installTranslator(&catalogue));
     QCOMPARE(fmt::bytes(1500), u"Ko~2"_s);
     QCOMPARE(fmt::bytes(0), u"Ko~0"_s);
+    QCOMPARE(fmt::percent(0.62), u"62 per cent"_s);
+    QCOMPARE(fmt::list({u"a"_s, u"b"_s, u"c"_s}), u"a、b、c"_s);
+    QCOMPARE(fmt::listSeparator(), u"、"_s);
     QCOMPARE(fmt::age(day(2024, 3, 1), QDate(2024, 4, 1)), u"one month"_s);
     QCOMPARE(fmt::age(day(2024, 3, 1), QDate(2024, 6, 1)), u"3 months"_s);
     QCoreApplication::removeTranslator(&catalogue);
+  }
+
+  void shares_data() {
+    QTest::addColumn<double>("share");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("none") << 0.0 << u"0%"_s;
+    QTest::newRow("below a half") << 0.0049 << u"0%"_s;
+    QTest::newRow("a half") << 0.005 << u"1%"_s;
+    QTest::newRow("some") << 0.62 << u"62%"_s;
+    QTest::newRow("all") << 1.0 << u"100%"_s;
+  }
+  void shares() {
+    QFETCH(double, share);
+    QTEST(fmt::percent(share), "text");
+  }
+
+  void lists() {
+    QCOMPARE(fmt::list({}), QString());
+    QCOMPARE(fmt::list({u"Slack"_s}), u"Slack"_s);
+    QCOMPARE(fmt::list({u"Slack"_s, u"Zoom"_s, u"x%1"_s}), u"Slack, Zoom, x%1"_s);
   }
 
   void months_data() {
@@ -185,15 +209,6 @@ class TestFmt : public QObject {
       QCOMPARE(n % 100, int(more));
     }
     QVERIFY(fmt::plural(std::numeric_limits<qint64>::max()) > 1);
-  }
-
-  void listsHaveTheLanguagesMark() {
-    QCOMPARE(fmt::list({}), QString());
-    QCOMPARE(fmt::list({u"a"_s}), u"a"_s);
-    QCOMPARE(fmt::list({u"a"_s, u"b"_s, u"c"_s}), u"a, b, c"_s);
-    Catalogue catalogue;
-    QCoreApplication::installTranslator(&catalogue);
-    QCOMPARE(fmt::list({u"a"_s, u"b"_s, u"c"_s}), u"a、b、c"_s);
   }
 
   void clock() {

@@ -1,10 +1,12 @@
 // What the actions of System Data do and say, with real child processes in the place of the system's tools.
+#include "core/fmt.h"
 #include "core/removal.h"
 #include "engines/SystemDataTest.h"
 #include "engines/Unprivileged.h"
 
 #include <QFileInfo>
 #include <QTest>
+#include <QTranslator>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -33,6 +35,15 @@ SystemDataItem itemWith(Item::Action action, const QList<QString>& paths = {}) {
   return item;
 }
 
+/// A language that sets something else between the things of a list.
+class OtherSeparator : public QTranslator {
+ public:
+  bool isEmpty() const override { return false; }
+  QString translate(const char* context, const char* text, const char*, int) const override {
+    return qstrcmp(context, "fmt") == 0 && qstrcmp(text, ", ") == 0 ? u"、"_s : QString();
+  }
+};
+
 } // namespace
 
 class tst_systemdata_perform : public SystemDataTest {
@@ -48,6 +59,7 @@ class tst_systemdata_perform : public SystemDataTest {
 
   void revealOpensTheFirstPlace();
   void revealOpensTheLargestHiddenFolder();
+  void revealInALanguageWithItsOwnSeparator();
   void revealWithoutTheProgram();
   void revealOnLinux();
   void revealOnLinuxTakesWhatIsThere();
@@ -146,6 +158,17 @@ void tst_systemdata_perform::revealOpensTheLargestHiddenFolder() {
   item.paths = {u"/logs"_s};
   QCOMPARE(perform(item, true), QString());
   QTRY_COMPARE(textOf(callsOf("open")), u"/logs\n"_s);
+}
+
+void tst_systemdata_perform::revealInALanguageWithItsOwnSeparator() {
+  OtherSeparator language;
+  QVERIFY(QCoreApplication::installTranslator(&language));
+  putTool("open", {});
+  SystemDataItem item = itemWith(Item::RevealInFinder, {m_home->path(u".cache"_s), m_home->path(u".n, p"_s)});
+  item.id = u"hidden"_s;
+  item.detail = fmt::list({u".n, p"_s, u".cache"_s});
+  QCOMPARE(perform(item, true), QString());
+  QTRY_COMPARE(textOf(callsOf("open")), m_home->path(u".n, p"_s) + u'\n');
 }
 
 void tst_systemdata_perform::revealWithoutTheProgram() {

@@ -105,6 +105,7 @@ QString nestedIn(const QString& translation) {
 } // namespace
 
 QString text(const QString& source, double growth, Brackets brackets) {
+  if (!hasLetters(source) && !source.contains(u'%')) return source;
   const double share = source.size() <= kShort ? kMoreForShort * growth : growth;
   auto owed = qsizetype(std::ceil(share * double(source.size())));
   const qsizetype vowels = std::max<qsizetype>(

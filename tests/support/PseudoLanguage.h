@@ -15,7 +15,8 @@ constexpr QChar kClose(0x27E7);
 enum class Brackets { Shown, Left };
 
 /// @p source made longer by @p growth (0.4: by 40 percent; twice that for a short text), with accents on its letters.
-/// Placeholders, tags, entities and the marks of a mnemonic stay as they are.
+/// Placeholders, tags, entities and the marks of a mnemonic stay as they are, and so does a mark alone, which stands
+/// between the things of a list.
 [[nodiscard]] QString text(const QString& source, double growth, Brackets brackets = Brackets::Shown);
 
 /// What is wrong with a text that is shown in this language; empty if nothing is.

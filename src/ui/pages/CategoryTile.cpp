@@ -1,6 +1,7 @@
 #include "ui/pages/CategoryTile.h"
 
 #include "app/records.h"
+#include "core/fmt.h"
 #include "ui/Theme.h"
 #include "ui/controls/ElidedLabel.h"
 #include "ui/controls/IconTile.h"
@@ -13,8 +14,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QVBoxLayout>
-
-using namespace Qt::StringLiterals;
 
 namespace ui {
 
@@ -35,7 +34,7 @@ CategoryTile::CategoryTile(const CategoryDef& category, const QString& amount, s
                            QWidget* parent)
     : QWidget(parent),
       m_id(category.id),
-      m_shown(amount.isEmpty() ? category.title : category.title + u", "_s + amount),
+      m_shown(amount.isEmpty() ? category.title : fmt::list({category.title, amount})),
       m_onClick(std::move(onClick)),
       m_focus(new KeyboardFocus(this)) {
   QVBoxLayout* lines = vbox(kLineSpacing);

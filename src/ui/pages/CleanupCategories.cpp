@@ -58,14 +58,14 @@ bool isListed(const CategoryResult& result) { return result.bytes > 0 || result.
 
 /// What a sighted user reads of the row.
 QString spoken(const CategoryResult& result) {
-  return result.def.title + ", "_L1 + (isBlocked(result) ? CleanupWords::blocked() : fmt::bytes(result.bytes));
+  return fmt::list({result.def.title, isBlocked(result) ? CleanupWords::blocked() : fmt::bytes(result.bytes)});
 }
 
 /// What its group tells of the row, and its look of being the one on show.
 QString describing(const CategoryResult& result, bool active) {
   const QString safety = categories::safetyLabel(result.def.safety);
   //: Said by a screen reader of the category whose items are shown beside the list
-  return active ? safety + ", "_L1 + CleanupWords::tr("Details shown") : safety;
+  return active ? fmt::list({safety, CleanupWords::tr("Details shown")}) : safety;
 }
 
 ElidedLabel* styledLabel(const QString& text, const char* role, const QString& style) {

@@ -314,7 +314,7 @@ void CleanupDetail::addItem(const CategoryDef& def, const CleanItem& item) {
 }
 
 QCheckBox* CleanupDetail::buildItemBox(const CleanItem& item) {
-  QCheckBox* box = bareCheckBox(item.name + ", "_L1 + fmt::bytes(item.bytes));
+  QCheckBox* box = bareCheckBox(fmt::list({item.name, fmt::bytes(item.bytes)}));
   box->setChecked(m_state->isItemSelected(m_id, item.path));
   connect(box, &QCheckBox::toggled, this,
           [this, id = m_id, path = item.path](bool on) { m_state->setItemSelected(id, path, on); });

@@ -43,7 +43,7 @@ bool less(const LargeFile& one, const LargeFile& other, int column) {
 QString spoken(const LargeFile& file, int column) {
   switch (column) {
   case LargeFilesModel::Check:
-    return file.name + ", "_L1 + fmt::bytes(file.size);
+    return fmt::list({file.name, fmt::bytes(file.size)});
   case LargeFilesModel::Name:
     return file.name;
   case LargeFilesModel::Kind:
@@ -63,7 +63,7 @@ QString spokenHeader(int column, bool sorted, Qt::SortOrder order) {
   //: Said by a screen reader after a column: how it is sorted
   const QString way =
       order == Qt::AscendingOrder ? LargeFilesWords::tr("ascending") : LargeFilesWords::tr("descending");
-  return text + ", "_L1 + way;
+  return fmt::list({text, way});
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "ui/pages/LegendItem.h"
 
+#include "core/fmt.h"
 #include "ui/Theme.h"
 #include "ui/controls/ElidedLabel.h"
 #include "ui/controls/factory.h"
@@ -46,7 +47,7 @@ class Swatch : public QWidget {
 } // namespace
 
 LegendItem::LegendItem(const QString& label, const QString& amount, const QBrush& swatch, QWidget* parent)
-    : QWidget(parent), m_shown(label + u", "_s + amount) {
+    : QWidget(parent), m_shown(fmt::list({label, amount})) {
   QHBoxLayout* caption = hbox(kSpacing);
   caption->addWidget(new Swatch(swatch), 0, Qt::AlignVCenter);
   caption->addWidget(new ElidedLabel(label, "caption"), 1);

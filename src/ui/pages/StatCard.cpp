@@ -1,5 +1,6 @@
 #include "ui/pages/StatCard.h"
 
+#include "core/fmt.h"
 #include "ui/controls/factory.h"
 
 #include <QHBoxLayout>
@@ -40,6 +41,6 @@ void StatCard::set(const QString& value, const QString& caption) {
 QString StatCard::value() const { return m_value->text(); }
 QString StatCard::caption() const { return m_caption->text(); }
 
-QString StatCard::shownText() const { return value() == kDash ? caption() : caption() + u", "_s + value(); }
+QString StatCard::shownText() const { return value() == kDash ? caption() : fmt::list({caption(), value()}); }
 
 } // namespace ui

@@ -1,5 +1,6 @@
 #include "ui/pages/SystemDataRow.h"
 
+#include "core/fmt.h"
 #include "ui/Theme.h"
 #include "ui/TipStyler.h"
 #include "ui/controls/Button.h"
@@ -79,7 +80,7 @@ int systemDataColumn(const QList<SystemDataItem>& items) {
 }
 
 SystemDataRow::SystemDataRow(const SystemDataItem& item, int column, bool busy, QWidget* parent)
-    : QWidget(parent), m_id(item.id), m_shown(item.title + u", "_s + SystemDataWords::sizeOf(item)) {
+    : QWidget(parent), m_id(item.id), m_shown(fmt::list({item.title, SystemDataWords::sizeOf(item)})) {
   QHBoxLayout* row = hbox(kSpacing, kMargins);
   setLayout(row);
   row->addWidget(new IconTile(item.icon, item.color, kTile), 0, Qt::AlignVCenter);
@@ -98,7 +99,7 @@ QLayout* SystemDataRow::buildText(const SystemDataItem& item) {
   auto* below = new ElidedLabel(detail, "micro"); // it may hold names of folders, as long as they like
   below->setTextFormat(Qt::PlainText);
   text->addWidget(below);
-  m_shown += u", "_s + detail;
+  m_shown = fmt::list({m_shown, detail});
   return text;
 }
 
@@ -115,7 +116,7 @@ QWidget* SystemDataRow::buildColumn(const SystemDataItem& item, int width, bool 
   m_button = new Button(item.actionLabel());
   m_button->setFixedWidth(width);
   m_button->setEnabled(!busy && isReady(item));
-  m_button->setAccessibleName(item.actionLabel() + u", "_s + item.title); // several rows have the same button
+  m_button->setAccessibleName(fmt::list({item.actionLabel(), item.title})); // several rows have the same button
   m_focus = new KeyboardFocus(m_button);
   lines->addWidget(m_button);
   return column;

@@ -1,12 +1,11 @@
 #include "ui/shell/NavButton.h"
 
+#include "core/fmt.h"
 #include "ui/Theme.h"
 #include "ui/icons.h"
 #include "ui/paint.h"
 
 #include <QPainter>
-
-using namespace Qt::StringLiterals;
 
 namespace ui {
 namespace {
@@ -82,7 +81,7 @@ NavButton::NavButton(const QString& icon, const QString& text, QWidget* parent) 
 
 void NavButton::setBadge(const QString& badge) {
   m_badge = badge;
-  setAccessibleName(badge.isEmpty() ? text() : text() + u", "_s + badge);
+  setAccessibleName(badge.isEmpty() ? text() : fmt::list({text(), badge}));
   update();
 }
 

@@ -13,8 +13,6 @@
 #include <QPainter>
 #include <QRadialGradient>
 
-using namespace Qt::StringLiterals;
-
 namespace ui {
 
 namespace {
@@ -32,7 +30,6 @@ constexpr int kCaptionPx = 10;
 constexpr int kPillPx = 13;
 constexpr int kBold = 600;
 constexpr int kRegular = 400;
-constexpr double kPercent = 100;
 
 /// An alpha of 255 that depends on the pointer.
 struct Light {
@@ -144,13 +141,13 @@ QString DiskOrb::buttonText() const { return m_action.isEmpty() ? dial::spoken(m
 QString DiskOrb::valueText() const {
   QStringList parts{dial::spoken(m_value, m_caption)};
   if (m_disk.used > 0)
-    //: Said by a screen reader; %1: how much of the disk
-    parts << QCoreApplication::translate("DiskOrb", "%1% used").arg(qRound(valueFraction() * kPercent));
+    //: Said by a screen reader; %1: how much of the disk, such as “62%”
+    parts << QCoreApplication::translate("DiskOrb", "%1 used").arg(fmt::percent(valueFraction()));
   if (m_disk.cleanable > 0)
     //: Said by a screen reader; %1: a size
     parts << QCoreApplication::translate("DiskOrb", "%1 can be cleaned").arg(fmt::bytes(m_disk.cleanable));
   parts.removeAll(QString());
-  return parts.join(u", "_s);
+  return fmt::list(parts);
 }
 
 double DiskOrb::valueFraction() const { return double(m_disk.used) / double(m_disk.total); }

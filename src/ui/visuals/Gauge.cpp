@@ -1,9 +1,9 @@
 #include "ui/visuals/Gauge.h"
 
+#include "core/fmt.h"
+
 #include <QCoreApplication>
 #include <QPainter>
-
-using namespace Qt::StringLiterals;
 
 namespace ui {
 
@@ -26,9 +26,6 @@ constexpr int kArcSpan = -270 * 16;
 // Shares from which the colour warns.
 constexpr double kCautionAbove = 0.8;
 constexpr double kDangerAbove = 0.9;
-constexpr double kPercent = 100;
-
-QString percentText(double value) { return u"%1%"_s.arg(qRound(value * kPercent)); }
 } // namespace
 
 GaugeLayout gaugeLayout(const QSize& size) {
@@ -57,7 +54,7 @@ void Gauge::setValue(double value) {
 }
 
 //: Said by a screen reader; %1: a share such as “73%”
-QString Gauge::valueText() const { return QCoreApplication::translate("Gauge", "%1 used").arg(percentText(m_value)); }
+QString Gauge::valueText() const { return QCoreApplication::translate("Gauge", "%1 used").arg(fmt::percent(m_value)); }
 
 void Gauge::paintEvent(QPaintEvent* /*event*/) {
   const Theme& theme = Theme::get();
@@ -65,7 +62,7 @@ void Gauge::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   paintArcs(&painter, layout.dial);
-  dial::paintText(&painter, layout.text, {percentText(m_value), theme.font(kPercentPx, kPercentWeight), theme.text},
+  dial::paintText(&painter, layout.text, {fmt::percent(m_value), theme.font(kPercentPx, kPercentWeight), theme.text},
                   //: Under a share such as “73%”: so much of the disk is used
                   {QCoreApplication::translate("Gauge", "used"), theme.font(kWordPx, kWordWeight), theme.text2});
 }

@@ -1,5 +1,6 @@
 #include "ui/visuals/ProgressRing.h"
 
+#include "core/fmt.h"
 #include "ui/Theme.h"
 #include "ui/controls/Ticker.h"
 #include "ui/paint.h"
@@ -10,8 +11,6 @@
 #include <QtMath>
 
 #include <cmath>
-
-using namespace Qt::StringLiterals;
 
 namespace ui {
 
@@ -37,7 +36,6 @@ constexpr double kOrbitStep = 3.6;  // degrees
 constexpr double kFullTurn = 360;
 constexpr double kTwelveOClock = 90;
 constexpr double kNoOrbit = -1;
-constexpr double kPercent = 100;
 
 QRectF around(const QPointF& centre, double diameter) {
   return {centre.x() - diameter / 2, centre.y() - diameter / 2, diameter, diameter};
@@ -110,7 +108,7 @@ bool ProgressRing::isMoving() const { return m_easing->isRunning() || m_turning-
 
 QString ProgressRing::valueText() const {
   const QString lines = dial::spoken(m_headline, m_caption);
-  return lines.isEmpty() ? u"%1%"_s.arg(qRound(m_target * kPercent)) : lines;
+  return lines.isEmpty() ? fmt::percent(m_target) : lines;
 }
 
 void ProgressRing::ease() {

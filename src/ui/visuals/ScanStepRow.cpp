@@ -1,5 +1,6 @@
 #include "ui/visuals/ScanStepRow.h"
 
+#include "core/fmt.h"
 #include "ui/Theme.h"
 #include "ui/controls/ElidedLabel.h"
 #include "ui/controls/IconTile.h"
@@ -69,7 +70,7 @@ void ScanStepRow::set(StepBar::State state, const QString& value) {
 
 QString ScanStepRow::valueText() const {
   const QString state = m_bar->valueText();
-  return m_bar->state() == StepBar::Done ? state + u", "_s + m_value->text() : state;
+  return m_bar->state() == StepBar::Done ? fmt::list({state, m_value->text()}) : state;
 }
 
 void ScanStepRow::paintEvent(QPaintEvent* /*event*/) {

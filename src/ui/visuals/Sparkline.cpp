@@ -75,7 +75,7 @@ void Sparkline::setValueFormat(QString (*format)(qint64)) {
 QString Sparkline::valueText() const {
   QStringList told;
   for (const qint64 value : m_values) told << m_format(value);
-  return told.join(u", ");
+  return fmt::list(told);
 }
 
 double Sparkline::valueFraction() const {

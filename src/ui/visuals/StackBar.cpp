@@ -1,8 +1,10 @@
 #include "ui/visuals/StackBar.h"
 
+#include "core/fmt.h"
 #include "ui/Theme.h"
 #include "ui/paint.h"
 
+#include <QCoreApplication>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -11,8 +13,6 @@
 
 #include <algorithm>
 #include <cmath>
-
-using namespace Qt::StringLiterals;
 
 namespace ui {
 
@@ -27,7 +27,7 @@ constexpr double kStripeStep = 8;
 constexpr double kStripeWidth = 4;
 constexpr double kHatchedAlpha = 0.55;
 
-constexpr double kPercent = 100;
+constexpr double kOnePercent = 0.01;
 
 void paintSegment(QPainter* painter, const QRectF& rect, const StackBar::Segment& segment, const QRectF& bar) {
   const QRectF seen = rect & bar; // what overflows may be very wide
@@ -41,8 +41,13 @@ void paintSegment(QPainter* painter, const QRectF& rect, const StackBar::Segment
 }
 
 QString share(qint64 bytes, qint64 scale) {
-  const int percent = qRound(double(bytes) / double(scale) * kPercent);
-  return percent > 0 ? u"%1%"_s.arg(percent) : u"<1%"_s;
+  const double share = double(bytes) / double(scale);
+  return share < kOnePercent / 2 ? u'<' + fmt::percent(kOnePercent) : fmt::percent(share);
+}
+
+QString named(const QString& what, const QString& share) {
+  //: Said by a screen reader; %1: what takes space; %2: its share, such as “62%”
+  return QCoreApplication::translate("StackBar", "%1: %2").arg(what, share);
 }
 
 } // namespace
@@ -100,9 +105,9 @@ QString StackBar::valueText() const {
   for (const Segment& segment : m_segments) {
     if (segment.bytes <= 0) continue;
     const QString told = share(segment.bytes, m_scale);
-    shares << (segment.tip.isEmpty() ? told : u"%1: %2"_s.arg(segment.tip, told));
+    shares << (segment.tip.isEmpty() ? told : named(segment.tip, told));
   }
-  return shares.join(u", ");
+  return fmt::list(shares);
 }
 
 double StackBar::valueFraction() const {
