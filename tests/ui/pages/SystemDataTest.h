@@ -21,6 +21,8 @@
 #include "ui/pages/SystemDataResults.h"
 #include "ui/pages/SystemDataRow.h"
 #include "ui/pages/SystemDataScanView.h"
+#include "ui/visuals/Radar.h"
+#include "ui/visuals/ScanStepRow.h"
 
 #include <QAccessible>
 #include <QBoxLayout>
@@ -178,6 +180,11 @@ class SystemDataTest : public QObject {
   enum View { Start, Scan, Results };
   [[nodiscard]] int viewIndex() const { return views()->currentIndex(); }
   [[nodiscard]] QAbstractButton* button(const QString& text) const { return windowtest::button(*m_page, text); }
+  [[nodiscard]] ui::Radar* radar() const { return m_page->findChild<ui::Radar*>(); }
+  /// Of the measuring that is watched, in the catalogue's order.
+  [[nodiscard]] QList<ui::ScanStepRow*> stepRows() const {
+    return views()->widget(Scan)->findChildren<ui::ScanStepRow*>();
+  }
   /// Those on show, from top to bottom.
   [[nodiscard]] QList<ui::SystemDataRow*> rows() const {
     QList<ui::SystemDataRow*> all = views()->widget(Results)->findChildren<ui::SystemDataRow*>();
