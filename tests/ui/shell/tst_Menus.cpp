@@ -1,6 +1,7 @@
 // The window's commands: one table for the menu bar and the shortcuts, each of which is pressed on a real window.
 #include "MenusTest.h"
 #include "engines/LargeFileFinder.h"
+#include "offered.h"
 #include "ui/controls/Button.h"
 #include "ui/shell/CommandSet.h"
 #include "ui/shell/Sidebar.h"
@@ -82,7 +83,7 @@ void TestMenus::menuBarAsDesigned() {
     QKeySequence::StandardKey standard = QKeySequence::UnknownKey;
     const char* keys = "";
   };
-  const Row wanted[] = {
+  QList<Row> wanted = {
       {"File", "About Tarnwick", QAction::AboutRole},
       {"File", "Check for Updates…", QAction::ApplicationSpecificRole},
       {"File", "Settings…", QAction::PreferencesRole, QKeySequence::Preferences, "Ctrl+,"},
@@ -113,6 +114,7 @@ void TestMenus::menuBarAsDesigned() {
       {"Help", "FAQ"},
       {"Help", "Open Log Folder"},
   };
+  wanted.removeIf([](const Row& row) { return offered({QString::fromUtf8(row.text)}).isEmpty(); });
   QMenuBar bar;
   CommandSet set(this);
   set.fill(&bar);
@@ -123,11 +125,11 @@ void TestMenus::menuBarAsDesigned() {
     for (QAction* action : top->menu()->actions()) found.append({top->text(), action});
   }
   QCOMPARE(titles, (QStringList{u"File"_s, u"Edit"_s, u"View"_s, u"Window"_s, u"Help"_s}));
-  QCOMPARE(size_t(found.size()), std::size(wanted));
-  for (size_t i = 0; i < std::size(wanted); ++i) {
-    const QAction* action = found[qsizetype(i)].second;
-    const Row& row = wanted[i];
-    QCOMPARE(found[qsizetype(i)].first, QString::fromLatin1(row.menu));
+  QCOMPARE(found.size(), wanted.size());
+  for (qsizetype i = 0; i < wanted.size(); ++i) {
+    const QAction* action = found.at(i).second;
+    const Row& row = wanted.at(i);
+    QCOMPARE(found.at(i).first, QString::fromLatin1(row.menu));
     QCOMPARE(action->isSeparator(), *row.text == 0);
     if (action->isSeparator()) continue;
     QCOMPARE(action->text(), QString::fromUtf8(row.text));
@@ -156,7 +158,7 @@ void TestMenus::menuBarActs() {
 // None is only a line in the table.
 void TestMenus::everyCommandActs() {
   for (const commands::Entry& entry : commands::entries()) {
-    if (entry.id == Id::Separator) continue;
+    if (entry.id == Id::Separator || !commands::isOffered(entry)) continue;
     bool carried = false;
     for (const QAction* action : m_window->actions())
       carried =

@@ -1,6 +1,7 @@
 // The menu of the title bar: its entries as they stand there, and every one of them used.
 #include "MenusTest.h"
 #include "app/identity.h"
+#include "offered.h"
 #include "support/Desktop.h"
 #include "ui/shell/AboutDialog.h"
 #include "ui/shell/ShortcutsOverlay.h"
@@ -52,8 +53,8 @@ void TestTitleMenu::appMenuRows() {
   for (const QAction* action : menu->actions())
     texts << (action->isSeparator() ? u"-"_s
                                     : action->text() + u'|' + action->property("appMenuTrailingText").toString());
-  QCOMPARE(texts, (QStringList{u"Settings|"_s, u"-"_s, u"Check for Updates|"_s, u"Help|"_s,
-                               u"About Tarnwick|"_s + identity::kVersion, u"-"_s, u"Quit Tarnwick|"_s}));
+  QCOMPARE(texts, offered({u"Settings|"_s, u"-"_s, u"Check for Updates|"_s, u"Help|"_s,
+                           u"About Tarnwick|"_s + identity::kVersion, u"-"_s, u"Quit Tarnwick|"_s}));
   for (const QAction* action : menu->actions()) QCOMPARE(action->icon().isNull(), action->isSeparator());
   QCOMPARE(menu->parentWidget(), m_window.get());
   QCOMPARE(menu->pos(), m_window->mapToGlobal(QPoint(200, 60)) - QPoint(14, 10));
@@ -103,7 +104,7 @@ void TestTitleMenu::appMenuEntriesAct() {
 void TestTitleMenu::appMenuUnderADialog() {
   m_window->showAbout();
   const AppMenu* menu = showMenu();
-  for (const QString& text : {u"Settings"_s, u"Check for Updates"_s, u"About Tarnwick"_s})
+  for (const QString& text : offered({u"Settings"_s, u"Check for Updates"_s, u"About Tarnwick"_s}))
     QVERIFY2(!entryOf(menu, text)->isEnabled(), qPrintable(text));
   QVERIFY(entryOf(menu, u"Quit Tarnwick"_s)->isEnabled());
   const QMenu* help = entryOf(menu, u"Help"_s)->menu();
