@@ -42,7 +42,18 @@ void text(QPainter* painter, const QRectF& box, int flags, const QString& text);
 /// Draws @p text in its own direction from @p start, the left end of its baseline.
 void text(QPainter* painter, const QPointF& start, const QString& text);
 
-/// A rounded rectangle with a fill and, if it isn't Qt::NoPen, an outline.
+/// A line of a pixel along the inside of a rectangle.
+struct Outline {
+  QRectF path; ///< of the line's middle
+  double width = 1;
+};
+/// The outline of @p rect for @p painter. Where a pixel is one and a fraction of the device's, the line takes the whole
+/// ones, and lies on them, so that it is as crisp and as wide on every side.
+[[nodiscard]] Outline outlineOn(const QPainter* painter, const QRectF& rect);
+/// Fills @p rect, a straight line of a pixel, in the same way. Lines that meet leave no gap.
+void line(QPainter* painter, const QRectF& rect, const QColor& colour);
+/// A rounded rectangle with a fill and, if it isn't Qt::NoPen, an outline; one of a pixel in a rectangle of hairline()
+/// is placed as outlineOn() tells.
 void roundedRect(QPainter* painter, const QRectF& rect, double radius, const QBrush& fill,
                  const QPen& outline = Qt::NoPen);
 

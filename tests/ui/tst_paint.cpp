@@ -21,6 +21,31 @@ QImage painted(const QSize& size, Paint&& paint) {
   return image;
 }
 
+/// As on a screen with so many pixels for each.
+template <typename Paint>
+QImage scaled(double ratio, Paint&& paint) {
+  return painted(QSize(64, 64) * ratio, [&](QPainter* painter) {
+    painter->scale(ratio, ratio);
+    paint(painter);
+  });
+}
+
+/// What lies on the way through a picture: the lengths of the pieces of wholly blue pixels; 0 for nothing at all, -1
+/// for wholly red, -2 for anything mixed.
+QList<int> runs(const QImage& image, QPoint at, const QPoint& step) {
+  QList<int> found;
+  QRgb before = 1;
+  for (; image.rect().contains(at); at += step) {
+    const QRgb seen = image.pixel(at);
+    if (seen == qRgb(0, 0, 255) && seen == before)
+      ++found.last();
+    else if (seen != before)
+      found << (seen == 0 ? 0 : seen == qRgb(0, 0, 255) ? 1 : seen == qRgb(255, 0, 0) ? -1 : -2);
+    before = seen;
+  }
+  return found;
+}
+
 } // namespace
 
 class TestPaint : public QObject {
@@ -35,6 +60,14 @@ class TestPaint : public QObject {
   void textsReadInTheirOwnDirection_data();
   void textsReadInTheirOwnDirection();
   void textFromAPointReadsInItsOwnDirection();
+  void outlinesAreWholePixels_data();
+  void outlinesAreWholePixels();
+  void outlineStaysInside_data();
+  void outlineStaysInside();
+  void linesAreWholePixels_data();
+  void linesAreWholePixels();
+  void linesMeet();
+  void turnedPaintersAreLeftAlone();
   void roundedRectWithoutOutline();
   void shadowLayers_data();
   void shadowLayers();
@@ -130,6 +163,84 @@ void TestPaint::textFromAPointReadsInItsOwnDirection() {
     });
   };
   QCOMPARE(drawn(Qt::RightToLeft), drawn(Qt::LeftToRight));
+}
+
+void TestPaint::outlinesAreWholePixels_data() {
+  QTest::addColumn<double>("ratio");
+  QTest::addColumn<int>("width");
+  QTest::newRow("1") << 1.0 << 1;
+  QTest::newRow("1.25") << 1.25 << 1;
+  QTest::newRow("1.5") << 1.5 << 1;
+  QTest::newRow("1.75") << 1.75 << 1;
+  QTest::newRow("2") << 2.0 << 2;
+  QTest::newRow("2.5") << 2.5 << 2;
+}
+
+// Wherever it lies: on every side as many pixels of its colour, with nothing mixed beside them.
+void TestPaint::outlinesAreWholePixels() {
+  QFETCH(double, ratio);
+  QFETCH(int, width);
+  for (int at = 0; at < 8; ++at) {
+    const QRectF rect(3 + at, 5 + at, 40, 20 + at);
+    const QImage image =
+        scaled(ratio, [&](QPainter* painter) { roundedRect(painter, hairline(rect), 4, Qt::red, pen(Qt::blue)); });
+    const QPoint middle = (rect.center() * ratio).toPoint();
+    QCOMPARE(runs(image, {0, middle.y()}, {1, 0}), (QList<int>{0, width, -1, width, 0}));
+    QCOMPARE(runs(image, {middle.x(), 0}, {0, 1}), (QList<int>{0, width, -1, width, 0}));
+  }
+}
+
+void TestPaint::outlineStaysInside_data() { outlinesAreWholePixels_data(); }
+
+void TestPaint::outlineStaysInside() {
+  QFETCH(double, ratio);
+  QFETCH(int, width);
+  for (int at = 0; at < 8; ++at) {
+    const QRectF rect(3 + at, 5 + at, 40, 20 + at);
+    (void)scaled(ratio, [&](QPainter* painter) {
+      const Outline outline = outlineOn(painter, rect);
+      QVERIFY(qAbs(outline.width * ratio - width) < 1e-6);
+      const double half = outline.width / 2;
+      const QRectF outside = outline.path.adjusted(-half, -half, half, half);
+      QVERIFY(rect.adjusted(-1e-3, -1e-3, 1e-3, 1e-3).contains(outside));
+      QVERIFY(outside.width() * ratio > rect.width() * ratio - 2);
+      if (ratio == 1 || ratio == 2) QCOMPARE(outline.path, hairline(rect));
+    });
+  }
+}
+
+void TestPaint::linesAreWholePixels_data() { outlinesAreWholePixels_data(); }
+
+void TestPaint::linesAreWholePixels() {
+  QFETCH(double, ratio);
+  QFETCH(int, width);
+  for (const bool smooth : {false, true})
+    for (int at = 0; at < 8; ++at) {
+      const QImage image = scaled(ratio, [&](QPainter* painter) {
+        painter->setRenderHint(QPainter::Antialiasing, smooth);
+        line(painter, QRectF(4, 5 + at, 20, 1), Qt::blue);
+        line(painter, QRectF(30 + at, 5, 1, 20), Qt::blue);
+      });
+      QCOMPARE(runs(image, {int(10 * ratio), 0}, {0, 1}), (QList<int>{0, width, 0}));
+      QCOMPARE(runs(image, {int(26 * ratio), int(15 * ratio)}, {1, 0}), (QList<int>{0, width, 0}));
+    }
+}
+
+void TestPaint::linesMeet() {
+  for (int at = 0; at < 8; ++at) {
+    const QImage image = scaled(1.25, [&](QPainter* painter) {
+      line(painter, QRectF(4, 9, 10 + at, 1), QColor(0, 0, 255, 100));
+      line(painter, QRectF(14 + at, 9, 20, 1), QColor(0, 0, 255, 100));
+    });
+    for (int x = 6; x < 40; ++x) QCOMPARE(image.pixelColor(x, 11).alpha(), 100);
+  }
+}
+
+void TestPaint::turnedPaintersAreLeftAlone() {
+  (void)scaled(1.25, [](QPainter* painter) {
+    painter->rotate(20);
+    QCOMPARE(outlineOn(painter, QRectF(3, 3, 10, 10)).path, QRectF(3.5, 3.5, 9, 9));
+  });
 }
 
 void TestPaint::roundedRectWithoutOutline() {

@@ -1,6 +1,7 @@
 #include "ui/controls/Divider.h"
 
 #include "ui/Theme.h"
+#include "ui/paint.h"
 
 #include <QPainter>
 
@@ -11,6 +12,9 @@ Divider::Divider(QWidget* parent) : QWidget(parent) {
   connect(&Theme::get(), &Theme::changed, this, qOverload<>(&QWidget::update));
 }
 
-void Divider::paintEvent(QPaintEvent* /*event*/) { QPainter(this).fillRect(rect(), Theme::get().line); }
+void Divider::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  paint::line(&painter, rect(), Theme::get().line);
+}
 
 } // namespace ui

@@ -169,7 +169,7 @@ void LargeFileDelegate::paintCell(QPainter* painter, const QRect& cell, const QM
   const Theme& theme = Theme::get();
   const FileCellLayout layout = fileCellLayout(cell, m_view->layoutDirection());
   const auto file = index.data(LargeFilesModel::FileRole).value<LargeFile>();
-  painter->fillRect(layout.line, theme.line);
+  paint::line(painter, layout.line, theme.line);
   switch (index.column()) {
   case LargeFilesModel::Check:
     (index.data(LargeFilesModel::CheckedRole).toBool() ? paintTickedBox : paintEmptyBox)(painter, layout);

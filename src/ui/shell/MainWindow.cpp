@@ -277,8 +277,9 @@ void MainWindow::paintEvent(QPaintEvent* event) {
 
 // Nothing else tells the window from a bright one below it.
 void MainWindow::paintOutline(QPainter* painter) const {
-  painter->setPen(paint::pen(Theme::get().line));
-  painter->drawRect(paint::hairline(rect()));
+  const auto [path, width] = paint::outlineOn(painter, rect());
+  painter->setPen(paint::pen(Theme::get().line, width));
+  painter->drawRect(path);
 }
 
 } // namespace ui

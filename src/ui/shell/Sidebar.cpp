@@ -229,7 +229,8 @@ void Sidebar::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void Sidebar::paintEvent(QPaintEvent* /*event*/) {
   const int x = layoutDirection() == Qt::RightToLeft ? 0 : width() - 1; // towards the pages
-  QPainter(this).fillRect(x, 0, 1, height(), Theme::get().line);
+  QPainter painter(this);
+  paint::line(&painter, QRectF(x, 0, 1, height()), Theme::get().line);
 }
 
 } // namespace ui
