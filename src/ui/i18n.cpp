@@ -15,6 +15,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// What Qt itself says in our window, so that it is said in the language of the window also where Qt's own catalogues
+// aren't installed: the menu of a text field, and keys. Qt looks these up; here they are only for the catalogues' tool.
+[[maybe_unused]] constexpr std::array kSaidByQt = {
+    QT_TRANSLATE_NOOP("QLineEdit", "&Undo"),
+    QT_TRANSLATE_NOOP("QLineEdit", "&Redo"),
+    QT_TRANSLATE_NOOP("QLineEdit", "Cu&t"),
+    QT_TRANSLATE_NOOP("QLineEdit", "&Copy"),
+    QT_TRANSLATE_NOOP("QLineEdit", "&Paste"),
+    //: In the menu of a text field: what is selected
+    QT_TRANSLATE_NOOP("QLineEdit", "Delete"),
+    QT_TRANSLATE_NOOP("QLineEdit", "Select All"),
+    //: A key
+    QT_TRANSLATE_NOOP("QShortcut", "Ctrl"),
+    //: A key
+    QT_TRANSLATE_NOOP("QShortcut", "Shift"),
+    //: A key
+    QT_TRANSLATE_NOOP("QShortcut", "Meta"),
+};
+
 const i18n::Language* find(const QString& code) {
   const QList<i18n::Language>& all = i18n::languages();
   const auto found = std::find_if(all.begin(), all.end(), [&](const auto& one) { return one.code == code; });
