@@ -152,7 +152,8 @@ PseudoLanguage::PseudoLanguage(const QString& catalogue, double growth, pseudo::
   while (!xml.atEnd()) {
     if (xml.readNext() != QXmlStreamReader::StartElement) continue;
     if (xml.name() == "name"_L1) context = xml.readElementText();
-    if (xml.name() == "source"_L1) m_known << context + u'\n' + xml.readElementText();
+    // Qt puts the names of keys together itself, with a "+" in every language.
+    if (xml.name() == "source"_L1 && context != u"QShortcut"_s) m_known << context + u'\n' + xml.readElementText();
   }
 }
 
