@@ -78,11 +78,11 @@
     </message>
     <message>
         <source>Browser caches</source>
-        <translation>Caches de navigation</translation>
+        <translation>Caches de navigateurs</translation>
     </message>
     <message>
         <source>Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched.</source>
-        <translation>Images, scripts et pages en cache. Vos connexions, votre historique, vos signets et vos mots de passe restent intacts.</translation>
+        <translation>Images, scripts et pages en cache. Vos connexions, votre historique, vos signets et vos mots de passe ne sont jamais touchés.</translation>
     </message>
     <message>
         <source>Logs &amp; crash reports</source>
@@ -340,7 +340,7 @@
     </message>
     <message>
         <source>Find caches, temporary files and leftovers.</source>
-        <translation>Trouvez les caches, les fichiers temporaires et autres résidus.</translation>
+        <translation>Trouvez les caches, les fichiers temporaires et les résidus.</translation>
     </message>
     <message>
         <source>Start Smart Scan</source>
@@ -417,7 +417,7 @@
     </message>
     <message>
         <source>&lt;b&gt;Rules on what to keep have gone from the settings.&lt;/b&gt; Nothing is cleaned until you have looked at them.</source>
-        <translation>&lt;b&gt;Des règles d’exclusion ont disparu des réglages.&lt;/b&gt; Rien ne sera nettoyé tant que vous ne les aurez pas vérifiées.</translation>
+        <translation>&lt;b&gt;Des règles d’exclusion ont disparu des réglages.&lt;/b&gt; Rien ne sera nettoyé tant que vous n’aurez pas vérifié vos règles.</translation>
     </message>
     <message>
         <source>&lt;b&gt;The settings can&apos;t be read.&lt;/b&gt; Nothing is cleaned until you have looked at the rules on what to keep.</source>
@@ -431,7 +431,7 @@
     <message>
         <source>Items checked</source>
         <extracomment>Caption of a counter</extracomment>
-        <translation>Éléments vus</translation>
+        <translation>Examinés</translation>
     </message>
     <message>
         <source>Elapsed</source>
@@ -670,12 +670,12 @@
     <message>
         <source>%1 ms</source>
         <extracomment>Milliseconds</extracomment>
-        <translation>%1 ms</translation>
+        <translation>%1&#xa0;ms</translation>
     </message>
     <message>
         <source>%1 s</source>
         <extracomment>Seconds</extracomment>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>Not everything could be read: %1.</source>
@@ -703,7 +703,7 @@
     <message>
         <source>Rating</source>
         <extracomment>Head of a column: safe, review or permanent</extracomment>
-        <translation>Niveau</translation>
+        <translation>Évaluation</translation>
     </message>
     <message>
         <source>Where</source>
@@ -1045,8 +1045,8 @@
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected of %3 · %4 files</source>
         <extracomment>%2, %3: sizes; %4: how many files are listed, which the forms count; leave the tag as it is</extracomment>
         <translation>
-            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; cochés sur %3 · %4 fichier</numerusform>
-            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; cochés sur %3 · %4 fichiers</numerusform>
+            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; sur %3 · %4 fichier</numerusform>
+            <numerusform>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; sur %3 · %4 fichiers</numerusform>
         </translation>
     </message>
     <message>
@@ -1537,7 +1537,7 @@
     </message>
     <message>
         <source>Top recommendations</source>
-        <translation>Recommandations</translation>
+        <translation>Principales recommandations</translation>
     </message>
     <message>
         <source>What Smart Scan looks at</source>
@@ -1712,19 +1712,19 @@
     </message>
     <message>
         <source>100 MB</source>
-        <translation>100 Mo</translation>
+        <translation>100&#xa0;Mo</translation>
     </message>
     <message>
         <source>250 MB</source>
-        <translation>250 Mo</translation>
+        <translation>250&#xa0;Mo</translation>
     </message>
     <message>
         <source>500 MB</source>
-        <translation>500 Mo</translation>
+        <translation>500&#xa0;Mo</translation>
     </message>
     <message>
         <source>1 GB</source>
-        <translation>1 Go</translation>
+        <translation>1&#xa0;Go</translation>
     </message>
     <message>
         <source>Consider files old after</source>
@@ -1851,7 +1851,7 @@
     </message>
     <message>
         <source>Restart now</source>
-        <translation>Redémarrer</translation>
+        <translation>Relancer maintenant</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1859,7 +1859,7 @@
     </message>
     <message>
         <source>Tarnwick restarts to switch languages.</source>
-        <translation>Tarnwick redémarre pour changer de langue.</translation>
+        <translation>Tarnwick se relance pour changer de langue.</translation>
     </message>
     <message>
         <source>Protected system locations</source>
@@ -2390,7 +2390,7 @@
     </message>
     <message>
         <source>System databases &amp; temporary files</source>
-        <translation>Bases et fichiers temporaires système</translation>
+        <translation>Bases de données et fichiers temporaires système</translation>
     </message>
     <message>
         <source>Databases and per-app temporary folders used by macOS services. macOS manages these.</source>
