@@ -5,7 +5,7 @@
     <name>AppGuard</name>
     <message>
         <source>Password managers, input methods, security and device-management agents, VPNs</source>
-        <translation>パスワードマネージャ、入力ソフト、セキュリティおよびデバイス管理ソフト、VPN</translation>
+        <translation>パスワードマネージャ、入力メソッド、セキュリティやデバイス管理のエージェント、VPN</translation>
     </message>
 </context>
 <context>
@@ -210,7 +210,7 @@
     <message>
         <source>%1 is running</source>
         <extracomment>Mark of a row; %1: an app</extracomment>
-        <translation>%1を実行中</translation>
+        <translation>%1が実行中</translation>
     </message>
     <message>
         <source>Nothing left to clean. Rescan any time.</source>
@@ -223,7 +223,7 @@
     <message>
         <source>Show in %1</source>
         <extracomment>Button; %1: the file manager, Finder or Files</extracomment>
-        <translation>%1で表示</translation>
+        <translation>%1に表示</translation>
     </message>
     <message numerus="yes">
         <source>Show %1 more</source>
@@ -242,7 +242,7 @@
     <message numerus="yes">
         <source>&lt;b&gt;%Ln file(s) skipped&lt;/b&gt; because they were in use or protected. Quit the apps using them and rescan to remove them.</source>
         <translation>
-            <numerusform>使用中または保護されているため、&lt;b&gt;%Ln個のファイルをスキップしました&lt;/b&gt;。削除するには、使用中のアプリを終了してから再スキャンしてください。</numerusform>
+            <numerusform>使用中であるか保護されているため、&lt;b&gt;%Ln個のファイルをスキップしました&lt;/b&gt;。削除するには、それらを使用しているアプリを終了してから再スキャンしてください。</numerusform>
         </translation>
     </message>
     <message>
@@ -279,7 +279,7 @@
     </message>
     <message>
         <source>Moved to the %1. You can still restore anything.</source>
-        <translation>%1に入れました。まだ元に戻せます。</translation>
+        <translation>%1に入れました。どの項目もまだ元に戻せます。</translation>
     </message>
     <message>
         <source>Items were deleted permanently.</source>
@@ -332,7 +332,7 @@
     </message>
     <message>
         <source>Find caches, temporary files and leftovers.</source>
-        <translation>キャッシュ、一時ファイル、不要な残存ファイルを見つけます。</translation>
+        <translation>キャッシュ、一時ファイル、残存ファイルを見つけます。</translation>
     </message>
     <message>
         <source>Start Smart Scan</source>
@@ -356,7 +356,7 @@
     <message>
         <source>of %1</source>
         <extracomment>Under the size that was cleaned so far; %1: the size of the whole</extracomment>
-        <translation>%1中</translation>
+        <translation>全%1中</translation>
     </message>
     <message>
         <source>Select recommended</source>
@@ -442,7 +442,7 @@
     <message>
         <source>found</source>
         <extracomment>Under a size: so much was found until now</extracomment>
-        <translation>検出</translation>
+        <translation>検出済み</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>
@@ -461,7 +461,7 @@
     </message>
     <message>
         <source>Scans, shows what would go, asks, and cleans it.</source>
-        <translation>スキャンし、対象を表示し、確認を求めてからクリーンアップします。</translation>
+        <translation>スキャンして対象を表示し、確認を求めてからクリーンアップします。</translation>
     </message>
     <message>
         <source>Searches the home folder for large files, and changes nothing.</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
-        <translation>これらのカテゴリだけを調べます。cleanでは、指定しない限り対象にならないカテゴリも含め、そのすべてをクリーンアップします</translation>
+        <translation>これらのカテゴリだけを調べます。クリーンアップでは、指定しない限り決して対象にならないカテゴリも含め、そのすべてが対象になります</translation>
     </message>
     <message>
         <source>never touch what this rule names, beside the rules in the settings; repeatable</source>
@@ -747,7 +747,7 @@
     </message>
     <message>
         <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation>ゴミ箱に入れたファイルは、ゴミ箱を空にするまで容量を占めます。</translation>
+        <translation>ゴミ箱に入れた項目は、ゴミ箱を空にするまで容量を占めます。</translation>
     </message>
     <message>
         <source>Scanned in %1. Nothing was changed.</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
-        <translation>これは試行です。何も変更していません。</translation>
+        <translation>試行のため、何にも触れていません。</translation>
     </message>
     <message numerus="yes">
         <source>Freed %1, removed %2.</source>
@@ -976,7 +976,7 @@
     </message>
     <message>
         <source>Big files in your home folder. You decide what goes.</source>
-        <translation>ホームフォルダの大きなファイルを表示します。何を削除するかは自分で決められます。</translation>
+        <translation>ホームフォルダにある大きなファイルです。何を削除するかは自分で決められます。</translation>
     </message>
     <message>
         <source>Find large files</source>
@@ -999,7 +999,7 @@
     <message>
         <source>Show in %1</source>
         <extracomment>Button; %1: the file manager, Finder or Files</extracomment>
-        <translation>%1で表示</translation>
+        <translation>%1に表示</translation>
     </message>
     <message>
         <source>Move to %1</source>
@@ -1078,7 +1078,7 @@
     <message>
         <source>%1 is almost full. Run Smart Scan to free up space.</source>
         <extracomment>%1: the disk, such as “System disk”</extracomment>
-        <translation>%1の空き容量が残りわずかです。スマートスキャンで空きを増やせます。</translation>
+        <translation>%1の空き容量が残りわずかです。スマートスキャンを実行して空き容量を増やしてください。</translation>
     </message>
 </context>
 <context>
@@ -1520,7 +1520,7 @@
     </message>
     <message>
         <source>Top recommendations</source>
-        <translation>おすすめの項目</translation>
+        <translation>主な推奨項目</translation>
     </message>
     <message>
         <source>What Smart Scan looks at</source>
@@ -1609,7 +1609,7 @@
     </message>
     <message>
         <source>Administrator access</source>
-        <translation>管理者アクセス</translation>
+        <translation>管理者権限</translation>
     </message>
     <message>
         <source>Tarnwick is running as administrator and can clean Windows Update files.</source>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>Scans when Tarnwick starts if the last scan is older than this. Never cleans on its own.</source>
-        <translation>前回のスキャンからこの期間が過ぎていれば、Tarnwickの起動時にスキャンします。自動でクリーンアップすることはありません。</translation>
+        <translation>前回のスキャンからこの期間が過ぎていれば、Tarnwickの起動時にスキャンします。自動でクリーンアップすることは決してありません。</translation>
     </message>
     <message>
         <source>Off</source>
@@ -1891,7 +1891,7 @@
     </message>
     <message>
         <source>Never touch these</source>
-        <translation>常に除外する項目</translation>
+        <translation>一切触れない項目</translation>
     </message>
     <message>
         <source>Folders and patterns Tarnwick always skips.</source>
@@ -2006,7 +2006,7 @@
     </message>
     <message>
         <source>Show in Files</source>
-        <translation>「ファイル」で表示</translation>
+        <translation>「ファイル」に表示</translation>
     </message>
     <message>
         <source>Move to Trash</source>
@@ -2024,7 +2024,7 @@
     <message>
         <source>Clean in Cleanup</source>
         <extracomment>Button: go to the page Cleanup to clean it there</extracomment>
-        <translation>クリーンアップで処理</translation>
+        <translation>「クリーンアップ」で処理</translation>
     </message>
     <message>
         <source>Open Xcode</source>
@@ -2104,7 +2104,7 @@
     </message>
     <message>
         <source>Your app caches</source>
-        <translation>アプリキャッシュ</translation>
+        <translation>ユーザのアプリキャッシュ</translation>
     </message>
     <message>
         <source>Caches that apps keep in your cache folder. The safe ones can be cleaned from Cleanup.</source>
@@ -2116,7 +2116,7 @@
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .npm, .cargo and .nvm. Caches are safe to clear; keep tool installs.</source>
-        <translation>開発ツールやアプリが.npm、.cargo、.nvmなどの隠しフォルダに保存しているキャッシュ、設定、インストール済みファイルです。キャッシュは消去しても安全ですが、インストール済みのツールは残してください。</translation>
+        <translation>開発ツールやアプリが .npm、.cargo、.nvm などの隠しフォルダに保存しているキャッシュ、設定、インストール済みファイルです。キャッシュは消去しても安全ですが、インストール済みのツールは残してください。</translation>
     </message>
     <message>
         <source>Flatpak app data</source>
@@ -2124,11 +2124,11 @@
     </message>
     <message>
         <source>Settings, files and caches of your Flatpak apps, which each keep their own. “flatpak uninstall --delete-data” removes those of apps that are gone.</source>
-        <translation>各Flatpakアプリが個別に保存している設定、ファイル、キャッシュです。「flatpak uninstall --delete-data」で、すでにないアプリのデータを削除できます。</translation>
+        <translation>各Flatpakアプリが個別に保存している設定、ファイル、キャッシュです。「flatpak uninstall --delete-data」で、アンインストール済みのアプリのデータを削除できます。</translation>
     </message>
     <message>
         <source>Your Flatpak apps and runtimes</source>
-        <translation>自分のFlatpakアプリとランタイム</translation>
+        <translation>ユーザのFlatpakアプリとランタイム</translation>
     </message>
     <message>
         <source>Apps that Flatpak installed for you alone, and the runtimes that they need. “flatpak uninstall --user --unused” removes runtimes that no app needs any more.</source>
@@ -2260,7 +2260,7 @@
     </message>
     <message>
         <source>Device backups made by Finder. Delete old ones from Finder (General → Manage Backups) once a newer or iCloud backup exists.</source>
-        <translation>Finderで作成したデバイスのバックアップです。新しいバックアップまたはiCloudバックアップがあれば、古いものはFinder（「一般」→「バックアップを管理」）で削除してください。</translation>
+        <translation>Finderで作成したデバイスのバックアップです。より新しいバックアップかiCloudバックアップができたら、古いものはFinder（「一般」→「バックアップを管理」）で削除してください。</translation>
     </message>
     <message>
         <source>Xcode device support</source>
@@ -2292,7 +2292,7 @@
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .cache, .npm and .nvm. Caches are safe to clear; keep tool installs.</source>
-        <translation>開発ツールやアプリが.cache、.npm、.nvmなどの隠しフォルダに保存しているキャッシュ、設定、インストール済みファイルです。キャッシュは消去しても安全ですが、インストール済みのツールは残してください。</translation>
+        <translation>開発ツールやアプリが .cache、.npm、.nvm などの隠しフォルダに保存しているキャッシュ、設定、インストール済みファイルです。キャッシュは消去しても安全ですが、インストール済みのツールは残してください。</translation>
     </message>
     <message>
         <source>Xcode archives</source>
@@ -2475,7 +2475,7 @@
     </message>
     <message>
         <source>Simulator devices whose iOS runtime is no longer installed will be deleted, with their apps and data.</source>
-        <translation>iOSランタイムがインストールされていないシミュレータデバイスを、アプリとデータごと削除します。</translation>
+        <translation>iOSランタイムがもうインストールされていないシミュレータデバイスを、アプリとデータごと削除します。</translation>
     </message>
     <message>
         <source>%1 will be moved to the Trash. Xcode recreates it when you connect a device again.</source>
@@ -2510,11 +2510,11 @@
     </message>
     <message>
         <source>Only what you may read is counted. Folders that belong to the system or to other users are left out, and folders shared by several rows are counted once.</source>
-        <translation>読み取り権限のあるものだけを数えています。システムやほかのユーザが所有するフォルダは含まず、複数の行で共有されるフォルダは1回だけ数えます。</translation>
+        <translation>読み取り権限のあるものだけを集計しています。システムやほかのユーザが所有するフォルダは含まず、複数の行で共有されるフォルダは1回だけ集計します。</translation>
     </message>
     <message>
         <source>&lt;b&gt;Why Storage settings shows a bigger number&lt;/b&gt;&lt;br&gt;macOS works out System Data as whatever is left on the disk after Apps, Documents, Photos and its other categories. That remainder also includes things no app can measure: the Spotlight index, APFS snapshots, purgeable space and root-only system files. Without Full Disk Access, Tarnwick also can&apos;t see protected folders, so its total is lower than what macOS reports.</source>
-        <translation>&lt;b&gt;「ストレージ」設定の数値のほうが大きい理由&lt;/b&gt;&lt;br&gt;macOSは、アプリケーション、書類、写真などのカテゴリを除いたディスクの残りをシステムデータとして計算します。この残りには、アプリでは計測できないもの、つまりSpotlightの索引、APFSスナップショット、パージ可能な領域、ルート専用のシステムファイルも含まれます。さらに、フルディスクアクセスがないとTarnwickは保護されたフォルダを確認できないため、合計はmacOSの表示より小さくなります。</translation>
+        <translation>&lt;b&gt;「ストレージ」設定の数値のほうが大きい理由&lt;/b&gt;&lt;br&gt;macOSは、アプリケーション、書類、写真などのカテゴリを除いたディスクの残りをシステムデータとして計算します。この残りには、アプリでは計測できないもの、つまりSpotlightの索引、APFSスナップショット、パージ可能な領域、rootだけがアクセスできるシステムファイルも含まれます。さらに、フルディスクアクセスがないとTarnwickは保護されたフォルダを確認できないため、合計はmacOSの表示より小さくなります。</translation>
     </message>
     <message>
         <source>%1?</source>
@@ -2627,7 +2627,7 @@
     </message>
     <message>
         <source>The update is not signed by %1.</source>
-        <translation>アップデートは%1によって署名されていません。</translation>
+        <translation>アップデートに%1の署名がありません。</translation>
     </message>
 </context>
 <context>

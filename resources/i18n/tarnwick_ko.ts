@@ -210,11 +210,11 @@
     <message>
         <source>%1 is running</source>
         <extracomment>Mark of a row; %1: an app</extracomment>
-        <translation>%1 실행 중</translation>
+        <translation>%1 앱 실행 중</translation>
     </message>
     <message>
         <source>Nothing left to clean. Rescan any time.</source>
-        <translation>정리할 항목이 없습니다. 언제든지 다시 스캔할 수 있습니다.</translation>
+        <translation>더 이상 정리할 항목이 없습니다. 언제든지 다시 스캔할 수 있습니다.</translation>
     </message>
     <message>
         <source>Largest items</source>
@@ -315,7 +315,7 @@
     </message>
     <message>
         <source>You have no permission to read some of these folders.</source>
-        <translation>일부 폴더를 읽을 권한이 없습니다.</translation>
+        <translation>이 폴더 중 일부를 읽을 권한이 없습니다.</translation>
     </message>
     <message>
         <source>%1 is open. Quit it to include its cache.</source>
@@ -356,7 +356,7 @@
     <message>
         <source>of %1</source>
         <extracomment>Under the size that was cleaned so far; %1: the size of the whole</extracomment>
-        <translation>%1 중</translation>
+        <translation>전체 %1 중</translation>
     </message>
     <message>
         <source>Select recommended</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
-        <translation>이 카테고리만 확인합니다. clean에서는 따로 요청하지 않으면 정리하지 않는 카테고리까지 모두 정리합니다</translation>
+        <translation>이 카테고리만 확인합니다. 정리할 때는 따로 지정하지 않으면 절대 정리하지 않는 카테고리까지 모두 정리합니다</translation>
     </message>
     <message>
         <source>never touch what this rule names, beside the rules in the settings; repeatable</source>
@@ -550,7 +550,7 @@
     <message>
         <source>%1 is one word too many</source>
         <extracomment>%1: a word in quotes</extracomment>
-        <translation>%1 인수는 필요하지 않습니다</translation>
+        <translation>불필요한 인수: %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no --%2</source>
@@ -712,7 +712,7 @@
     <message>
         <source>%1 is running, so %2 of its data will stay.</source>
         <extracomment>%1: an app; %2: a size</extracomment>
-        <translation>%1 실행 중이므로 해당 데이터 중 %2는 남습니다.</translation>
+        <translation>%1 앱이 실행 중이므로 해당 데이터 중 %2는 남습니다.</translation>
     </message>
     <message>
         <source>Left alone unless you name it: %1. To clean it: --only %2</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
-        <translation>시험 실행입니다. 아무것도 건드리지 않았습니다.</translation>
+        <translation>시험 실행이었으며 아무것도 건드리지 않았습니다.</translation>
     </message>
     <message numerus="yes">
         <source>Freed %1, removed %2.</source>
@@ -1466,7 +1466,7 @@
     <message>
         <source>Review</source>
         <extracomment>Button: look at what was found</extracomment>
-        <translation>확인</translation>
+        <translation>검토</translation>
     </message>
     <message>
         <source>Scan</source>
@@ -1609,7 +1609,7 @@
     </message>
     <message>
         <source>Administrator access</source>
-        <translation>관리자 접근 권한</translation>
+        <translation>관리자 권한</translation>
     </message>
     <message>
         <source>Tarnwick is running as administrator and can clean Windows Update files.</source>
@@ -1891,7 +1891,7 @@
     </message>
     <message>
         <source>Never touch these</source>
-        <translation>항상 제외할 항목</translation>
+        <translation>절대 건드리지 않을 항목</translation>
     </message>
     <message>
         <source>Folders and patterns Tarnwick always skips.</source>
@@ -1913,7 +1913,7 @@
     </message>
     <message>
         <source>The rules are kept. The damaged settings file stays beside the new one.</source>
-        <translation>규칙을 보관했습니다. 손상된 설정 파일은 새 파일 옆에 남아 있습니다.</translation>
+        <translation>규칙을 저장했습니다. 손상된 설정 파일은 새 파일 옆에 남아 있습니다.</translation>
     </message>
     <message>
         <source>The settings can&apos;t be written, so they stay as they are.</source>
@@ -2002,7 +2002,7 @@
     <message>
         <source>Review in Finder</source>
         <extracomment>Button of a row on the page System Data</extracomment>
-        <translation>Finder에서 확인</translation>
+        <translation>Finder에서 검토</translation>
     </message>
     <message>
         <source>Show in Files</source>
@@ -2070,7 +2070,7 @@
     </message>
     <message>
         <source>Snapshots were not removed</source>
-        <translation>스냅샷을 제거하지 못했습니다</translation>
+        <translation>스냅샷이 제거되지 않았습니다</translation>
     </message>
     <message numerus="yes">
         <source>Removed %1 of %2 snapshots</source>
@@ -2104,7 +2104,7 @@
     </message>
     <message>
         <source>Your app caches</source>
-        <translation>앱 캐시</translation>
+        <translation>내 앱 캐시</translation>
     </message>
     <message>
         <source>Caches that apps keep in your cache folder. The safe ones can be cleaned from Cleanup.</source>
@@ -2148,7 +2148,7 @@
     </message>
     <message>
         <source>Disk images of virtual machines, kept by the program that made them. Delete a machine there, or with “virsh undefine --remove-all-storage”.</source>
-        <translation>가상 머신의 디스크 이미지로, 만든 프로그램에서 보관합니다. 머신은 해당 프로그램이나 “virsh undefine --remove-all-storage”로 삭제하십시오.</translation>
+        <translation>가상 머신의 디스크 이미지로, 만든 프로그램에서 보관합니다. 가상 머신은 해당 프로그램에서 삭제하거나 “virsh undefine --remove-all-storage”로 삭제하십시오.</translation>
     </message>
     <message>
         <source>Game libraries</source>
@@ -2276,7 +2276,7 @@
     </message>
     <message>
         <source>Simulator devices and their app data. Removing unavailable devices (for runtimes you no longer have) is safe.</source>
-        <translation>시뮬레이터 기기와 앱 데이터입니다. 사용할 수 없는 기기(런타임이 더 이상 없는 기기)는 제거해도 안전합니다.</translation>
+        <translation>시뮬레이터 기기와 해당 앱 데이터입니다. 사용할 수 없는 기기(런타임이 더 이상 없는 기기)는 제거해도 안전합니다.</translation>
     </message>
     <message>
         <source>Simulator runtimes &amp; caches</source>
