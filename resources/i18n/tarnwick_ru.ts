@@ -86,7 +86,7 @@
     </message>
     <message>
         <source>Cached images, scripts and pages. Sign-ins, history, bookmarks and passwords are never touched.</source>
-        <translation>Сохранённые изображения, скрипты и страницы. Данные для входа, история, закладки и пароли никогда не затрагиваются.</translation>
+        <translation>Кэшированные изображения, скрипты и страницы. Входы на сайты, история, закладки и пароли никогда не затрагиваются.</translation>
     </message>
     <message>
         <source>Logs &amp; crash reports</source>
@@ -130,11 +130,11 @@
     </message>
     <message>
         <source>Disk images and installer packages in your Downloads folder. Review in case you still need an installer.</source>
-        <translation>Образы дисков и установочные пакеты в папке загрузок. Проверьте, не нужны ли вам ещё какие-нибудь из них.</translation>
+        <translation>Образы дисков и установочные пакеты в папке «Загрузки». Проверьте, не нужен ли вам ещё какой-нибудь установщик.</translation>
     </message>
     <message>
         <source>Software packages and disc images in your Downloads folder. Review in case you still need one of them.</source>
-        <translation>Пакеты программ и образы дисков в папке загрузок. Проверьте, не нужны ли вам ещё какие-нибудь из них.</translation>
+        <translation>Пакеты программ и образы дисков в папке «Загрузки». Проверьте, не нужен ли вам ещё какой-нибудь из них.</translation>
     </message>
     <message>
         <source>Safe</source>
@@ -315,7 +315,7 @@
     </message>
     <message>
         <source>Open System Settings</source>
-        <translation>Системные настройки</translation>
+        <translation>Открыть Системные настройки</translation>
     </message>
     <message>
         <source>Some files belong to the system and were left alone.</source>
@@ -396,7 +396,7 @@
     <message>
         <source>%1 can be cleaned</source>
         <extracomment>Heading; %1: a size</extracomment>
-        <translation>Можно очистить %1</translation>
+        <translation>К очистке: %1</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected%3</source>
@@ -473,7 +473,7 @@
     <name>Cli</name>
     <message>
         <source>Measures what could be cleaned, and changes nothing.</source>
-        <translation>Считает, сколько можно очистить, и ничего не меняет.</translation>
+        <translation>Подсчитывает, сколько можно очистить, и ничего не меняет.</translation>
     </message>
     <message>
         <source>Scans, shows what would go, asks, and cleans it.</source>
@@ -485,7 +485,7 @@
     </message>
     <message>
         <source>Measures what makes up the system&apos;s share of the disk, and changes nothing.</source>
-        <translation>Считает, чем система занимает диск, и ничего не меняет.</translation>
+        <translation>Подсчитывает, из чего складывается доля системы на диске, и ничего не меняет.</translation>
     </message>
     <message>
         <source>look only at these categories; a clean then takes all of them, also those that are never cleaned unasked</source>
@@ -493,7 +493,7 @@
     </message>
     <message>
         <source>never touch what this rule names, beside the rules in the settings; repeatable</source>
-        <translation>никогда не трогать то, что задаёт это правило, в дополнение к правилам из настроек; можно повторять</translation>
+        <translation>никогда не трогать то, что задаёт это правило, в дополнение к правилам из настроек; можно указать несколько раз</translation>
     </message>
     <message>
         <source>delete for good, whatever the settings say</source>
@@ -612,7 +612,7 @@
     </message>
     <message>
         <source>there is no terminal to ask on, so nothing is cleaned without --yes</source>
-        <translation>спросить не у кого: нет терминала, поэтому без --yes ничего не очищается</translation>
+        <translation>нет терминала, чтобы задать вопрос, поэтому без --yes ничего не очищается</translation>
     </message>
     <message>
         <source>the search was cancelled</source>
@@ -840,7 +840,7 @@
     <message>
         <source>No file in the home folder takes %1 or more.</source>
         <extracomment>%1: a size</extracomment>
-        <translation>В домашней папке нет файлов размером от %1.</translation>
+        <translation>В домашней папке нет файлов, которые занимают %1 или больше.</translation>
     </message>
     <message numerus="yes">
         <source>Searched %1 in %2. Nothing was changed.</source>
@@ -867,7 +867,7 @@
     <message>
         <source>Largest: %1</source>
         <extracomment>%1: names of folders, with commas</extracomment>
-        <translation>Крупнейшие: %1</translation>
+        <translation>Самые большие: %1</translation>
     </message>
     <message>
         <source>You can reclaim</source>
@@ -1090,7 +1090,7 @@
     <message>
         <source>%1 is not from Tarnwick and was left as it is. Remove it to open Tarnwick at login.</source>
         <extracomment>%1: a path</extracomment>
-        <translation>Файл %1 создан не Tarnwick и оставлен как есть. Удалите его, чтобы открывать Tarnwick при входе.</translation>
+        <translation>Файл %1 создан не программой Tarnwick и оставлен как есть. Удалите его, чтобы открывать Tarnwick при входе.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written, so Tarnwick does not open at login.</source>
@@ -1290,7 +1290,7 @@
     </message>
     <message>
         <source>Tarnwick can stay in the system tray when you close the window, so scheduled scans and low space alerts keep working. You can open it again from the tray icon.</source>
-        <translation>После закрытия окна Tarnwick может остаться в системном трее, чтобы плановый анализ и предупреждения о нехватке места не прекращались. Снова открыть окно можно через значок в трее.</translation>
+        <translation>Когда вы закроете окно, Tarnwick может остаться в системном трее, чтобы и дальше выполнять плановый анализ и предупреждать о нехватке места. Снова открыть окно можно через значок в трее.</translation>
     </message>
     <message>
         <source>You can change this in Settings.</source>
@@ -1316,7 +1316,7 @@
     </message>
     <message>
         <source>Everything will be moved to the %1, so you can restore it later.</source>
-        <translation>Всё будет перемещено в %1, откуда это можно восстановить.</translation>
+        <translation>Всё будет перемещено в %1, и позже это можно будет восстановить.</translation>
     </message>
     <message>
         <source>Clean and delete</source>
@@ -1434,7 +1434,7 @@
     <message>
         <source>Scanned %1</source>
         <extracomment>%1: when, as “today”, “yesterday” or “3 days ago”</extracomment>
-        <translation>Анализ был %1</translation>
+        <translation>Анализ: %1</translation>
     </message>
     <message>
         <source>Off</source>
@@ -1517,7 +1517,7 @@
     </message>
     <message>
         <source>Keep your disk in shape</source>
-        <translation>Держите диск в порядке</translation>
+        <translation>Держите диск в&#xa0;порядке</translation>
     </message>
     <message>
         <source>%1 purgeable</source>
@@ -1725,7 +1725,7 @@
     </message>
     <message>
         <source>Files bigger than this appear in Large &amp; Old Files.</source>
-        <translation>Файлы больше этого размера показываются среди больших и старых.</translation>
+        <translation>Файлы больше этого размера показываются в списке больших и старых файлов.</translation>
     </message>
     <message>
         <source>100 MB</source>
@@ -1775,7 +1775,7 @@
     </message>
     <message>
         <source>Scans when Tarnwick starts if the last scan is older than this. Never cleans on its own.</source>
-        <translation>Выполняется при запуске Tarnwick, если последний анализ был раньше этого срока. Сам никогда ничего не очищает.</translation>
+        <translation>Выполняется при запуске Tarnwick, если с последнего анализа прошло больше выбранного срока. Сам никогда ничего не очищает.</translation>
     </message>
     <message>
         <source>Off</source>
@@ -1820,7 +1820,7 @@
     </message>
     <message>
         <source>Closing the window keeps Tarnwick running there, so scheduled scans and low space alerts keep working.</source>
-        <translation>После закрытия окна Tarnwick остаётся там, поэтому плановый анализ и предупреждения о нехватке места не прекращаются.</translation>
+        <translation>После закрытия окна Tarnwick остаётся там и по-прежнему выполняет плановый анализ и предупреждает о нехватке места.</translation>
     </message>
     <message>
         <source>Ask every time</source>
@@ -1840,7 +1840,7 @@
     </message>
     <message>
         <source>In the tray, Tarnwick keeps running so scheduled scans and low space alerts keep working.</source>
-        <translation>В трее Tarnwick продолжает работать, поэтому плановый анализ и предупреждения о нехватке места не прекращаются.</translation>
+        <translation>В трее Tarnwick продолжает работать: выполняет плановый анализ и предупреждает о нехватке места.</translation>
     </message>
     <message>
         <source>Theme</source>
@@ -1885,7 +1885,7 @@
     <message>
         <source> — always skipped.</source>
         <extracomment>Follows a list of folders</extracomment>
-        <translation> — всегда пропускаются.</translation>
+        <translation>&#xa0;— всегда пропускаются.</translation>
     </message>
     <message>
         <source>Protected apps</source>
@@ -1893,7 +1893,7 @@
     </message>
     <message>
         <source> — their data is never cleaned. Caches of running apps and open files are skipped too.</source>
-        <translation> — их данные никогда не очищаются. Кэш работающих приложений и открытые файлы тоже пропускаются.</translation>
+        <translation>&#xa0;— их данные никогда не очищаются. Кэш работающих приложений и открытые файлы тоже пропускаются.</translation>
     </message>
     <message>
         <source>Open logs</source>
@@ -2116,9 +2116,9 @@
         <source>Removed %1 of %2 snapshots</source>
         <extracomment>The forms count %2, how many there were</extracomment>
         <translation>
-            <numerusform>Удалено %1 из %2 снимка</numerusform>
-            <numerusform>Удалено %1 из %2 снимков</numerusform>
-            <numerusform>Удалено %1 из %2 снимков</numerusform>
+            <numerusform>Удалено снимков: %1 из %2</numerusform>
+            <numerusform>Удалено снимков: %1 из %2</numerusform>
+            <numerusform>Удалено снимков: %1 из %2</numerusform>
         </translation>
     </message>
     <message>
@@ -2160,7 +2160,7 @@
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .npm, .cargo and .nvm. Caches are safe to clear; keep tool installs.</source>
-        <translation>Кэш, настройки и установленные инструменты, которые средства разработки и приложения хранят в скрытых папках, таких как .npm, .cargo и .nvm. Кэш удалять безопасно, а установленные инструменты лучше оставить.</translation>
+        <translation>Кэш, настройки и установленные инструменты, которые средства разработки и приложения хранят в скрытых папках, таких как .npm, .cargo и .nvm. Кэш удалять безопасно, а установленные инструменты следует оставить.</translation>
     </message>
     <message>
         <source>Flatpak app data</source>
@@ -2236,7 +2236,7 @@
     </message>
     <message>
         <source>Crash dumps</source>
-        <translation>Дампы сбоев</translation>
+        <translation>Аварийные дампы</translation>
     </message>
     <message>
         <source>What was in the memory of programs that crashed, kept for reports. The system deletes old ones; “coredumpctl” lists them.</source>
@@ -2296,7 +2296,7 @@
     </message>
     <message>
         <source>Hourly snapshots macOS keeps on this disk until Time Machine can reach its backup drive. macOS frees them when space runs low; removing them now is safe, but you lose those restore points.</source>
-        <translation>Ежечасные снимки, которые macOS хранит на этом диске, пока Time Machine недоступен диск резервного копирования. Когда места становится мало, macOS удаляет их сама; удалить их сейчас безопасно, но вернуться к этим точкам восстановления уже не получится.</translation>
+        <translation>Ежечасные снимки, которые macOS хранит на этом диске, пока Time Machine не получит доступ к своему диску резервного копирования. Когда места становится мало, macOS удаляет их сама; удалить их сейчас безопасно, но вернуться к этим точкам восстановления уже не получится.</translation>
     </message>
     <message>
         <source>iPhone &amp; iPad backups</source>
@@ -2336,7 +2336,7 @@
     </message>
     <message>
         <source>Caches, settings and installs that developer tools and apps keep in hidden folders such as .cache, .npm and .nvm. Caches are safe to clear; keep tool installs.</source>
-        <translation>Кэш, настройки и установленные инструменты, которые средства разработки и приложения хранят в скрытых папках, таких как .cache, .npm и .nvm. Кэш удалять безопасно, а установленные инструменты лучше оставить.</translation>
+        <translation>Кэш, настройки и установленные инструменты, которые средства разработки и приложения хранят в скрытых папках, таких как .cache, .npm и .nvm. Кэш удалять безопасно, а установленные инструменты следует оставить.</translation>
     </message>
     <message>
         <source>Xcode archives</source>
@@ -2384,11 +2384,11 @@
     </message>
     <message>
         <source>Unified logs and diagnostic reports. macOS rotates and deletes them automatically.</source>
-        <translation>Единый журнал и отчёты о диагностике. macOS обновляет и удаляет их автоматически.</translation>
+        <translation>Единый журнал и диагностические отчёты. macOS сменяет и удаляет их автоматически.</translation>
     </message>
     <message>
         <source>Virtual memory &amp; sleep image</source>
-        <translation>Виртуальная память и образ сна</translation>
+        <translation>Виртуальная память и образ гибернации</translation>
     </message>
     <message>
         <source>Swap files and the hibernation image. They grow and shrink with memory use and reset when you restart.</source>
@@ -2404,7 +2404,7 @@
     </message>
     <message>
         <source>Other Library data</source>
-        <translation>Другие данные Библиотек</translation>
+        <translation>Другое в папке «Библиотеки»</translation>
     </message>
     <message>
         <source>Everything else in your Library folder: preferences, keychains, logs, and data for system services.</source>
@@ -2412,7 +2412,7 @@
     </message>
     <message>
         <source>System databases &amp; temporary files</source>
-        <translation>Системные базы и временные файлы</translation>
+        <translation>Системные базы данных и временные файлы</translation>
     </message>
     <message>
         <source>Databases and per-app temporary folders used by macOS services. macOS manages these.</source>
@@ -2424,7 +2424,7 @@
     </message>
     <message>
         <source>Settings, databases and files apps keep for you. Remove an app&apos;s data by uninstalling the app or from within the app.</source>
-        <translation>Настройки, базы данных и файлы, которые приложения хранят для вас. Чтобы убрать данные приложения, удалите его или сделайте это в нём самом.</translation>
+        <translation>Настройки, базы данных и файлы, которые приложения хранят для вас. Удаляйте данные приложения вместе с ним или в нём самом.</translation>
     </message>
     <message>
         <source>1 snapshot</source>
@@ -2545,7 +2545,7 @@
     <message>
         <source>Largest: %1</source>
         <extracomment>%1: names of folders, with commas</extracomment>
-        <translation>Крупнейшие: %1</translation>
+        <translation>Самые большие: %1</translation>
     </message>
     <message>
         <source>Managed by macOS</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>The server redirected to an address that is not safe.</source>
-        <translation>Сервер перенаправил на небезопасный адрес.</translation>
+        <translation>Сервер перенаправил запрос на небезопасный адрес.</translation>
     </message>
     <message>
         <source>Too many redirects.</source>
