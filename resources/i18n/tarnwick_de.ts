@@ -159,6 +159,11 @@
         <source>Simulator caches</source>
         <translation>Simulator-Caches</translation>
     </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <translation>Papierkorb</translation>
+    </message>
 </context>
 <context>
     <name>Cleaner</name>
@@ -492,10 +497,6 @@
         <translation>dauerhaft löschen, unabhängig von den Einstellungen</translation>
     </message>
     <message>
-        <source>move to the Trash, whatever the settings say</source>
-        <translation>in den Papierkorb legen, unabhängig von den Einstellungen</translation>
-    </message>
-    <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
         <translation>nichts antasten; auflisten, was entfernt würde, was bliebe und warum</translation>
     </message>
@@ -730,18 +731,9 @@
         <translation>Bleibt unangetastet, solange nicht ausdrücklich genannt: %1. Zum Bereinigen: --only %2</translation>
     </message>
     <message>
-        <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
-        <extracomment>%1: a size</extracomment>
-        <translation>%1 davon liegen auf einem Volume ohne Papierkorb und bleiben dort, sofern Sie nicht --delete angeben.</translation>
-    </message>
-    <message>
         <source>deleted for good</source>
-        <extracomment>In a table: what will become of a category</extracomment>
+        <extracomment>In a table: what will become of a category; %1: the Trash</extracomment>
         <translation>dauerhaft löschen</translation>
-    </message>
-    <message>
-        <source>moved to the Trash</source>
-        <translation>in den Papierkorb</translation>
     </message>
     <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
@@ -757,10 +749,6 @@
         <translation>Unangetastet, da gerade geöffnet: %1.</translation>
     </message>
     <message>
-        <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation>Was in den Papierkorb gelegt wurde, belegt weiter Speicherplatz, bis Sie ihn leeren.</translation>
-    </message>
-    <message>
         <source>Scanned in %1. Nothing was changed.</source>
         <extracomment>%1: a time such as “2.1 s”</extracomment>
         <translation>In %1 gescannt. Es wurde nichts verändert.</translation>
@@ -771,16 +759,8 @@
     </message>
     <message>
         <source>Delete %1 for good?</source>
-        <extracomment>%1: a size, as %2 of the two that follow</extracomment>
+        <extracomment>%1 and %2: sizes; %3: the Trash</extracomment>
         <translation>%1 dauerhaft löschen?</translation>
-    </message>
-    <message>
-        <source>Move %2 to the Trash?</source>
-        <translation>%2 in den Papierkorb legen?</translation>
-    </message>
-    <message>
-        <source>Delete %1 for good and move %2 to the Trash?</source>
-        <translation>%1 dauerhaft löschen und %2 in den Papierkorb legen?</translation>
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
@@ -882,6 +862,33 @@
         <source>%1 (%2)</source>
         <extracomment>%1: the title of a category; %2: a size</extracomment>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>move to the %1, whatever the settings say</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>in den %1 legen, unabhängig von den Einstellungen</translation>
+    </message>
+    <message>
+        <source>%1 of it lies on a volume without a %2 and will stay, unless you say --delete.</source>
+        <extracomment>%1: a size; %2: the Trash</extracomment>
+        <translation>%1 davon liegen auf einem Volume ohne %2 und bleiben dort, sofern Sie nicht --delete angeben.</translation>
+    </message>
+    <message>
+        <source>moved to the %1</source>
+        <translation>in den %1</translation>
+    </message>
+    <message>
+        <source>What was moved to the %1 takes its room until you empty it.</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>Was in den %1 gelegt wurde, belegt weiter Speicherplatz, bis Sie ihn leeren.</translation>
+    </message>
+    <message>
+        <source>Move %2 to the %3?</source>
+        <translation>%2 in den %3 legen?</translation>
+    </message>
+    <message>
+        <source>Delete %1 for good and move %2 to the %3?</source>
+        <translation>%1 dauerhaft löschen und %2 in den %3 legen?</translation>
     </message>
 </context>
 <context>
@@ -1553,7 +1560,7 @@
     </message>
     <message>
         <source>Trash</source>
-        <extracomment>The Trash by its name in this language; stands in other texts as “%1”</extracomment>
+        <extracomment>The Trash of macOS by its name in this language; stands in other texts as “%1”</extracomment>
         <translation>Papierkorb</translation>
     </message>
     <message>
@@ -1565,6 +1572,12 @@
         <source>Files</source>
         <extracomment>The file manager of Linux desktops; stands in other texts as “%1”</extracomment>
         <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <extracomment>The Trash of Linux desktops by its name in this language; stands in other texts as “%1”</extracomment>
+        <translation>Papierkorb</translation>
     </message>
 </context>
 <context>

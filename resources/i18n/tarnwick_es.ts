@@ -159,6 +159,11 @@
         <source>Simulator caches</source>
         <translation>Caché de simuladores</translation>
     </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <translation>Papelera</translation>
+    </message>
 </context>
 <context>
     <name>Cleaner</name>
@@ -492,10 +497,6 @@
         <translation>elimina definitivamente, digan lo que digan los ajustes</translation>
     </message>
     <message>
-        <source>move to the Trash, whatever the settings say</source>
-        <translation>mueve a la Papelera, digan lo que digan los ajustes</translation>
-    </message>
-    <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
         <translation>no toca nada; indica qué se eliminaría y qué se quedaría, y por qué</translation>
     </message>
@@ -730,18 +731,9 @@
         <translation>No se toca si no lo indicas: %1. Para limpiarlo: --only %2</translation>
     </message>
     <message>
-        <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
-        <extracomment>%1: a size</extracomment>
-        <translation>De ellos, %1 están en un volumen sin Papelera y no se tocarán, salvo que uses --delete.</translation>
-    </message>
-    <message>
         <source>deleted for good</source>
-        <extracomment>In a table: what will become of a category</extracomment>
+        <extracomment>In a table: what will become of a category; %1: the Trash</extracomment>
         <translation>eliminado definitivamente</translation>
-    </message>
-    <message>
-        <source>moved to the Trash</source>
-        <translation>movido a la Papelera</translation>
     </message>
     <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
@@ -757,10 +749,6 @@
         <translation>Las apps en ejecución no se han tocado: %1.</translation>
     </message>
     <message>
-        <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation>Lo que se ha movido a la Papelera sigue ocupando espacio hasta que la vacíes.</translation>
-    </message>
-    <message>
         <source>Scanned in %1. Nothing was changed.</source>
         <extracomment>%1: a time such as “2.1 s”</extracomment>
         <translation>Analizado en %1. No se ha cambiado nada.</translation>
@@ -771,16 +759,8 @@
     </message>
     <message>
         <source>Delete %1 for good?</source>
-        <extracomment>%1: a size, as %2 of the two that follow</extracomment>
+        <extracomment>%1 and %2: sizes; %3: the Trash</extracomment>
         <translation>¿Eliminar %1 definitivamente?</translation>
-    </message>
-    <message>
-        <source>Move %2 to the Trash?</source>
-        <translation>¿Mover %2 a la Papelera?</translation>
-    </message>
-    <message>
-        <source>Delete %1 for good and move %2 to the Trash?</source>
-        <translation>¿Eliminar %1 definitivamente y mover %2 a la Papelera?</translation>
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
@@ -882,6 +862,33 @@
         <source>%1 (%2)</source>
         <extracomment>%1: the title of a category; %2: a size</extracomment>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>move to the %1, whatever the settings say</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>mueve a la %1, digan lo que digan los ajustes</translation>
+    </message>
+    <message>
+        <source>%1 of it lies on a volume without a %2 and will stay, unless you say --delete.</source>
+        <extracomment>%1: a size; %2: the Trash</extracomment>
+        <translation>De ellos, %1 están en un volumen sin %2 y no se tocarán, salvo que uses --delete.</translation>
+    </message>
+    <message>
+        <source>moved to the %1</source>
+        <translation>movido a la %1</translation>
+    </message>
+    <message>
+        <source>What was moved to the %1 takes its room until you empty it.</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>Lo que se ha movido a la %1 sigue ocupando espacio hasta que la vacíes.</translation>
+    </message>
+    <message>
+        <source>Move %2 to the %3?</source>
+        <translation>¿Mover %2 a la %3?</translation>
+    </message>
+    <message>
+        <source>Delete %1 for good and move %2 to the %3?</source>
+        <translation>¿Eliminar %1 definitivamente y mover %2 a la %3?</translation>
     </message>
 </context>
 <context>
@@ -1553,7 +1560,7 @@
     </message>
     <message>
         <source>Trash</source>
-        <extracomment>The Trash by its name in this language; stands in other texts as “%1”</extracomment>
+        <extracomment>The Trash of macOS by its name in this language; stands in other texts as “%1”</extracomment>
         <translation>Papelera</translation>
     </message>
     <message>
@@ -1565,6 +1572,12 @@
         <source>Files</source>
         <extracomment>The file manager of Linux desktops; stands in other texts as “%1”</extracomment>
         <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <extracomment>The Trash of Linux desktops by its name in this language; stands in other texts as “%1”</extracomment>
+        <translation>Papelera</translation>
     </message>
 </context>
 <context>

@@ -159,6 +159,11 @@
         <source>Simulator caches</source>
         <translation>Caches du simulateur</translation>
     </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <translation>Corbeille</translation>
+    </message>
 </context>
 <context>
     <name>Cleaner</name>
@@ -492,10 +497,6 @@
         <translation>supprimer définitivement, quels que soient les réglages</translation>
     </message>
     <message>
-        <source>move to the Trash, whatever the settings say</source>
-        <translation>mettre à la Corbeille, quels que soient les réglages</translation>
-    </message>
-    <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
         <translation>ne toucher à rien&#xa0;; lister ce qui partirait, ce qui resterait et pourquoi</translation>
     </message>
@@ -730,18 +731,9 @@
         <translation>Laissé de côté sauf demande expresse&#xa0;: %1. Pour le nettoyer&#xa0;: --only %2</translation>
     </message>
     <message>
-        <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
-        <extracomment>%1: a size</extracomment>
-        <translation>Une partie (%1) se trouve sur un volume sans Corbeille et restera en place, sauf avec --delete.</translation>
-    </message>
-    <message>
         <source>deleted for good</source>
-        <extracomment>In a table: what will become of a category</extracomment>
+        <extracomment>In a table: what will become of a category; %1: the Trash</extracomment>
         <translation>suppression définitive</translation>
-    </message>
-    <message>
-        <source>moved to the Trash</source>
-        <translation>mise à la Corbeille</translation>
     </message>
     <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
@@ -757,10 +749,6 @@
         <translation>Laissées de côté, car en cours d’exécution&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation>Ce qui a été mis à la Corbeille occupe de la place tant que vous ne la videz pas.</translation>
-    </message>
-    <message>
         <source>Scanned in %1. Nothing was changed.</source>
         <extracomment>%1: a time such as “2.1 s”</extracomment>
         <translation>Analyse effectuée en %1. Rien n’a été modifié.</translation>
@@ -771,16 +759,8 @@
     </message>
     <message>
         <source>Delete %1 for good?</source>
-        <extracomment>%1: a size, as %2 of the two that follow</extracomment>
+        <extracomment>%1 and %2: sizes; %3: the Trash</extracomment>
         <translation>Supprimer définitivement %1&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Move %2 to the Trash?</source>
-        <translation>Mettre %2 à la Corbeille&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Delete %1 for good and move %2 to the Trash?</source>
-        <translation>Supprimer définitivement %1 et mettre %2 à la Corbeille&#xa0;?</translation>
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
@@ -882,6 +862,33 @@
         <source>%1 (%2)</source>
         <extracomment>%1: the title of a category; %2: a size</extracomment>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>move to the %1, whatever the settings say</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>mettre à la %1, quels que soient les réglages</translation>
+    </message>
+    <message>
+        <source>%1 of it lies on a volume without a %2 and will stay, unless you say --delete.</source>
+        <extracomment>%1: a size; %2: the Trash</extracomment>
+        <translation>Une partie (%1) se trouve sur un volume sans %2 et restera en place, sauf avec --delete.</translation>
+    </message>
+    <message>
+        <source>moved to the %1</source>
+        <translation>mise à la %1</translation>
+    </message>
+    <message>
+        <source>What was moved to the %1 takes its room until you empty it.</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>Ce qui a été mis à la %1 occupe de la place tant que vous ne la videz pas.</translation>
+    </message>
+    <message>
+        <source>Move %2 to the %3?</source>
+        <translation>Mettre %2 à la %3&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Delete %1 for good and move %2 to the %3?</source>
+        <translation>Supprimer définitivement %1 et mettre %2 à la %3&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -1553,7 +1560,7 @@
     </message>
     <message>
         <source>Trash</source>
-        <extracomment>The Trash by its name in this language; stands in other texts as “%1”</extracomment>
+        <extracomment>The Trash of macOS by its name in this language; stands in other texts as “%1”</extracomment>
         <translation>Corbeille</translation>
     </message>
     <message>
@@ -1565,6 +1572,12 @@
         <source>Files</source>
         <extracomment>The file manager of Linux desktops; stands in other texts as “%1”</extracomment>
         <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <extracomment>The Trash of Linux desktops by its name in this language; stands in other texts as “%1”</extracomment>
+        <translation>Corbeille</translation>
     </message>
 </context>
 <context>

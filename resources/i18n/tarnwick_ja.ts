@@ -155,6 +155,11 @@
         <source>Simulator caches</source>
         <translation>シミュレータキャッシュ</translation>
     </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <translation>ゴミ箱</translation>
+    </message>
 </context>
 <context>
     <name>Cleaner</name>
@@ -484,10 +489,6 @@
         <translation>設定にかかわらず、完全に削除します</translation>
     </message>
     <message>
-        <source>move to the Trash, whatever the settings say</source>
-        <translation>設定にかかわらず、ゴミ箱に入れます</translation>
-    </message>
-    <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
         <translation>何にも触れず、クリーンアップされるものと残るものを理由とともに一覧表示します</translation>
     </message>
@@ -720,18 +721,9 @@
         <translation>指定しない限り対象外：%1。クリーンアップするには：--only %2</translation>
     </message>
     <message>
-        <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
-        <extracomment>%1: a size</extracomment>
-        <translation>うち%1はゴミ箱のないボリュームにあるため、--delete を指定しない限り残ります。</translation>
-    </message>
-    <message>
         <source>deleted for good</source>
-        <extracomment>In a table: what will become of a category</extracomment>
+        <extracomment>In a table: what will become of a category; %1: the Trash</extracomment>
         <translation>完全に削除</translation>
-    </message>
-    <message>
-        <source>moved to the Trash</source>
-        <translation>ゴミ箱に入れる</translation>
     </message>
     <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
@@ -746,10 +738,6 @@
         <translation>実行中のため、そのまま残したアプリ：%1。</translation>
     </message>
     <message>
-        <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation>ゴミ箱に入れた項目は、ゴミ箱を空にするまで容量を占めます。</translation>
-    </message>
-    <message>
         <source>Scanned in %1. Nothing was changed.</source>
         <extracomment>%1: a time such as “2.1 s”</extracomment>
         <translation>%1でスキャンしました。何も変更していません。</translation>
@@ -760,16 +748,8 @@
     </message>
     <message>
         <source>Delete %1 for good?</source>
-        <extracomment>%1: a size, as %2 of the two that follow</extracomment>
+        <extracomment>%1 and %2: sizes; %3: the Trash</extracomment>
         <translation>%1を完全に削除しますか？</translation>
-    </message>
-    <message>
-        <source>Move %2 to the Trash?</source>
-        <translation>%2をゴミ箱に入れますか？</translation>
-    </message>
-    <message>
-        <source>Delete %1 for good and move %2 to the Trash?</source>
-        <translation>%1を完全に削除し、%2をゴミ箱に入れますか？</translation>
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
@@ -868,6 +848,33 @@
         <source>%1 (%2)</source>
         <extracomment>%1: the title of a category; %2: a size</extracomment>
         <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>move to the %1, whatever the settings say</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>設定にかかわらず、%1に入れます</translation>
+    </message>
+    <message>
+        <source>%1 of it lies on a volume without a %2 and will stay, unless you say --delete.</source>
+        <extracomment>%1: a size; %2: the Trash</extracomment>
+        <translation>うち%1は%2のないボリュームにあるため、--delete を指定しない限り残ります。</translation>
+    </message>
+    <message>
+        <source>moved to the %1</source>
+        <translation>%1に入れる</translation>
+    </message>
+    <message>
+        <source>What was moved to the %1 takes its room until you empty it.</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>%1に入れた項目は、%1を空にするまで容量を占めます。</translation>
+    </message>
+    <message>
+        <source>Move %2 to the %3?</source>
+        <translation>%2を%3に入れますか？</translation>
+    </message>
+    <message>
+        <source>Delete %1 for good and move %2 to the %3?</source>
+        <translation>%1を完全に削除し、%2を%3に入れますか？</translation>
     </message>
 </context>
 <context>
@@ -1536,7 +1543,7 @@
     </message>
     <message>
         <source>Trash</source>
-        <extracomment>The Trash by its name in this language; stands in other texts as “%1”</extracomment>
+        <extracomment>The Trash of macOS by its name in this language; stands in other texts as “%1”</extracomment>
         <translation>ゴミ箱</translation>
     </message>
     <message>
@@ -1548,6 +1555,12 @@
         <source>Files</source>
         <extracomment>The file manager of Linux desktops; stands in other texts as “%1”</extracomment>
         <translation>「ファイル」</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <extracomment>The Trash of Linux desktops by its name in this language; stands in other texts as “%1”</extracomment>
+        <translation>ゴミ箱</translation>
     </message>
 </context>
 <context>

@@ -155,6 +155,11 @@
         <source>Simulator caches</source>
         <translation>시뮬레이터 캐시</translation>
     </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <translation>휴지통</translation>
+    </message>
 </context>
 <context>
     <name>Cleaner</name>
@@ -484,10 +489,6 @@
         <translation>설정과 관계없이 영구 삭제합니다</translation>
     </message>
     <message>
-        <source>move to the Trash, whatever the settings say</source>
-        <translation>설정과 관계없이 휴지통으로 이동합니다</translation>
-    </message>
-    <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
         <translation>아무것도 건드리지 않고, 정리될 항목과 남을 항목을 이유와 함께 표시합니다</translation>
     </message>
@@ -720,18 +721,9 @@
         <translation>지정하지 않으면 그대로 두는 항목: %1. 정리하려면: --only %2</translation>
     </message>
     <message>
-        <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
-        <extracomment>%1: a size</extracomment>
-        <translation>이 중 %1는 휴지통이 없는 볼륨에 있으므로, --delete를 지정하지 않으면 남습니다.</translation>
-    </message>
-    <message>
         <source>deleted for good</source>
-        <extracomment>In a table: what will become of a category</extracomment>
+        <extracomment>In a table: what will become of a category; %1: the Trash</extracomment>
         <translation>영구 삭제</translation>
-    </message>
-    <message>
-        <source>moved to the Trash</source>
-        <translation>휴지통으로 이동</translation>
     </message>
     <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
@@ -746,10 +738,6 @@
         <translation>실행 중이어서 그대로 둔 앱: %1.</translation>
     </message>
     <message>
-        <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation>휴지통으로 이동한 항목은 휴지통을 비울 때까지 공간을 차지합니다.</translation>
-    </message>
-    <message>
         <source>Scanned in %1. Nothing was changed.</source>
         <extracomment>%1: a time such as “2.1 s”</extracomment>
         <translation>%1 동안 스캔했습니다. 아무것도 변경하지 않았습니다.</translation>
@@ -760,16 +748,8 @@
     </message>
     <message>
         <source>Delete %1 for good?</source>
-        <extracomment>%1: a size, as %2 of the two that follow</extracomment>
+        <extracomment>%1 and %2: sizes; %3: the Trash</extracomment>
         <translation>%1를 영구 삭제하시겠습니까?</translation>
-    </message>
-    <message>
-        <source>Move %2 to the Trash?</source>
-        <translation>%2를 휴지통으로 이동하시겠습니까?</translation>
-    </message>
-    <message>
-        <source>Delete %1 for good and move %2 to the Trash?</source>
-        <translation>%1를 영구 삭제하고 %2를 휴지통으로 이동하시겠습니까?</translation>
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
@@ -868,6 +848,33 @@
         <source>%1 (%2)</source>
         <extracomment>%1: the title of a category; %2: a size</extracomment>
         <translation>%1(%2)</translation>
+    </message>
+    <message>
+        <source>move to the %1, whatever the settings say</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>설정과 관계없이 %1으로 이동합니다</translation>
+    </message>
+    <message>
+        <source>%1 of it lies on a volume without a %2 and will stay, unless you say --delete.</source>
+        <extracomment>%1: a size; %2: the Trash</extracomment>
+        <translation>이 중 %1는 %2이 없는 볼륨에 있으므로, --delete를 지정하지 않으면 남습니다.</translation>
+    </message>
+    <message>
+        <source>moved to the %1</source>
+        <translation>%1으로 이동</translation>
+    </message>
+    <message>
+        <source>What was moved to the %1 takes its room until you empty it.</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>%1으로 이동한 항목은 %1을 비울 때까지 공간을 차지합니다.</translation>
+    </message>
+    <message>
+        <source>Move %2 to the %3?</source>
+        <translation>%2를 %3으로 이동하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Delete %1 for good and move %2 to the %3?</source>
+        <translation>%1를 영구 삭제하고 %2를 %3으로 이동하시겠습니까?</translation>
     </message>
 </context>
 <context>
@@ -1536,7 +1543,7 @@
     </message>
     <message>
         <source>Trash</source>
-        <extracomment>The Trash by its name in this language; stands in other texts as “%1”</extracomment>
+        <extracomment>The Trash of macOS by its name in this language; stands in other texts as “%1”</extracomment>
         <translation>휴지통</translation>
     </message>
     <message>
@@ -1548,6 +1555,12 @@
         <source>Files</source>
         <extracomment>The file manager of Linux desktops; stands in other texts as “%1”</extracomment>
         <translation>‘파일’</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <extracomment>The Trash of Linux desktops by its name in this language; stands in other texts as “%1”</extracomment>
+        <translation>휴지통</translation>
     </message>
 </context>
 <context>

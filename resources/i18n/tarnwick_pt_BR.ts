@@ -34,8 +34,8 @@
         <source>%1 (%2) moved to the %3</source>
         <extracomment>%1: “1 file” or “%1 files”; %2: their size; %3: the Trash. The forms count the files</extracomment>
         <translation>
-            <numerusform>%1 (%2) movido para a %3</numerusform>
-            <numerusform>%1 (%2) movidos para a %3</numerusform>
+            <numerusform>%1 (%2) movido para %3</numerusform>
+            <numerusform>%1 (%2) movidos para %3</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -110,7 +110,7 @@
     </message>
     <message>
         <source>Trash</source>
-        <translation>Lixeira</translation>
+        <translation>Lixo</translation>
     </message>
     <message>
         <source>Items you have already deleted. Emptying cannot be undone.</source>
@@ -158,6 +158,11 @@
     <message>
         <source>Simulator caches</source>
         <translation>Cache de simuladores</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <translation>Lixeira</translation>
     </message>
 </context>
 <context>
@@ -287,7 +292,7 @@
     </message>
     <message>
         <source>Moved to the %1. You can still restore anything.</source>
-        <translation>Movido para a %1. Você ainda pode restaurar tudo.</translation>
+        <translation>Movido para %1. Você ainda pode restaurar tudo.</translation>
     </message>
     <message>
         <source>Items were deleted permanently.</source>
@@ -403,7 +408,7 @@
     <message>
         <source>moved to the %1</source>
         <extracomment>What will become of the selected files, as the tip of the button that cleans them; %1: the Trash</extracomment>
-        <translation>será movido para a %1</translation>
+        <translation>será movido para %1</translation>
     </message>
     <message>
         <source>deleted permanently</source>
@@ -490,10 +495,6 @@
     <message>
         <source>delete for good, whatever the settings say</source>
         <translation>apaga permanentemente, não importa o que digam os ajustes</translation>
-    </message>
-    <message>
-        <source>move to the Trash, whatever the settings say</source>
-        <translation>move para a Lixeira, não importa o que digam os ajustes</translation>
     </message>
     <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
@@ -730,18 +731,9 @@
         <translation>Só é limpo se você indicar: %1. Para limpar: --only %2</translation>
     </message>
     <message>
-        <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
-        <extracomment>%1: a size</extracomment>
-        <translation>Desse total, %1 estão em um volume sem Lixeira e não serão tocados, a menos que você use --delete.</translation>
-    </message>
-    <message>
         <source>deleted for good</source>
-        <extracomment>In a table: what will become of a category</extracomment>
+        <extracomment>In a table: what will become of a category; %1: the Trash</extracomment>
         <translation>apagado permanentemente</translation>
-    </message>
-    <message>
-        <source>moved to the Trash</source>
-        <translation>movido para a Lixeira</translation>
     </message>
     <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
@@ -757,10 +749,6 @@
         <translation>Os apps em execução não foram tocados: %1.</translation>
     </message>
     <message>
-        <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation>O que foi movido para a Lixeira continua ocupando espaço até que você a esvazie.</translation>
-    </message>
-    <message>
         <source>Scanned in %1. Nothing was changed.</source>
         <extracomment>%1: a time such as “2.1 s”</extracomment>
         <translation>Analisado em %1. Nada foi alterado.</translation>
@@ -771,16 +759,8 @@
     </message>
     <message>
         <source>Delete %1 for good?</source>
-        <extracomment>%1: a size, as %2 of the two that follow</extracomment>
+        <extracomment>%1 and %2: sizes; %3: the Trash</extracomment>
         <translation>Apagar %1 permanentemente?</translation>
-    </message>
-    <message>
-        <source>Move %2 to the Trash?</source>
-        <translation>Mover %2 para a Lixeira?</translation>
-    </message>
-    <message>
-        <source>Delete %1 for good and move %2 to the Trash?</source>
-        <translation>Apagar %1 permanentemente e mover %2 para a Lixeira?</translation>
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
@@ -882,6 +862,33 @@
         <source>%1 (%2)</source>
         <extracomment>%1: the title of a category; %2: a size</extracomment>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>move to the %1, whatever the settings say</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>move para %1, não importa o que digam os ajustes</translation>
+    </message>
+    <message>
+        <source>%1 of it lies on a volume without a %2 and will stay, unless you say --delete.</source>
+        <extracomment>%1: a size; %2: the Trash</extracomment>
+        <translation>Desse total, %1 estão em um volume em que falta %2 e não serão tocados, a menos que você use --delete.</translation>
+    </message>
+    <message>
+        <source>moved to the %1</source>
+        <translation>movido para %1</translation>
+    </message>
+    <message>
+        <source>What was moved to the %1 takes its room until you empty it.</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>O que foi movido para %1 continua ocupando espaço até o esvaziamento.</translation>
+    </message>
+    <message>
+        <source>Move %2 to the %3?</source>
+        <translation>Mover %2 para %3?</translation>
+    </message>
+    <message>
+        <source>Delete %1 for good and move %2 to the %3?</source>
+        <translation>Apagar %1 permanentemente e mover %2 para %3?</translation>
     </message>
 </context>
 <context>
@@ -1018,7 +1025,7 @@
     <message>
         <source>Move to %1</source>
         <extracomment>Button; %1: the Trash</extracomment>
-        <translation>Mover para a %1</translation>
+        <translation>Mover para %1</translation>
     </message>
     <message>
         <source>Show</source>
@@ -1296,11 +1303,11 @@
     <message>
         <source>Emptying the %1 can&apos;t be undone. Everything else goes to the %1.</source>
         <extracomment>%1: the Trash</extracomment>
-        <translation>O esvaziamento da %1 não pode ser desfeito. Todo o resto vai para a %1.</translation>
+        <translation>Esvaziar %1 é uma ação que não pode ser desfeita. Todo o resto vai para %1.</translation>
     </message>
     <message>
         <source>Everything will be moved to the %1, so you can restore it later.</source>
-        <translation>Tudo será movido para a %1, e você poderá restaurar depois.</translation>
+        <translation>Tudo será movido para %1, e você poderá restaurar depois.</translation>
     </message>
     <message>
         <source>Clean and delete</source>
@@ -1320,7 +1327,7 @@
     <message>
         <source>%1 of it will stay: there is no %2 on its volume.</source>
         <extracomment>%1: a size; %2: the Trash</extracomment>
-        <translation>Desse total, %1 ficarão onde estão: o volume não tem %2.</translation>
+        <translation>Desse total, %1 ficarão onde estão: falta %2 no volume.</translation>
     </message>
     <message>
         <source>%1 of it will stay while these apps are open: %2.</source>
@@ -1553,8 +1560,8 @@
     </message>
     <message>
         <source>Trash</source>
-        <extracomment>The Trash by its name in this language; stands in other texts as “%1”</extracomment>
-        <translation>Lixeira</translation>
+        <extracomment>The Trash of macOS by its name in this language; stands in other texts as “%1”</extracomment>
+        <translation>o Lixo</translation>
     </message>
     <message>
         <source>Finder</source>
@@ -1565,6 +1572,12 @@
         <source>Files</source>
         <extracomment>The file manager of Linux desktops; stands in other texts as “%1”</extracomment>
         <translation>Arquivos</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <extracomment>The Trash of Linux desktops by its name in this language; stands in other texts as “%1”</extracomment>
+        <translation>a Lixeira</translation>
     </message>
 </context>
 <context>
@@ -1651,7 +1664,7 @@
     </message>
     <message>
         <source>Needed to clean Safari&apos;s cache and the Trash.</source>
-        <translation>Necessário para limpar o cache do Safari e a Lixeira.</translation>
+        <translation>Necessário para limpar o cache do Safari e o Lixo.</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -1696,7 +1709,7 @@
     <message>
         <source>Move items to the %1</source>
         <extracomment>%1: the Trash</extracomment>
-        <translation>Mover os itens para a %1</translation>
+        <translation>Mover os itens para %1</translation>
     </message>
     <message>
         <source>Recommended. Turn off to delete files permanently.</source>
@@ -2027,7 +2040,7 @@
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation>Mover para a Lixeira</translation>
+        <translation>Mover para o Lixo</translation>
     </message>
     <message>
         <source>Remove snapshots</source>
@@ -2068,8 +2081,8 @@
         <source>Moved %1 to the Trash, %2 couldn&apos;t be moved</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count; %2: how many others</extracomment>
         <translation>
-            <numerusform>%1 movido para a Lixeira; não foi possível mover: %2</numerusform>
-            <numerusform>%1 movidos para a Lixeira; não foi possível mover: %2</numerusform>
+            <numerusform>%1 movido para o Lixo; não foi possível mover: %2</numerusform>
+            <numerusform>%1 movidos para o Lixo; não foi possível mover: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -2080,8 +2093,8 @@
         <source>Moved %1 to the Trash</source>
         <extracomment>%1: “1 item” or “%1 items”, which the forms count</extracomment>
         <translation>
-            <numerusform>%1 movido para a Lixeira</numerusform>
-            <numerusform>%1 movidos para a Lixeira</numerusform>
+            <numerusform>%1 movido para o Lixo</numerusform>
+            <numerusform>%1 movidos para o Lixo</numerusform>
         </translation>
     </message>
     <message>
@@ -2503,7 +2516,7 @@
     </message>
     <message>
         <source>%1 will be moved to the Trash. Xcode recreates it when you connect a device again.</source>
-        <translation>Serão movidos %1 para a Lixeira. O Xcode recria esses dados quando você conecta um dispositivo de novo.</translation>
+        <translation>Serão movidos %1 para o Lixo. O Xcode recria esses dados quando você conecta um dispositivo de novo.</translation>
     </message>
     <message>
         <source>Needs Full Disk Access</source>

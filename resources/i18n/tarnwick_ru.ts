@@ -163,6 +163,11 @@
         <source>Simulator caches</source>
         <translation>Кэш симуляторов</translation>
     </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <translation>Корзина</translation>
+    </message>
 </context>
 <context>
     <name>Cleaner</name>
@@ -500,10 +505,6 @@
         <translation>удалять безвозвратно независимо от настроек</translation>
     </message>
     <message>
-        <source>move to the Trash, whatever the settings say</source>
-        <translation>перемещать в Корзину независимо от настроек</translation>
-    </message>
-    <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
         <translation>ничего не трогать; показать, что было бы удалено, что осталось бы и почему</translation>
     </message>
@@ -740,18 +741,9 @@
         <translation>Без прямого указания не очищается: %1. Чтобы очистить: --only %2</translation>
     </message>
     <message>
-        <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
-        <extracomment>%1: a size</extracomment>
-        <translation>Из этого %1 лежит на томе без Корзины и без --delete останется.</translation>
-    </message>
-    <message>
         <source>deleted for good</source>
-        <extracomment>In a table: what will become of a category</extracomment>
+        <extracomment>In a table: what will become of a category; %1: the Trash</extracomment>
         <translation>удаляется безвозвратно</translation>
-    </message>
-    <message>
-        <source>moved to the Trash</source>
-        <translation>перемещается в Корзину</translation>
     </message>
     <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
@@ -768,10 +760,6 @@
         <translation>Не тронуты, потому что сейчас работают: %1.</translation>
     </message>
     <message>
-        <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation>Перемещённое в Корзину занимает место, пока вы её не очистите.</translation>
-    </message>
-    <message>
         <source>Scanned in %1. Nothing was changed.</source>
         <extracomment>%1: a time such as “2.1 s”</extracomment>
         <translation>Анализ занял %1. Ничего не изменено.</translation>
@@ -782,16 +770,8 @@
     </message>
     <message>
         <source>Delete %1 for good?</source>
-        <extracomment>%1: a size, as %2 of the two that follow</extracomment>
+        <extracomment>%1 and %2: sizes; %3: the Trash</extracomment>
         <translation>Безвозвратно удалить %1?</translation>
-    </message>
-    <message>
-        <source>Move %2 to the Trash?</source>
-        <translation>Переместить %2 в Корзину?</translation>
-    </message>
-    <message>
-        <source>Delete %1 for good and move %2 to the Trash?</source>
-        <translation>Безвозвратно удалить %1 и переместить %2 в Корзину?</translation>
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
@@ -896,6 +876,33 @@
         <source>%1 (%2)</source>
         <extracomment>%1: the title of a category; %2: a size</extracomment>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>move to the %1, whatever the settings say</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>перемещать в %1 независимо от настроек</translation>
+    </message>
+    <message>
+        <source>%1 of it lies on a volume without a %2 and will stay, unless you say --delete.</source>
+        <extracomment>%1: a size; %2: the Trash</extracomment>
+        <translation>Из этого %1 лежит на томе, который не поддерживает %2, и без --delete останется.</translation>
+    </message>
+    <message>
+        <source>moved to the %1</source>
+        <translation>перемещается в %1</translation>
+    </message>
+    <message>
+        <source>What was moved to the %1 takes its room until you empty it.</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>Перемещённое в %1 занимает место, пока вы её не очистите.</translation>
+    </message>
+    <message>
+        <source>Move %2 to the %3?</source>
+        <translation>Переместить %2 в %3?</translation>
+    </message>
+    <message>
+        <source>Delete %1 for good and move %2 to the %3?</source>
+        <translation>Безвозвратно удалить %1 и переместить %2 в %3?</translation>
     </message>
 </context>
 <context>
@@ -1570,7 +1577,7 @@
     </message>
     <message>
         <source>Trash</source>
-        <extracomment>The Trash by its name in this language; stands in other texts as “%1”</extracomment>
+        <extracomment>The Trash of macOS by its name in this language; stands in other texts as “%1”</extracomment>
         <translation>Корзину</translation>
     </message>
     <message>
@@ -1582,6 +1589,12 @@
         <source>Files</source>
         <extracomment>The file manager of Linux desktops; stands in other texts as “%1”</extracomment>
         <translation>Файлах</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <extracomment>The Trash of Linux desktops by its name in this language; stands in other texts as “%1”</extracomment>
+        <translation>Корзину</translation>
     </message>
 </context>
 <context>

@@ -155,6 +155,11 @@
         <source>Simulator caches</source>
         <translation>模拟器缓存</translation>
     </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <translation>回收站</translation>
+    </message>
 </context>
 <context>
     <name>Cleaner</name>
@@ -484,10 +489,6 @@
         <translation>永久删除，无论设置如何</translation>
     </message>
     <message>
-        <source>move to the Trash, whatever the settings say</source>
-        <translation>移到废纸篓，无论设置如何</translation>
-    </message>
-    <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
         <translation>不作任何改动；列出将移除和将保留的内容及其原因</translation>
     </message>
@@ -720,18 +721,9 @@
         <translation>除非指定，否则不清理：%1。如需清理：--only %2</translation>
     </message>
     <message>
-        <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
-        <extracomment>%1: a size</extracomment>
-        <translation>其中 %1 位于没有废纸篓的卷上，除非使用 --delete，否则将会保留。</translation>
-    </message>
-    <message>
         <source>deleted for good</source>
-        <extracomment>In a table: what will become of a category</extracomment>
+        <extracomment>In a table: what will become of a category; %1: the Trash</extracomment>
         <translation>永久删除</translation>
-    </message>
-    <message>
-        <source>moved to the Trash</source>
-        <translation>移到废纸篓</translation>
     </message>
     <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
@@ -746,10 +738,6 @@
         <translation>因正在运行而未清理：%1。</translation>
     </message>
     <message>
-        <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation>在清空废纸篓之前，移到其中的内容仍会占用空间。</translation>
-    </message>
-    <message>
         <source>Scanned in %1. Nothing was changed.</source>
         <extracomment>%1: a time such as “2.1 s”</extracomment>
         <translation>扫描用时 %1。未作任何更改。</translation>
@@ -760,16 +748,8 @@
     </message>
     <message>
         <source>Delete %1 for good?</source>
-        <extracomment>%1: a size, as %2 of the two that follow</extracomment>
+        <extracomment>%1 and %2: sizes; %3: the Trash</extracomment>
         <translation>要永久删除 %1 吗？</translation>
-    </message>
-    <message>
-        <source>Move %2 to the Trash?</source>
-        <translation>要将 %2 移到废纸篓吗？</translation>
-    </message>
-    <message>
-        <source>Delete %1 for good and move %2 to the Trash?</source>
-        <translation>要永久删除 %1，并将 %2 移到废纸篓吗？</translation>
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
@@ -868,6 +848,33 @@
         <source>%1 (%2)</source>
         <extracomment>%1: the title of a category; %2: a size</extracomment>
         <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>move to the %1, whatever the settings say</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>移到%1，无论设置如何</translation>
+    </message>
+    <message>
+        <source>%1 of it lies on a volume without a %2 and will stay, unless you say --delete.</source>
+        <extracomment>%1: a size; %2: the Trash</extracomment>
+        <translation>其中 %1 位于没有%2的卷上，除非使用 --delete，否则将会保留。</translation>
+    </message>
+    <message>
+        <source>moved to the %1</source>
+        <translation>移到%1</translation>
+    </message>
+    <message>
+        <source>What was moved to the %1 takes its room until you empty it.</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>在清空%1之前，移到其中的内容仍会占用空间。</translation>
+    </message>
+    <message>
+        <source>Move %2 to the %3?</source>
+        <translation>要将 %2 移到%3吗？</translation>
+    </message>
+    <message>
+        <source>Delete %1 for good and move %2 to the %3?</source>
+        <translation>要永久删除 %1，并将 %2 移到%3吗？</translation>
     </message>
 </context>
 <context>
@@ -1536,7 +1543,7 @@
     </message>
     <message>
         <source>Trash</source>
-        <extracomment>The Trash by its name in this language; stands in other texts as “%1”</extracomment>
+        <extracomment>The Trash of macOS by its name in this language; stands in other texts as “%1”</extracomment>
         <translation>废纸篓</translation>
     </message>
     <message>
@@ -1548,6 +1555,12 @@
         <source>Files</source>
         <extracomment>The file manager of Linux desktops; stands in other texts as “%1”</extracomment>
         <translation>文件</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <extracomment>The Trash of Linux desktops by its name in this language; stands in other texts as “%1”</extracomment>
+        <translation>回收站</translation>
     </message>
 </context>
 <context>
@@ -2164,7 +2177,7 @@
     </message>
     <message>
         <source>Databases and files that apps keep for you, and your Trash. Remove an app&apos;s data from within the app, or after uninstalling it.</source>
-        <translation>应用为你保存的数据库和文件，以及你的废纸篓。请在应用内移除其数据，或在卸载应用后移除。</translation>
+        <translation>应用为你保存的数据库和文件，以及你的回收站。请在应用内移除其数据，或在卸载应用后移除。</translation>
     </message>
     <message>
         <source>Settings of your apps</source>

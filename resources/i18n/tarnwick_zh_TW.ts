@@ -155,6 +155,11 @@
         <source>Simulator caches</source>
         <translation>模擬器快取</translation>
     </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <translation>垃圾桶</translation>
+    </message>
 </context>
 <context>
     <name>Cleaner</name>
@@ -484,10 +489,6 @@
         <translation>永久刪除，不論設定為何</translation>
     </message>
     <message>
-        <source>move to the Trash, whatever the settings say</source>
-        <translation>移到垃圾桶，不論設定為何</translation>
-    </message>
-    <message>
         <source>touch nothing; list what would go and what would stay, and why</source>
         <translation>不做任何更動；列出將移除和將保留的項目及其原因</translation>
     </message>
@@ -720,18 +721,9 @@
         <translation>除非指定，否則不清理：%1。如要清理：--only %2</translation>
     </message>
     <message>
-        <source>%1 of it lies on a volume without a Trash and will stay, unless you say --delete.</source>
-        <extracomment>%1: a size</extracomment>
-        <translation>其中 %1 位於沒有垃圾桶的磁碟區上，除非使用 --delete，否則將會保留。</translation>
-    </message>
-    <message>
         <source>deleted for good</source>
-        <extracomment>In a table: what will become of a category</extracomment>
+        <extracomment>In a table: what will become of a category; %1: the Trash</extracomment>
         <translation>永久刪除</translation>
-    </message>
-    <message>
-        <source>moved to the Trash</source>
-        <translation>移到垃圾桶</translation>
     </message>
     <message numerus="yes">
         <source>Skipped, %1 in all; the log tells why:</source>
@@ -746,10 +738,6 @@
         <translation>因正在執行而未清理：%1。</translation>
     </message>
     <message>
-        <source>What was moved to the Trash takes its room until you empty it.</source>
-        <translation>在清空垃圾桶之前，移到其中的項目仍會佔用空間。</translation>
-    </message>
-    <message>
         <source>Scanned in %1. Nothing was changed.</source>
         <extracomment>%1: a time such as “2.1 s”</extracomment>
         <translation>掃描耗時 %1。未做任何更動。</translation>
@@ -760,16 +748,8 @@
     </message>
     <message>
         <source>Delete %1 for good?</source>
-        <extracomment>%1: a size, as %2 of the two that follow</extracomment>
+        <extracomment>%1 and %2: sizes; %3: the Trash</extracomment>
         <translation>要永久刪除 %1 嗎？</translation>
-    </message>
-    <message>
-        <source>Move %2 to the Trash?</source>
-        <translation>要將 %2 移到垃圾桶嗎？</translation>
-    </message>
-    <message>
-        <source>Delete %1 for good and move %2 to the Trash?</source>
-        <translation>要永久刪除 %1，並將 %2 移到垃圾桶嗎？</translation>
     </message>
     <message>
         <source>This was a dry run: nothing was touched.</source>
@@ -868,6 +848,33 @@
         <source>%1 (%2)</source>
         <extracomment>%1: the title of a category; %2: a size</extracomment>
         <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>move to the %1, whatever the settings say</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>移到%1，不論設定為何</translation>
+    </message>
+    <message>
+        <source>%1 of it lies on a volume without a %2 and will stay, unless you say --delete.</source>
+        <extracomment>%1: a size; %2: the Trash</extracomment>
+        <translation>其中 %1 位於沒有%2的磁碟區上，除非使用 --delete，否則將會保留。</translation>
+    </message>
+    <message>
+        <source>moved to the %1</source>
+        <translation>移到%1</translation>
+    </message>
+    <message>
+        <source>What was moved to the %1 takes its room until you empty it.</source>
+        <extracomment>%1: the Trash</extracomment>
+        <translation>在清空%1之前，移到其中的項目仍會佔用空間。</translation>
+    </message>
+    <message>
+        <source>Move %2 to the %3?</source>
+        <translation>要將 %2 移到%3嗎？</translation>
+    </message>
+    <message>
+        <source>Delete %1 for good and move %2 to the %3?</source>
+        <translation>要永久刪除 %1，並將 %2 移到%3嗎？</translation>
     </message>
 </context>
 <context>
@@ -1536,7 +1543,7 @@
     </message>
     <message>
         <source>Trash</source>
-        <extracomment>The Trash by its name in this language; stands in other texts as “%1”</extracomment>
+        <extracomment>The Trash of macOS by its name in this language; stands in other texts as “%1”</extracomment>
         <translation>垃圾桶</translation>
     </message>
     <message>
@@ -1548,6 +1555,12 @@
         <source>Files</source>
         <extracomment>The file manager of Linux desktops; stands in other texts as “%1”</extracomment>
         <translation>檔案</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <comment>Linux</comment>
+        <extracomment>The Trash of Linux desktops by its name in this language; stands in other texts as “%1”</extracomment>
+        <translation>垃圾桶</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,7 @@
 #include "core/fmt.h"
 #include "core/names.h"
 #include "core/places.h"
+#include "core/platform.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -54,7 +55,8 @@ constexpr std::array kOptions = {
         "exclude", "RULE", kBoth,
         QT_TRANSLATE_NOOP("Cli", "never touch what this rule names, beside the rules in the settings; repeatable")},
     OptionRow{"delete", nullptr, kClean, QT_TRANSLATE_NOOP("Cli", "delete for good, whatever the settings say")},
-    OptionRow{"trash", nullptr, kClean, QT_TRANSLATE_NOOP("Cli", "move to the Trash, whatever the settings say")},
+    //: %1: the Trash
+    OptionRow{"trash", nullptr, kClean, QT_TRANSLATE_NOOP("Cli", "move to the %1, whatever the settings say")},
     OptionRow{"dry-run", nullptr, kClean,
               QT_TRANSLATE_NOOP("Cli", "touch nothing; list what would go and what would stay, and why")},
     OptionRow{"yes", nullptr, kClean, QT_TRANSLATE_NOOP("Cli", "don't ask")},
@@ -127,7 +129,8 @@ QString helpOf(const VerbRow& verb, const QStringList& categoryIds) {
   for (const OptionRow& row : kOptions) {
     if (!(row.takers & takerOf(verb.verb))) continue;
     const QString value = row.value ? u' ' + QLatin1String(row.value) : QString();
-    text += helpLine(u"  --"_s + QLatin1String(row.name) + value, Words::tr(row.text));
+    text += helpLine(u"  --"_s + QLatin1String(row.name) + value,
+                     Words::tr(row.text).replace("%1"_L1, platform::trashName()));
   }
   text += commonHelp();
   //: %1: ids, which stay as they are

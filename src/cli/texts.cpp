@@ -5,6 +5,7 @@
 #include "cli/words.h"
 #include "core/fmt.h"
 #include "core/names.h"
+#include "core/platform.h"
 #include "engines/categories.h"
 
 #include <QMap>
@@ -119,9 +120,9 @@ QString leftNote(const QList<CategoryResult>& left) {
 
 QString withoutTrashNote(qint64 bytes) {
   if (bytes < 1) return {};
-  //: %1: a size
-  return Words::tr("%1 of it lies on a volume without a Trash and will stay, unless you say --delete.")
-      .arg(fmt::bytes(bytes));
+  //: %1: a size; %2: the Trash
+  return Words::tr("%1 of it lies on a volume without a %2 and will stay, unless you say --delete.")
+      .arg(fmt::bytes(bytes), platform::trashName());
 }
 
 Table planTable(const Plan& plan) {
@@ -131,8 +132,8 @@ Table planTable(const Plan& plan) {
     table.add({{one.def.title},
                {fmt::bytes(one.bytes), Tone::Strong},
                {filesText(one.files)},
-               //: In a table: what will become of a category
-               {deleted ? Words::tr("deleted for good") : Words::tr("moved to the Trash"),
+               //: In a table: what will become of a category; %1: the Trash
+               {deleted ? Words::tr("deleted for good") : Words::tr("moved to the %1").arg(platform::trashName()),
                 deleted ? Tone::Grave : Tone::Good}});
   }
   table.addRule();
@@ -162,7 +163,8 @@ QString runningText(const CleanReport& report) {
 
 QString trashText(const CleanReport& report, bool toTrash) {
   if (!toTrash || report.freedBytes < 1) return {};
-  return Words::tr("What was moved to the Trash takes its room until you empty it.");
+  //: %1: the Trash
+  return Words::tr("What was moved to the %1 takes its room until you empty it.").arg(platform::trashName());
 }
 
 } // namespace
@@ -189,12 +191,14 @@ QString planQuestion(const Plan& plan) {
   qint64 deleted = 0;
   qint64 moved = 0;
   for (const CategoryResult& one : plan.chosen) (isDeleted(one, plan.toTrash) ? deleted : moved) += one.bytes;
-  //: %1: a size, as %2 of the two that follow
+  //: %1 and %2: sizes; %3: the Trash
   const QString pattern = moved == 0     ? Words::tr("Delete %1 for good?")
-                          : deleted == 0 ? Words::tr("Move %2 to the Trash?")
-                                         : Words::tr("Delete %1 for good and move %2 to the Trash?");
+                          : deleted == 0 ? Words::tr("Move %2 to the %3?")
+                                         : Words::tr("Delete %1 for good and move %2 to the %3?");
   QString question = pattern;
-  question.replace(u"%1"_s, fmt::bytes(deleted)).replace(u"%2"_s, fmt::bytes(moved));
+  question.replace(u"%1"_s, fmt::bytes(deleted))
+      .replace(u"%2"_s, fmt::bytes(moved))
+      .replace(u"%3"_s, platform::trashName());
   return question + u" [y/N]"_s;
 }
 

@@ -47,8 +47,12 @@ void applyImportantCapacity(Volume* volume, qint64 importantBytes) {
   volume->availableBytes = importantBytes;
 }
 
-//: The Trash by its name in this language; stands in other texts as “%1”
-QString trashName() { return QCoreApplication::translate("Platform", "Trash"); }
+QString trashName() {
+  //: The Trash of macOS by its name in this language; stands in other texts as “%1”
+  if (host() == Host::Mac) return QCoreApplication::translate("Platform", "Trash");
+  //: The Trash of Linux desktops by its name in this language; stands in other texts as “%1”
+  return QCoreApplication::translate("Platform", "Trash", "Linux");
+}
 
 QString fileManagerName() {
   //: The file manager of macOS; stands in other texts as “%1”

@@ -40,7 +40,8 @@ enum class VolumeRole { Root, Other };
 /// Folds the system's figure for important usage into @p volume: the larger figure counts, the difference is purgeable.
 void applyImportantCapacity(Volume* volume, qint64 importantBytes);
 
-/// "Trash", and the file manager's name, translated.
+/// "Trash", and the file manager's name, translated as other texts take them for "%1". Some languages name both by
+/// host.
 [[nodiscard]] QString trashName();
 [[nodiscard]] QString fileManagerName();
 

@@ -15,9 +15,17 @@ namespace catalogue {
 /// What the rows of roots are relative to.
 enum class Place { Home, Temp, MacLibrary, MacCaches, Cache, Config, Data, Downloads, VarCrash };
 
-/// A category's words on one host. Title and blurb are source texts of the context "Categories".
+/// A source text of the context "Categories".
+struct Text {
+  constexpr Text(const char* english, const char* among = nullptr) : source(english), comment(among) {}
+
+  const char* source;
+  const char* comment; ///< tells it from the same English with another translation; null for most
+};
+
+/// A category's words on one host. The blurb is a source text too.
 struct Words {
-  const char* title;
+  Text title;
   const char* hint;
   const char* blurb;
 };

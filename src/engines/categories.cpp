@@ -37,7 +37,9 @@ constexpr const char* kDev = QT_TRANSLATE_NOOP("Categories", "Developer caches")
 constexpr const char* kDevBlurb = QT_TRANSLATE_NOOP(
     "Categories", "Package manager caches and build output. Removing them is safe, but the next build "
                   "or install will be slower.");
-constexpr const char* kTrash = QT_TRANSLATE_NOOP("Categories", "Trash");
+constexpr Text kTrash = QT_TRANSLATE_NOOP("Categories", "Trash");
+// Some languages have another word for it on each of the two.
+constexpr Text kLinuxTrash = QT_TRANSLATE_NOOP3("Categories", "Trash", "Linux");
 constexpr const char* kTrashBlurb =
     QT_TRANSLATE_NOOP("Categories", "Items you have already deleted. Emptying cannot be undone.");
 
@@ -89,11 +91,11 @@ constexpr CategoryRow kCategories[] = {
      "#ef4444",
      Permanent,
      {kTrash, "~/.Trash", kTrashBlurb},
-     {kTrash, "~/.local/share/Trash", kTrashBlurb},
+     {kLinuxTrash, "~/.local/share/Trash", kTrashBlurb},
      true},
 };
 
-QString translated(const char* text) { return QCoreApplication::translate("Categories", text); }
+QString translated(const Text& text) { return QCoreApplication::translate("Categories", text.source, text.comment); }
 
 /// The folders of the user's that hold no leftovers, whatever leads there.
 constexpr const char* kOwnFolders[] = {"Documents", "Desktop", "Downloads", "Pictures", "Music", "Videos", "Movies"};

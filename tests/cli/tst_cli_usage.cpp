@@ -34,6 +34,8 @@ class tst_cli_usage : public CliTest {
   void help();
   void helpInEachLanguage_data();
   void helpInEachLanguage();
+  void theTrashByHost_data();
+  void theTrashByHost();
   void noVerb();
   void mistakes_data();
   void mistakes();
@@ -113,6 +115,37 @@ void tst_cli_usage::helpInEachLanguage() {
   QVERIFY2(lines.value(1).trimmed().startsWith(u'['), run.out.constData());
   QCOMPARE(begin(lines.at(1)), begin(lines.at(0)));
   for (const QString& line : lines) QVERIFY2(cli::terminal::columns(line) <= 80, qPrintable(line));
+}
+
+void tst_cli_usage::theTrashByHost_data() {
+  QTest::addColumn<QByteArray>("code");
+  QTest::addColumn<QByteArray>("host");
+  QTest::addColumn<QByteArray>("words");
+  const auto row = [](const char* code, const char* host, const char* words) {
+    QTest::addRow("%s on %s", code, host) << QByteArray(code) << QByteArray(host) << QByteArray(words);
+  };
+  row("en", "mac", "move to the Trash,");
+  row("en", "linux", "move to the Trash,");
+  row("zh_CN", "mac", "移到废纸篓");
+  row("zh_CN", "linux", "移到回收站");
+  row("pt_BR", "mac", "move para o Lixo,");
+  row("pt_BR", "linux", "move para a Lixeira,");
+  row("ru", "linux", "перемещать в Корзину");
+}
+
+void tst_cli_usage::theTrashByHost() {
+  QFETCH(QByteArray, code);
+  QFETCH(QByteArray, host);
+  QFETCH(QByteArray, words);
+  qputenv("TARNWICK_LANG", code);
+  qputenv("TARNWICK_HOST", host);
+  const auto back = qScopeGuard([] {
+    qputenv("TARNWICK_LANG", "en");
+    qputenv("TARNWICK_HOST", "linux");
+  });
+  const CliRun run = runCli({u"clean"_s, u"--help"_s});
+  QCOMPARE(run.code, 0);
+  QVERIFY2(run.out.contains(words), run.out.constData());
 }
 
 void tst_cli_usage::noVerb() {

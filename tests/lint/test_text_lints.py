@@ -26,6 +26,7 @@ class Untranslated(LintCase):
         'auto text = Words::tr("Nothing was cleaned in %1 of "\n "these files", nullptr, plural(n)).arg(x);',
         'auto text = QCoreApplication::translate("Context", "Nothing was cleaned");',
         'constexpr const char* kText = QT_TRANSLATE_NOOP("Context", "Nothing was cleaned");',
+        'constexpr Text kText = QT_TRANSLATE_NOOP3("Context", "Nothing was cleaned", "Linux");',
         '#include "Some/Thing of ours.h"',
         '// "Nothing was cleaned"',
         'label->setObjectName("detailValue"_L1);',

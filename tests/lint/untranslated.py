@@ -11,7 +11,7 @@ RULE = "what a user reads goes through tr, translate or QT_TRANSLATE_NOOP; what 
 
 FOLDERS = ("src/app", "src/cli", "src/core", "src/engines", "src/ui", "src/update")
 
-TRANSLATES = re.compile(r"\b(?:tr|translate|QT_TRANSLATE(?:_N)?_NOOP)\s*\(")
+TRANSLATES = re.compile(r"\b(?:tr|translate|QT_TRANSLATE(?:_N)?_NOOP3?)\s*\(")
 TEXT = re.compile(r'(?:R"(?P<mark>[^()\\\s]{0,16})\((?P<raw>.*)\)(?P=mark)"|"(?P<plain>.*)")', re.DOTALL)
 INCLUDE = re.compile(r"\s*#\s*include\b")
 
