@@ -890,6 +890,16 @@
         <source>Delete %1 for good and move %2 to the %3?</source>
         <translation>%1 dauerhaft löschen und %2 in den %3 legen?</translation>
     </message>
+    <message>
+        <source>y yes</source>
+        <extracomment>What is a yes when it is typed: in small letters, with blanks between. Nothing that could be typed for a no</extracomment>
+        <translation>j ja</translation>
+    </message>
+    <message>
+        <source>[y/N]</source>
+        <extracomment>How a question can be answered; the capital is what Enter alone means. The first letter must be a yes (“y yes”)</extracomment>
+        <translation>[j/N]</translation>
+    </message>
 </context>
 <context>
     <name>DiskOrb</name>

@@ -876,6 +876,16 @@
         <source>Delete %1 for good and move %2 to the %3?</source>
         <translation>%1를 영구 삭제하고 %2를 %3으로 이동하시겠습니까?</translation>
     </message>
+    <message>
+        <source>y yes</source>
+        <extracomment>What is a yes when it is typed: in small letters, with blanks between. Nothing that could be typed for a no</extracomment>
+        <translation>y 예 네</translation>
+    </message>
+    <message>
+        <source>[y/N]</source>
+        <extracomment>How a question can be answered; the capital is what Enter alone means. The first letter must be a yes (“y yes”)</extracomment>
+        <translation>[y/N]</translation>
+    </message>
 </context>
 <context>
     <name>DiskOrb</name>

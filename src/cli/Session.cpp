@@ -17,10 +17,12 @@ using namespace Qt::StringLiterals;
 namespace cli {
 namespace {
 
-/// Whether a line was ended, and is a yes.
+/// Whether a line was ended, and is a yes. The English ones are a yes in every language.
 bool meansYes(const QByteArray& line) {
-  const QByteArray word = line.trimmed().toLower();
-  return line.contains('\n') && (word == "y" || word == "yes");
+  const QString word = QString::fromUtf8(line).trimmed().toLower();
+  //: What is a yes when it is typed: in small letters, with blanks between. Nothing that could be typed for a no
+  const QStringList own = Words::tr("y yes").split(u' ', Qt::SkipEmptyParts);
+  return line.contains('\n') && (word == u"y" || word == u"yes" || own.contains(word));
 }
 
 /// Takes what standard input has to give into @p line. False at its end.

@@ -35,8 +35,8 @@ class Session : public QObject {
   /// Returns when System Data is measured; Ctrl-C cancels it.
   /// @return all rows; of a cancelled run with the figures so far
   [[nodiscard]] QList<SystemDataItem> measureSystemData();
-  /// Shows @p question on the terminal at @p fd and waits for a line of standard input. Only "y" and "yes" are a yes;
-  /// Ctrl-C and the end of the input are a no.
+  /// Shows @p question on the terminal at @p fd and waits for a line of standard input. Only "y" and "yes", and what is
+  /// one in the language in force, are a yes; Ctrl-C and the end of the input are a no.
   [[nodiscard]] Answer ask(const QString& question, int fd);
 
   /// Whether the user has asked to stop.

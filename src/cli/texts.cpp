@@ -199,7 +199,8 @@ QString planQuestion(const Plan& plan) {
   question.replace(u"%1"_s, fmt::bytes(deleted))
       .replace(u"%2"_s, fmt::bytes(moved))
       .replace(u"%3"_s, platform::trashName());
-  return question + u" [y/N]"_s;
+  //: How a question can be answered; the capital is what Enter alone means. The first letter must be a yes (“y yes”)
+  return question + u' ' + Words::tr("[y/N]");
 }
 
 QString reportText(const CleanReport& report, bool dryRun, bool toTrash, const Paper& paper) {

@@ -65,6 +65,9 @@ class tst_cli_terminal : public CliTest {
 
   void asks_data();
   void asks();
+  void asksInTheLanguage_data();
+  void asksInTheLanguage();
+  void asksByTheTrashOfTheHost();
   void questionsByMode_data();
   void questionsByMode();
   void ctrlCAtTheQuestion();
@@ -91,6 +94,7 @@ void tst_cli_terminal::init() {
   make();
   qputenv("TERM", "xterm-256color");
   qunsetenv("NO_COLOR");
+  qputenv("TARNWICK_LANG", "en");
 }
 
 void tst_cli_terminal::asks_data() {
@@ -121,6 +125,66 @@ void tst_cli_terminal::asks() {
   QCOMPARE(pty.shown().contains("Freed"), cleans);
   QCOMPARE(pty.shown().contains("Nothing was cleaned."), !cleans);
   if (!cleans) QCOMPARE(wholeTree(*m_home), before);
+}
+
+void tst_cli_terminal::asksInTheLanguage_data() {
+  QTest::addColumn<QByteArray>("code");
+  QTest::addColumn<QByteArray>("hint");
+  QTest::addColumn<QByteArray>("keys");
+  QTest::addColumn<bool>("cleans");
+  const auto row = [](const char* code, const char* hint, const char* keys, bool cleans) {
+    QTest::addRow("%s: %s", code, keys) << QByteArray(code) << QByteArray(hint) << QByteArray(keys) << cleans;
+  };
+  row("de", "[j/N]", "j", true);
+  row("de", "[j/N]", " Ja ", true);
+  row("de", "[j/N]", "y", true);
+  row("de", "[j/N]", "yes", true);
+  row("de", "[j/N]", "n", false);
+  row("de", "[j/N]", "nein", false);
+  row("de", "[j/N]", "jaja", false);
+  row("de", "[j/N]", "j ja", false);
+  row("de", "[j/N]", "", false);
+  row("de", "[j/N]", "да", false); // another language's
+  row("ru", "[д/Н]", "д", true);
+  row("ru", "[д/Н]", "ДА", true);
+  row("ru", "[д/Н]", "Yes", true);
+  row("ru", "[д/Н]", "н", false);
+  row("ru", "[д/Н]", "\xd0", false); // half a letter
+  row("ja", "[y/N]", "はい", true);
+  row("ja", "[y/N]", "y", true);
+  row("ja", "[y/N]", "いいえ", false);
+  row("es", "[s/N]", "si", true);
+  row("fr", "[o/N]", "oui", true);
+  row("pt_BR", "[s/N]", "sim", true);
+  row("pt_BR", "[s/N]", "não", false);
+  row("ko", "[y/N]", "예", true);
+  row("zh_CN", "[y/N]", "是", true);
+  row("zh_CN", "[y/N]", "不是", false);
+  row("en", "[y/N]", "j", false);
+}
+
+void tst_cli_terminal::asksInTheLanguage() {
+  QFETCH(QByteArray, code);
+  QFETCH(QByteArray, hint);
+  QFETCH(QByteArray, keys);
+  QFETCH(bool, cleans);
+  qputenv("TARNWICK_LANG", code);
+  const auto before = wholeTree(*m_home);
+  Pty pty({u"clean"_s, u"--delete"_s});
+  QVERIFY(pty.shows(hint));
+  pty.type(keys + '\n');
+  QCOMPARE(pty.finish(), 0);
+  QCOMPARE(!there(u".cache/acme-notes/index"_s), cleans);
+  if (!cleans) QCOMPARE(wholeTree(*m_home), before);
+}
+
+void tst_cli_terminal::asksByTheTrashOfTheHost() {
+  qputenv("TARNWICK_LANG", "zh_CN");
+  Pty pty({u"clean"_s, u"--trash"_s});
+  QVERIFY(pty.shows("移到回收站吗？ [y/N]"));
+  QVERIFY(!pty.shown().contains("废纸篓"));
+  pty.type("n\n");
+  QCOMPARE(pty.finish(), 0);
 }
 
 void tst_cli_terminal::questionsByMode_data() {
