@@ -228,7 +228,7 @@
     </message>
     <message>
         <source>Largest items</source>
-        <translation>GRÖSSTE OBJEKTE</translation>
+        <translation>Größte Objekte</translation>
     </message>
     <message>
         <source>Show in %1</source>
@@ -1078,7 +1078,7 @@
     <message>
         <source>Largest so far</source>
         <extracomment>Heading of a list while the search runs</extracomment>
-        <translation>BISHER GRÖSSTE DATEIEN</translation>
+        <translation>Bisher größte Dateien</translation>
     </message>
     <message>
         <source>Sort by</source>

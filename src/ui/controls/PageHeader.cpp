@@ -2,6 +2,7 @@
 
 #include "ui/Theme.h"
 #include "ui/controls/factory.h"
+#include "ui/eyebrow.h"
 #include "ui/paint.h"
 
 #include <QHBoxLayout>
@@ -68,7 +69,7 @@ void PageHeader::setSubtitle(const QString& subtitle) {
 
 void PageHeader::setEyebrow(const QString& eyebrow) {
   m_eyebrow = eyebrow;
-  m_eyebrowLabel->setText(eyebrow);
+  m_eyebrowLabel->setText(eyebrowText(eyebrow));
   refreshEyebrow();
   if (m_toolbar) refreshTitle();
 }

@@ -4,6 +4,7 @@
 #include "ui/accessible.h"
 #include "ui/controls/Label.h"
 #include "ui/desktop.h"
+#include "ui/eyebrow.h"
 #include "ui/paint.h"
 
 #include <QApplication>
@@ -89,7 +90,7 @@ QLabel* label(const QString& text, const char* role, QWidget* parent) {
 }
 
 QLabel* eyebrow(const QString& text, QWidget* parent) {
-  QLabel* result = label(text, "micro", parent);
+  QLabel* result = label(eyebrowText(text), "micro", parent);
   result->setFont(Theme::get().eyebrow(kEyebrowPx));
   return result;
 }

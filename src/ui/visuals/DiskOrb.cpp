@@ -4,6 +4,7 @@
 #include "ui/Theme.h"
 #include "ui/controls/KeyboardFocus.h"
 #include "ui/controls/factory.h"
+#include "ui/eyebrow.h"
 #include "ui/visuals/dial.h"
 #include "ui/visuals/hues.h"
 
@@ -230,7 +231,7 @@ void DiskOrb::paintText(QPainter* painter, const QRectF& core) const {
   paint::text(painter, places.unit, value.unit);
   painter->setFont(theme.eyebrow(kCaptionPx));
   painter->setPen(theme.text3);
-  paint::text(painter, places.caption, Qt::AlignHCenter | Qt::AlignTop, m_caption);
+  paint::text(painter, places.caption, Qt::AlignHCenter | Qt::AlignTop, eyebrowText(m_caption));
   painter->setFont(pillFont);
   if (!m_action.isEmpty()) paintPill(painter, places.pill);
 }

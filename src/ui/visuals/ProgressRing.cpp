@@ -3,6 +3,7 @@
 #include "core/fmt.h"
 #include "ui/Theme.h"
 #include "ui/controls/Ticker.h"
+#include "ui/eyebrow.h"
 #include "ui/paint.h"
 #include "ui/visuals/hues.h"
 
@@ -130,7 +131,7 @@ void ProgressRing::paintEvent(QPaintEvent* /*event*/) {
   paintRing(&painter, layout.circle);
   if (m_orbit >= 0) paintDot(&painter, ringPoint(layout.circle, m_orbit));
   dial::paintText(&painter, layout.text, {m_headline, theme.mono(kHeadlinePx, kHeadlineWeight), theme.text},
-                  {m_caption, theme.eyebrow(kCaptionPx), theme.text3});
+                  {eyebrowText(m_caption), theme.eyebrow(kCaptionPx), theme.text3});
 }
 
 void ProgressRing::paintRing(QPainter* painter, const QRectF& circle) const {

@@ -2,6 +2,7 @@
 
 #include "ui/Theme.h"
 #include "ui/controls/Ticker.h"
+#include "ui/eyebrow.h"
 #include "ui/paint.h"
 #include "ui/visuals/hues.h"
 
@@ -157,7 +158,7 @@ void Radar::paintEvent(QPaintEvent* /*event*/) {
   paintSweep(&painter, layout);
   drawPixels(&painter, ratio, m_core);
   dial::paintText(&painter, layout.text, {m_headline, theme.mono(kHeadlinePx, kHeadlineWeight), theme.text},
-                  {m_caption, theme.eyebrow(kCaptionPx), theme.text3});
+                  {eyebrowText(m_caption), theme.eyebrow(kCaptionPx), theme.text3});
 }
 
 /// Brings them up to date. @param ratio  pixels to a logical one

@@ -191,6 +191,8 @@ void TestPageHeader::emptyLinesLeaveNoGap() {
   QCOMPARE(lines.eyebrow->text(), u"Overview"_s);
   shown.settle();
   QVERIFY(lines.eyebrow->geometry().bottom() < lines.title->y());
+  shown.header->setEyebrow(u"Größe"_s);
+  QCOMPARE(lines.eyebrow->text(), u"Grösse"_s); // for capitals
   QVERIFY(lines.title->geometry().bottom() < lines.subtitle->y());
 
   shown.header->setSubtitle({});

@@ -129,6 +129,8 @@ void TestFactory::eyebrowIsAnOverline() {
   QCOMPARE(label->font().capitalization(), QFont::AllUppercase);
   QCOMPARE(label->font().families(), Theme::get().eyebrow(11).families());
   QCOMPARE(label->font().pixelSize(), 11);
+  // Its font sets letter by letter in capitals, of which this one has none.
+  QCOMPARE(std::unique_ptr<QLabel>(ui::eyebrow(u"Größte Straße"_s))->text(), u"Grösste Strasse"_s);
 }
 
 void TestFactory::setRoleDressesAtOnce() {
