@@ -2699,7 +2699,7 @@
     <message>
         <source>%1 %2</source>
         <extracomment>A size; %1: a number; %2: a unit such as “GB”</extracomment>
-        <translation>%1 %2</translation>
+        <translation>%1&#xa0;%2</translation>
     </message>
     <message>
         <source>Today</source>

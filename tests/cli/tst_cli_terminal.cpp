@@ -47,7 +47,7 @@ int cells(const QString& text) {
 
 /// Where the sizes of a table end, line by line.
 QList<int> endsOfSizes(const QString& shown) {
-  static const QRegularExpression size(u" \\d[\\d.,]* [KMG]B"_s);
+  static const QRegularExpression size(u" \\d[\\d.,]*[ \u00a0][KMG]B"_s);
   QList<int> ends;
   for (const QString& line : shown.section(u'\u2500', 0, -1).split(u"\r\n"_s))
     if (const auto match = size.match(line); line.startsWith(u"  "_s) && match.hasMatch())

@@ -286,6 +286,8 @@ void tst_i18n::figuresInEachLanguage() {
   const auto plain = [](QString text) { return text.replace(QChar(0x202f), u' ').replace(QChar(0xa0), u' '); };
   QCOMPARE(plain(fmt::count(1'234'567)), count);
   QTEST(plain(fmt::bytes(1'500'000'000)), "size");
+  QCOMPARE(fmt::bytes(1'500'000'000).contains(u' '),
+           QByteArray(QTest::currentDataTag()) == "en"); // a size stays on its line
   QTEST(plain(fmt::bytes(2000)), "smallSize");
   const QDateTime now = QDateTime::currentDateTime();
   QTEST(plain(fmt::ageWithin(now) + u", "_s + fmt::ageWithin(now.addDays(-3))), "age");

@@ -99,7 +99,8 @@ bool isOnCore(const Layout& layout, const QPointF& point) {
 }
 
 Value value(const QString& text) {
-  const auto space = text.lastIndexOf(u' ');
+  const auto isSpace = [](QChar one) { return one.isSpace(); }; // some languages use one that keeps the line together
+  const auto space = std::distance(std::find_if(text.rbegin(), text.rend(), isSpace), text.rend()) - 1;
   if (space <= 0) return {.number = text, .unit = {}};
   return {.number = text.left(space), .unit = text.mid(space + 1)};
 }

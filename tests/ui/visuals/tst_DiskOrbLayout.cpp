@@ -132,6 +132,7 @@ void TestDiskOrbLayout::values_data() {
   QTest::newRow("with a unit") << u"12.4 GB"_s << u"12.4"_s << u"GB"_s;
   QTest::newRow("without") << u"1234"_s << u"1234"_s << QString();
   QTest::newRow("the last space counts") << u"1 234 MB"_s << u"1 234"_s << u"MB"_s;
+  QTest::newRow("one that keeps the line together") << u"1\u202f234\u00a0Mo"_s << u"1\u202f234"_s << u"Mo"_s;
   QTest::newRow("one at the start doesn't") << u" GB"_s << u" GB"_s << QString();
   QTest::newRow("one at the start, and another") << u" 5 GB"_s << u" 5"_s << u"GB"_s;
   QTest::newRow("one at the end") << u"5 "_s << u"5"_s << QString();
