@@ -16,7 +16,7 @@ namespace icons {
 
 namespace {
 
-constexpr double kRatios[] = {1.0, 1.5, 2.0};
+constexpr double kRatios[] = {1.0, 1.25, 1.5, 2.0}; // of screens; for another one the next larger is scaled
 constexpr int kAppIconSizes[] = {16, 24, 32, 48, 64, 128, 256};
 constexpr int kTrayIconSizes[] = {16, 22, 24, 32, 48, 64}; // what panels of all scales ask for
 constexpr int kSmallLogoUpTo = 32;

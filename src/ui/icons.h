@@ -12,7 +12,7 @@ namespace icons {
 
 /// Paints the icon into @p rect; the colour's alpha becomes opacity. An unknown name paints nothing.
 void paint(QPainter* painter, const QRectF& rect, const QString& name, const QColor& colour);
-/// The icon at @p size logical pixels, for the pixel ratios 1, 1.5 and 2.
+/// The icon at @p size logical pixels, for the pixel ratios 1, 1.25, 1.5 and 2.
 /// @param side  of the empty square in whose middle it lies: what shows icons in that size alone would stretch a
 ///              smaller one; less than @p size for none
 [[nodiscard]] QIcon icon(const QString& name, const QColor& colour, int size, int side = 0);

@@ -85,7 +85,7 @@ class TestIcons : public QObject {
   void unknownNamesPaintNothing();
   void unknownNameIsReadOnce();
 
-  void iconHasThreeResolutions();
+  void iconHasFourResolutions();
   void iconIsMadeAfreshEachTime();
   void logos_data();
   void logos();
@@ -278,10 +278,10 @@ void TestIcons::unknownNameIsReadOnce() {
   QVERIFY(isEmpty(iconImage(u"late"_s, Qt::red, 24))); // another renderer of the same source
 }
 
-void TestIcons::iconHasThreeResolutions() {
+void TestIcons::iconHasFourResolutions() {
   const QIcon icon = icons::icon(u"bell"_s, Qt::black, 17);
-  QCOMPARE(icon.availableSizes(QIcon::Normal, QIcon::Off), QList<QSize>({{17, 17}, {26, 26}, {34, 34}}));
-  for (const auto& [ratio, side] : {std::pair(1.0, 17), std::pair(1.5, 26), std::pair(2.0, 34)}) {
+  QCOMPARE(icon.availableSizes(QIcon::Normal, QIcon::Off), QList<QSize>({{17, 17}, {21, 21}, {26, 26}, {34, 34}}));
+  for (const auto& [ratio, side] : {std::pair(1.0, 17), std::pair(1.25, 21), std::pair(1.5, 26), std::pair(2.0, 34)}) {
     const QPixmap pixmap = icon.pixmap(QSize(17, 17), ratio);
     QCOMPARE(pixmap.size(), QSize(side, side));
     QVERIFY(qAbs(pixmap.devicePixelRatio() - ratio) < 0.05);

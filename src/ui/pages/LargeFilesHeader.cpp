@@ -1,12 +1,16 @@
 #include "ui/pages/LargeFilesHeader.h"
 
+#include "ui/Theme.h"
 #include "ui/controls/KeyboardFocus.h"
 #include "ui/pages/LargeFilesModel.h"
+#include "ui/paint.h"
 
 #include <QKeyEvent>
 #include <QPainter>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace ui {
 
@@ -21,7 +25,8 @@ LargeFilesHeader::LargeFilesHeader(QWidget* parent)
     : QHeaderView(Qt::Horizontal, parent), m_focus(new KeyboardFocus(this, [this] { viewport()->update(); })) {
   setSectionsClickable(true);
   setFocusPolicy(Qt::TabFocus);
-  viewport()->installEventFilter(m_focus); // which gets the presses of the mouse
+  viewport()->installEventFilter(m_focus);                                        // which gets the presses of the mouse
+  setStyleSheet(u"QHeaderView::section { border-bottom-color: transparent; }"_s); // it is painted here
   connect(this, &QHeaderView::sortIndicatorChanged, this, [this] { accessibleItemsChanged(this, m_stop); });
 }
 
@@ -80,9 +85,11 @@ void LargeFilesHeader::keyPressEvent(QKeyEvent* event) {
 
 void LargeFilesHeader::paintEvent(QPaintEvent* event) {
   QHeaderView::paintEvent(event);
-  if (worked() < 0) return;
   QPainter painter(viewport());
   painter.setRenderHint(QPainter::Antialiasing);
+  // In one piece: section by section it would be blurred on some screens, with a gap between two.
+  paint::line(&painter, QRectF(0, viewport()->height() - 1, viewport()->width(), 1), Theme::get().line);
+  if (worked() < 0) return;
   const QRectF section = sectionRect(worked());
   m_focus->paintRing(&painter, section.adjusted(kRingInset, kRingInset, -kRingInset, -kRingBottom), kRingRadius);
 }

@@ -51,6 +51,8 @@ class TestLargeFilesTable : public QObject {
   void ringGoesWithThePress();
   void headerByKeys();
   void headerKeysMirrored();
+  void headerLine_data();
+  void headerLine();
   void headerStops();
   void headerRing();
   void spokenTable();
@@ -369,6 +371,27 @@ void TestLargeFilesTable::headerKeysMirrored() {
   QCOMPARE(header()->worked(), 3);
   key(Qt::Key_Right);
   QCOMPARE(header()->worked(), 1);
+}
+
+void TestLargeFilesTable::headerLine_data() {
+  QTest::addColumn<double>("ratio");
+  QTest::addColumn<int>("top"); // of the line, of whole pixels
+  QTest::newRow("1") << 1.0 << 31;
+  QTest::newRow("1.25") << 1.25 << 39;
+  QTest::newRow("1.5") << 1.5 << 47;
+}
+
+void TestLargeFilesTable::headerLine() {
+  QFETCH(double, ratio);
+  QFETCH(int, top);
+  (void)picture(m_table); // lays it out
+  const QImage image = pixels::rendered(*header()->viewport(), ratio);
+  for (int x = 0; x < image.width(); ++x) {
+    QCOMPARE(image.pixelColor(x, top - 1).alpha(), 0);
+    const QColor seen = image.pixelColor(x, top);
+    QVERIFY2(pixels::isNear(seen, Theme::get().line), qPrintable(u"%1 at %2"_s.arg(seen.name(QColor::HexArgb)).arg(x)));
+    if (top + 1 < image.height()) QCOMPARE(image.pixelColor(x, top + 1).alpha(), 0);
+  }
 }
 
 void TestLargeFilesTable::headerStops() {
