@@ -8,6 +8,7 @@
 #include "engines/Cleaner.h"
 #include "engines/SystemDataScanner.h"
 #include "engines/systemdata.h"
+#include "support/Marking.h"
 #include "support/pixels.h"
 #include "support/uitest.h"
 #include "support/window.h"
@@ -32,7 +33,6 @@
 #include <QSemaphore>
 #include <QSignalSpy>
 #include <QStackedWidget>
-#include <QTranslator>
 
 #include <memory>
 
@@ -81,16 +81,6 @@ inline QString roleOf(const QWidget* widget) { return widget->property("role").t
 inline const QBoxLayout* boxOf(QLayoutItem* item) { return qobject_cast<const QBoxLayout*>(item->layout()); }
 inline const QBoxLayout* boxOf(const QWidget* widget) { return qobject_cast<const QBoxLayout*>(widget->layout()); }
 inline QAccessibleInterface* reader(QWidget* widget) { return QAccessible::queryAccessibleInterface(widget); }
-
-/// Marks every text with the context that it was asked for in.
-class Marking : public QTranslator {
- public:
-  [[nodiscard]] bool isEmpty() const override { return false; }
-  [[nodiscard]] QString translate(const char* context, const char* source, const char* /*what*/,
-                                  int /*n*/) const override {
-    return u"[%1]%2"_s.arg(QLatin1StringView(context), QString::fromUtf8(source));
-  }
-};
 
 /// While it lives, a measuring waits before its first item.
 class Held {

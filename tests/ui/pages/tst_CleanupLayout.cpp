@@ -1,5 +1,6 @@
 // The Cleanup page's measures: margins, gaps, shares of the room, roles and styles of its texts, and their contexts.
 #include "CleanupTest.h"
+#include "support/Marking.h"
 #include "ui/controls/Button.h"
 #include "ui/controls/Divider.h"
 #include "ui/controls/ElidedLabel.h"
@@ -20,7 +21,6 @@
 
 #include <QBoxLayout>
 #include <QScrollArea>
-#include <QTranslator>
 
 using namespace cleanuptest;
 
@@ -43,16 +43,6 @@ const QLabel* labelSaying(const QWidget* widget, const QString& text) {
     if (label->text() == text && label->isVisibleTo(widget)) return label;
   return nullptr;
 }
-
-/// Marks every text with the context that it was asked for in.
-class Marking : public QTranslator {
- public:
-  [[nodiscard]] bool isEmpty() const override { return false; }
-  [[nodiscard]] QString translate(const char* context, const char* source, const char* /*what*/,
-                                  int /*n*/) const override {
-    return u"[%1]%2"_s.arg(QLatin1StringView(context), QString::fromUtf8(source));
-  }
-};
 
 } // namespace
 

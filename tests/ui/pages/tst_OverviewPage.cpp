@@ -1,25 +1,10 @@
 // The Overview: what it holds, and what its figures and words say.
 #include "OverviewTest.h"
-
-#include <QTranslator>
+#include "support/Marking.h"
 
 using namespace overviewtest;
 using ui::CategoryTile;
 using ui::OverviewPage;
-
-namespace {
-
-/// Marks every text with the context that it was asked for in.
-class Marking : public QTranslator {
- public:
-  [[nodiscard]] bool isEmpty() const override { return false; }
-  [[nodiscard]] QString translate(const char* context, const char* source, const char* /*what*/,
-                                  int /*n*/) const override {
-    return u"<%1>%2"_s.arg(QLatin1StringView(context), QString::fromUtf8(source));
-  }
-};
-
-} // namespace
 
 class TestOverviewPage : public OverviewTest {
   Q_OBJECT
@@ -415,9 +400,9 @@ void TestOverviewPage::textsAreTranslatedInTheirContexts() {
        {u"Keep your disk in shape"_s, u"free of "_s, u"Scan"_s, u"Overview"_s, u"Smart Scan"_s, u"Rescan"_s,
         u"See all"_s, u"Disk health"_s, u"System files protected"_s, u"Never scanned"_s, u"Freed this month"_s,
         u"Scheduled scan"_s, u"Weekly"_s, u"Apps, documents & system"_s, u"Available"_s, u"What Smart Scan looks at"_s})
-    QVERIFY2(all.contains(u"<OverviewPage>"_s + text), qPrintable(text));
-  QVERIFY(shown.diskLine().startsWith(u"<Sidebar>"_s));
-  QVERIFY2(shown.diskLine().contains(u" · <OverviewPage>"_s), qPrintable(shown.diskLine()));
+    QVERIFY2(all.contains(u"[OverviewPage]"_s + text), qPrintable(text));
+  QVERIFY(shown.diskLine().startsWith(u"[Sidebar]"_s));
+  QVERIFY2(shown.diskLine().contains(u" · [OverviewPage]"_s), qPrintable(shown.diskLine()));
 }
 
 /// What this desktop doesn't have isn't spoken of.
