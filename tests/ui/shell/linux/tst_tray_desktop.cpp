@@ -1,41 +1,26 @@
-// The tray on a desktop: its icon and menu as a panel sees them over the bus, messages as the desktop's service gets
-// them, a panel that comes late and goes, and a tray of X11. The desktop is a screen and a bus of the test's own; the
-// test runs itself again on them, once for each kind of tray, as Qt settles for one of them in a process.
-
-#include "app/AppSettings.h"
-#include "app/AppState.h"
+// The tray on a desktop with a panel: its icon and menu as the panel sees them over the bus, messages as the desktop's
+// service gets them, and a panel that comes late and goes. The desktop is a screen and a bus of the test's own, on
+// which it runs itself again.
+#include "DesktopTest.h"
 #include "core/fmt.h"
-#include "engines/Cleaner.h"
-#include "support/SelectionOwner.h"
-#include "support/servers.h"
-#include "support/uitest.h"
-#include "ui/Theme.h"
-#include "ui/shell/MainWindow.h"
 #include "ui/shell/Sidebar.h"
-#include "ui/shell/Tray.h"
 #include "ui/shell/offered.h"
 #include "ui/shell/program.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
 #include <QMutex>
 #include <QPainter>
-#include <QSettings>
 #include <QSignalSpy>
-#include <QSystemTrayIcon>
 #include <QThread>
 
 using namespace Qt::StringLiterals;
 using namespace ui;
 
 namespace {
-
-constexpr char kMode[] = "TARNWICK_TEST_MODE"; // "panel" or "x11" in a child
-constexpr char kBus[] = "TARNWICK_TEST_BUS";   // the bus's address there
 
 const QString kWatcherName = u"org.kde.StatusNotifierWatcher"_s;
 const QString kItem = u"org.kde.StatusNotifierItem"_s;
@@ -146,34 +131,6 @@ class Messages : public QObject {
   void ActionInvoked(uint id, const QString& key);
 };
 
-/// What both kinds of desktop share.
-class DesktopTest : public QObject {
- protected:
-  void openWindow() {
-    m_home = std::make_unique<FixtureHome>();
-    QSettings().clear();
-    m_home->file(u".cache/acme/1"_s);
-    AppSettings& settings = AppSettings::instance();
-    settings.setExclusions(FixtureHome::rulesForOutside());
-    settings.setLowSpaceAlerts(false);
-    settings.setShowInTray(true);
-    CleanerWorld world;
-    world.lockPath = m_home->outside(u"clean.lock"_s);
-    m_state = std::make_unique<AppState>(nullptr, world);
-    m_window = std::make_unique<MainWindow>(m_state.get());
-  }
-  void closeWindow() {
-    m_window.reset();
-    m_state.reset();
-    m_home.reset();
-  }
-  [[nodiscard]] Tray* tray() const { return m_window->findChild<Tray*>(); }
-
-  std::unique_ptr<FixtureHome> m_home;
-  std::unique_ptr<AppState> m_state;
-  std::unique_ptr<MainWindow> m_window;
-};
-
 } // namespace
 
 class TestPanel : public DesktopTest {
@@ -231,7 +188,7 @@ void TestPanel::initTestCase() {
   QCOMPARE(QGuiApplication::platformName(), u"xcb"_s);
   qRegisterMetaType<QDBusVariant>();
   Theme::get().install(qApp);
-  m_bus = QDBusConnection::connectToBus(qEnvironmentVariable(kBus), u"desktop"_s);
+  m_bus = QDBusConnection::connectToBus(qEnvironmentVariable(desktoptest::kBus), u"desktop"_s);
   QVERIFY(m_bus.isConnected());
   constexpr auto kAll = QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals;
   m_watcher = new Watcher;
@@ -421,41 +378,6 @@ void TestPanel::clickOnAMessage() {
   QTRY_VERIFY(m_window->isVisible());
 }
 
-class TestX11Tray : public DesktopTest {
-  Q_OBJECT
-
- private slots:
-  void initTestCase() {
-    QCOMPARE(QGuiApplication::platformName(), u"xcb"_s);
-    Theme::get().install(qApp);
-  }
-  void init() { openWindow(); }
-  void cleanup() { closeWindow(); }
-
-  void trayComesAndGoes();
-  void trayThatWasThereBefore();
-};
-
-void TestX11Tray::trayComesAndGoes() {
-  QVERIFY(!tray()->isShown());
-  showAtStart(m_window.get(), {.background = true});
-  QVERIFY(m_window->isHidden());
-  {
-    const SelectionOwner owner("_NET_SYSTEM_TRAY_S0", SelectionOwner::Told::Everybody);
-    QTRY_VERIFY(tray()->isShown());
-    QVERIFY(m_window->findChild<QSystemTrayIcon*>());
-    QVERIFY(m_window->isHidden());
-  }
-  QTRY_VERIFY(!m_window->findChild<QSystemTrayIcon*>());
-}
-
-void TestX11Tray::trayThatWasThereBefore() {
-  closeWindow();
-  const SelectionOwner owner("_NET_SYSTEM_TRAY_S0");
-  openWindow();
-  QVERIFY(tray()->isShown());
-}
-
 /// What is told where there is no desktop to start.
 class TestNothing : public QObject {
   Q_OBJECT
@@ -464,46 +386,14 @@ class TestNothing : public QObject {
   void needsADesktop() { QSKIP("no Xvfb or no dbus-daemon here"); }
 };
 
-namespace {
-
-template <typename Test>
-int runOnDesktop(int argc, char** argv, const QByteArray& address) {
-  uitest::isolate();
-  if (!address.isEmpty()) qputenv("DBUS_SESSION_BUS_ADDRESS", address);
-  const FixtureHome home;
-  QApplication app(argc, argv);
-  QApplication::setStyle(u"Fusion"_s);
-  QGuiApplication::setDesktopFileName(u"tarnwick"_s);
-  Test test;
-  return QTest::qExec(&test, argc, argv);
-}
-
-int startOn(const servers::Server& screen, const QString& bus, const QString& mode) {
-  QProcess child;
-  QProcessEnvironment environment = servers::onScreen(screen);
-  environment.insert(QString::fromLatin1(kMode), mode);
-  environment.insert(QString::fromLatin1(kBus), bus);
-  child.setProcessEnvironment(environment);
-  child.setProcessChannelMode(QProcess::ForwardedChannels);
-  child.start(QCoreApplication::applicationFilePath(), QCoreApplication::arguments().mid(1));
-  return child.waitForFinished(60000) && child.exitStatus() == QProcess::NormalExit ? child.exitCode() : 1;
-}
-
-} // namespace
-
 int main(int argc, char** argv) {
-  const QByteArray mode = qgetenv(kMode);
-  if (mode == "panel") return runOnDesktop<TestPanel>(argc, argv, qgetenv(kBus));
-  if (mode == "x11") return runOnDesktop<TestX11Tray>(argc, argv, {});
+  if (qEnvironmentVariableIsSet(desktoptest::kChild)) return desktoptest::runOnDesktop<TestPanel>(argc, argv);
   const QCoreApplication app(argc, argv);
   servers::Server screen;
   servers::Server bus;
-  if (!servers::startScreen(&screen) || !servers::startBus(&bus)) {
-    TestNothing nothing;
-    return QTest::qExec(&nothing, argc, argv);
-  }
-  const int withPanel = startOn(screen, bus.answer(), u"panel"_s);
-  return withPanel + startOn(screen, {}, u"x11"_s);
+  if (servers::startScreen(&screen) && servers::startBus(&bus)) return desktoptest::startOn(screen, bus.answer());
+  TestNothing nothing;
+  return QTest::qExec(&nothing, argc, argv);
 }
 
 #include "tst_tray_desktop.moc"
