@@ -59,13 +59,6 @@ class MenusTest : public QObject {
     QVERIFY(!keys.isEmpty());
     press(keys.first());
   }
-  [[nodiscard]] bool hasPage(int page) const {
-    const int before = m_window->page();
-    m_window->go(page);
-    const bool has = m_window->page() == page;
-    m_window->go(before);
-    return has;
-  }
   [[nodiscard]] QList<ui::Overlay*> dialogs() const { return m_window->findChildren<ui::Overlay*>(); }
   ui::AppMenu* showMenu() const {
     m_window->showAppMenu(m_window->mapToGlobal(QPoint(200, 60)));

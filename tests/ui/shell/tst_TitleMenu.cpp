@@ -6,6 +6,7 @@
 #include "ui/shell/AboutDialog.h"
 #include "ui/shell/ShortcutsOverlay.h"
 #include "ui/shell/Sidebar.h"
+#include "ui/shell/UpdateDialog.h"
 
 #include <QPointer>
 #include <QSignalSpy>
@@ -25,6 +26,7 @@ class TestTitleMenu : public MenusTest {
   void appMenuRows();
   void appMenuMirrored();
   void appMenuEntriesAct();
+  void appMenuAsksForUpdates();
   void appMenuUnderADialog();
   void appMenuByKey();
   void helpMenu();
@@ -80,9 +82,8 @@ void TestTitleMenu::appMenuMirrored() {
 }
 
 void TestTitleMenu::appMenuEntriesAct() {
-  const int wanted = hasPage(Sidebar::Settings) ? int(Sidebar::Settings) : m_window->page();
   choose({u"Settings"_s});
-  QCOMPARE(m_window->page(), wanted);
+  QCOMPARE(m_window->page(), int(Sidebar::Settings));
   choose({u"About Tarnwick"_s});
   QVERIFY(m_window->findChild<AboutDialog*>());
   dialogs().first()->close();
@@ -99,6 +100,12 @@ void TestTitleMenu::appMenuEntriesAct() {
   QTimer::singleShot(0, m_window.get(), [this] { choose({u"Quit Tarnwick"_s}); });
   QApplication::exec();
   QCOMPARE(leaving.count(), 1);
+}
+
+void TestTitleMenu::appMenuAsksForUpdates() {
+  if (!deployment::updatesItself()) QSKIP("this build has no updates");
+  choose({u"Check for Updates"_s});
+  QVERIFY(m_window->findChild<UpdateDialog*>());
 }
 
 void TestTitleMenu::appMenuUnderADialog() {

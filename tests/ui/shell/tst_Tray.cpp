@@ -13,6 +13,7 @@
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/Sidebar.h"
 #include "ui/shell/Toast.h"
+#include "ui/shell/UpdateDialog.h"
 #include "ui/shell/offered.h"
 #include "ui/shell/program.h"
 
@@ -80,6 +81,7 @@ class TestTray : public QObject {
   void scanFromTheHiddenWindow();
   void largeFilesFromTheHiddenWindow();
   void settingsEntry();
+  void updatesEntry();
   void quitEntry();
   void restsBehindADialog();
   void messages_data();
@@ -264,16 +266,21 @@ void TestTray::scanFromTheHiddenWindow() {
 void TestTray::largeFilesFromTheHiddenWindow() {
   entry(u"Find Large Files"_s)->trigger();
   QVERIFY(m_window->isVisible());
+  QCOMPARE(m_window->page(), int(Sidebar::SpaceMap));
   QTRY_VERIFY(m_state->largeScanned);
 }
 
 void TestTray::settingsEntry() {
-  m_window->go(Sidebar::Settings);
-  const int wanted = m_window->page(); // where the window has such a page, that one
-  m_window->go(Sidebar::Overview);
   entry(u"Settings"_s)->trigger();
   QVERIFY(m_window->isVisible());
-  QCOMPARE(m_window->page(), wanted);
+  QCOMPARE(m_window->page(), int(Sidebar::Settings));
+}
+
+void TestTray::updatesEntry() {
+  if (!deployment::updatesItself()) QSKIP("this build has no updates");
+  entry(u"Check for Updates"_s)->trigger();
+  QVERIFY(m_window->isVisible());
+  QVERIFY(m_window->findChild<UpdateDialog*>());
 }
 
 void TestTray::quitEntry() {
@@ -421,6 +428,7 @@ void TestTray::trayComesInTime() {
 }
 
 void TestTray::trayComesTooLate() {
+  QVERIFY(TrayDesktop().patience == 10s); // when no test is in a hurry
   m_desktop.isThere = false;
   open();
   showAtStart(m_window.get(), {.background = true});
