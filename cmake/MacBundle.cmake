@@ -10,7 +10,8 @@ function(tarnwick_mac_icon output)
   set(theme ${CMAKE_CURRENT_BINARY_DIR}/theme)
   set(iconset ${CMAKE_CURRENT_BINARY_DIR}/Tarnwick.iconset)
   set(copies)
-  foreach(pair 16:16x16 32:16x16@2x 32:32x32 64:32x32@2x 128:128x128 256:128x128@2x 256:256x256)
+  foreach(pair 16:16x16 32:16x16@2x 32:32x32 64:32x32@2x 128:128x128 256:128x128@2x 256:256x256 512:256x256@2x
+               512:512x512 1024:512x512@2x)
     string(REPLACE ":" ";" pair ${pair})
     list(GET pair 0 side)
     list(GET pair 1 name)
@@ -19,7 +20,7 @@ function(tarnwick_mac_icon output)
   endforeach()
   add_custom_command(
     OUTPUT ${output}
-    COMMAND tarnwick-icons ${theme}
+    COMMAND tarnwick-icons ${theme} 512 1024
     COMMAND ${CMAKE_COMMAND} -E make_directory ${iconset}
     ${copies}
     COMMAND iconutil --convert icns --output ${output} ${iconset}

@@ -1,11 +1,12 @@
-// tarnwick-icons DIR: writes the application's icon as DIR/16x16/apps/tarnwick.png and so on, as an icon theme has it.
-// The build runs it; never installed.
+// tarnwick-icons DIR [SIDE ...]: writes the application's icon as DIR/16x16/apps/tarnwick.png and so on, as an icon
+// theme has it, in its own sizes and in these. The build runs it; never installed.
 
 #include "ui/icons.h"
 
 #include <QDir>
 #include <QGuiApplication>
-#include <QPixmap>
+#include <QImage>
+#include <QPainter>
 
 #include <cstdio>
 
@@ -13,10 +14,35 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Whether the icon of this side could be written below @p theme.
-bool write(const QDir& theme, const QIcon& icon, const QSize& size) {
-  const QString folder = u"%1x%2/apps"_s.arg(size.width()).arg(size.height());
-  return theme.mkpath(folder) && icon.pixmap(size, 1).save(theme.filePath(folder + u"/tarnwick.png"_s));
+constexpr int kLargest = 4096; // px
+
+/// The icon larger than any window shows it, for systems that show programs so.
+QImage large(int side) {
+  QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  icons::paintLogo(&painter, image.rect());
+  return image;
+}
+
+/// Whether it could be written below @p theme.
+bool write(const QDir& theme, const QImage& image) {
+  const QString folder = u"%1x%2/apps"_s.arg(image.width()).arg(image.height());
+  return theme.mkpath(folder) && image.save(theme.filePath(folder + u"/tarnwick.png"_s));
+}
+
+/// All that are asked for; empty if one of @p sides is no size.
+QList<QImage> images(const QStringList& sides) {
+  QList<QImage> all;
+  const QIcon icon = icons::appIcon();
+  for (const QSize& size : icon.availableSizes()) all << icon.pixmap(size, 1).toImage();
+  for (const QString& side : sides) {
+    const int pixels = side.toInt();
+    if (pixels < 1 || pixels > kLargest) return {};
+    all << large(pixels);
+  }
+  return all;
 }
 
 } // namespace
@@ -24,14 +50,15 @@ bool write(const QDir& theme, const QIcon& icon, const QSize& size) {
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication app(argc, argv);
-  if (argc != 2) {
-    std::fputs("usage: tarnwick-icons DIR\n", stderr);
+  const QStringList arguments = QCoreApplication::arguments();
+  const QList<QImage> all = images(arguments.mid(2));
+  if (argc < 2 || all.isEmpty()) {
+    std::fputs("usage: tarnwick-icons DIR [SIDE ...]\n", stderr);
     return 2;
   }
-  const QDir theme(QFile::decodeName(argv[1]));
-  const QIcon icon = icons::appIcon();
-  for (const QSize& size : icon.availableSizes())
-    if (!write(theme, icon, size)) {
+  const QDir theme(arguments[1]);
+  for (const QImage& image : all)
+    if (!write(theme, image)) {
       std::fprintf(stderr, "tarnwick-icons: can't write below %s\n", argv[1]);
       return 1;
     }

@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
-"""The Info.plist of the macOS bundle, made by CMake's own means from its template, is what the system expects."""
+"""The Info.plist of the macOS bundle, made by CMake's own means from its template, is what the system expects, and so is
+its icon."""
 
 import os
 import pathlib
 import plistlib
 import re
+import struct
 import subprocess
 import tempfile
 import unittest
@@ -13,6 +15,9 @@ SOURCE = pathlib.Path(os.environ.get("TARNWICK_SOURCE", pathlib.Path(__file__).r
 CMAKE = os.environ.get("TARNWICK_CMAKE", "cmake")
 TEMPLATE = SOURCE / "resources/macos/Info.plist.in"
 BUNDLE = SOURCE / "cmake/MacBundle.cmake"
+ICONS = pathlib.Path(os.environ.get("TARNWICK_BUILD", "")) / "src/gallery/tarnwick-icons"
+
+NO_LEAKS = {"ASAN_OPTIONS": "detect_leaks=0"}  # of the libraries that draw
 
 
 def configured(**values: str) -> dict:
@@ -56,6 +61,32 @@ class Bundle(unittest.TestCase):
         given_by_cmake = {"MACOSX_BUNDLE_EXECUTABLE_NAME"}
         for name in set(re.findall(r"\$\{(\w+)\}", TEMPLATE.read_text(encoding="utf-8"))) - given_by_cmake:
             self.assertRegex(rules, rf"\b{name}\b", name)
+
+    def test_the_icon_has_all_sizes_of_the_system(self):
+        rules = BUNDLE.read_text(encoding="utf-8")
+        sides = dict(reversed(pair) for pair in re.findall(r"\b(\d+):(\d+x\d+(?:@2x)?)", rules))
+        wanted = {}
+        for side in (16, 32, 128, 256, 512):
+            wanted |= {f"{side}x{side}": str(side), f"{side}x{side}@2x": str(2 * side)}
+        self.assertEqual(sides, wanted)
+
+    @unittest.skipUnless(ICONS.is_file(), "the icons' program isn't built")
+    def test_each_size_is_drawn(self):
+        rules = BUNDLE.read_text(encoding="utf-8")
+        asked = re.search(r"COMMAND tarnwick-icons \$\{theme\}([ \d]*)", rules).group(1).split()
+        with tempfile.TemporaryDirectory() as folder:
+            subprocess.run([ICONS, folder, *asked], check=True, env={**os.environ, **NO_LEAKS})
+            for side in map(int, re.findall(r"\b(\d+):\d+x\d+", rules)):
+                png = (pathlib.Path(folder) / f"{side}x{side}/apps/tarnwick.png").read_bytes()
+                self.assertEqual(struct.unpack(">II", png[16:24]), (side, side))
+
+    @unittest.skipUnless(ICONS.is_file(), "the icons' program isn't built")
+    def test_what_is_no_size_is_refused(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for wrong in ("0", "-1", "large", "99999"):
+                run = subprocess.run([ICONS, folder, wrong], capture_output=True, env={**os.environ, **NO_LEAKS})
+                self.assertEqual(run.returncode, 2, wrong)
+            self.assertEqual(os.listdir(folder), [])
 
 
 if __name__ == "__main__":
