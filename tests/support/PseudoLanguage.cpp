@@ -13,8 +13,7 @@ namespace pseudo {
 
 namespace {
 
-constexpr qsizetype kShort = 12; // characters; a shorter text grows more, as it does in real languages
-constexpr double kMoreForShort = 2;
+constexpr qsizetype kShort = 12; // characters
 
 constexpr QStringView kPlain = u"AEIOUYCNSZaeiouycnsz";
 constexpr QStringView kAccented = u"ÅÉÎÖÛÝÇÑŠŽåéîöûýçñšž";
@@ -104,9 +103,9 @@ QString nestedIn(const QString& translation) {
 
 } // namespace
 
-QString text(const QString& source, double growth, Brackets brackets) {
+QString text(const QString& source, const Growth& growth, Brackets brackets) {
   if (!hasLetters(source) && !source.contains(u'%')) return source;
-  const double share = source.size() <= kShort ? kMoreForShort * growth : growth;
+  const double share = source.size() <= kShort ? growth.ofShort : growth.usual;
   auto owed = qsizetype(std::ceil(share * double(source.size())));
   const qsizetype vowels = std::max<qsizetype>(
       1, std::count_if(source.begin(), source.end(), [](QChar one) { return kVowels.contains(one); }));
@@ -143,7 +142,7 @@ QString flaw(const QString& shown, const QStringList& data) {
 
 } // namespace pseudo
 
-PseudoLanguage::PseudoLanguage(const QString& catalogue, double growth, pseudo::Brackets brackets)
+PseudoLanguage::PseudoLanguage(const QString& catalogue, const pseudo::Growth& growth, pseudo::Brackets brackets)
     : m_growth(growth), m_brackets(brackets) {
   QFile file(catalogue);
   if (!file.open(QIODevice::ReadOnly)) qFatal("there is no catalogue at %s", qPrintable(catalogue));

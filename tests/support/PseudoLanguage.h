@@ -14,10 +14,15 @@ constexpr QChar kClose(0x27E7);
 
 enum class Brackets { Shown, Left };
 
-/// @p source made longer by @p growth (0.4: by 40 percent; twice that for a short text), with accents on its letters.
-/// Placeholders, tags, entities and the marks of a mnemonic stay as they are, and so does a mark alone, which stands
-/// between the things of a list.
-[[nodiscard]] QString text(const QString& source, double growth, Brackets brackets = Brackets::Shown);
+/// By how much a text becomes longer, as a share of it. Short texts grow more in real languages.
+struct Growth {
+  double usual = 0.4;
+  double ofShort = 0.8;
+};
+
+/// @p source made longer, with accents on its letters. Placeholders, tags, entities and the marks of a mnemonic stay as
+/// they are, and so does a mark alone, which stands between the things of a list.
+[[nodiscard]] QString text(const QString& source, const Growth& growth = {}, Brackets brackets = Brackets::Shown);
 
 /// What is wrong with a text that is shown in this language; empty if nothing is.
 /// - "untranslated": letters stand outside the brackets that are none of @p data
@@ -35,7 +40,7 @@ enum class Brackets { Shown, Left };
 class PseudoLanguage : public QTranslator {
  public:
   /// @param catalogue  a .ts file; its translations don't matter
-  explicit PseudoLanguage(const QString& catalogue, double growth = 0.4,
+  explicit PseudoLanguage(const QString& catalogue, const pseudo::Growth& growth = {},
                           pseudo::Brackets brackets = pseudo::Brackets::Shown);
 
   [[nodiscard]] QString translate(const char* context, const char* source, const char* disambiguation,
@@ -44,6 +49,6 @@ class PseudoLanguage : public QTranslator {
 
  private:
   QSet<QString> m_known; ///< context and source, with a line break between them
-  double m_growth;
+  pseudo::Growth m_growth;
   pseudo::Brackets m_brackets;
 };

@@ -43,6 +43,7 @@ PageHeader::PageHeader(const QString& title, const QString& subtitle, QWidget* p
       m_outer(hbox(kSpacing, pageMargins())),
       m_actions(hbox(kActionSpacing)),
       m_title(title) {
+  m_titleLabel->setWordWrap(true); // rather than push the actions together, or lose the figure at its end
   // As rich text it would keep the moves of the mouse, by which the window is dragged.
   m_titleLabel->setTextInteractionFlags(Qt::NoTextInteraction);
   QVBoxLayout* texts = vbox(kTextSpacing);

@@ -92,7 +92,7 @@ QLabel* rightLabel(const QString& text, const char* role) {
   return result;
 }
 
-QVBoxLayout* sizeColumn(const CategoryResult& result) {
+QWidget* sizeColumn(const CategoryResult& result) {
   const bool blocked = isBlocked(result);
   QLabel* value = rightLabel(blocked ? u"—"_s : fmt::bytes(result.bytes), "value");
   value->setStyleSheet(u"font-size: 26px;"_s);
@@ -106,7 +106,9 @@ QVBoxLayout* sizeColumn(const CategoryResult& result) {
   QVBoxLayout* column = vbox();
   column->addWidget(value);
   column->addWidget(caption);
-  return column;
+  auto* holder = new QWidget;
+  holder->setLayout(column);
+  return holder;
 }
 
 ElidedLabel* secondLine(const CleanItem& item) {
@@ -187,6 +189,7 @@ void CleanupDetail::rebuild() {
   m_itemChecks.clear();
   m_ages.clear();
   m_detailSelectAll = nullptr;
+  m_title = nullptr;
   m_focusStops = {m_detailScroll};
   const CategoryResult* result = m_state->result(m_id);
   m_detailScroll->setAccessibleName(result ? result->def.title : QString());
@@ -202,6 +205,7 @@ void CleanupDetail::rebuild() {
     child->show();
   m_detailLayout->setEnabled(true);
   placeAges();
+  placeSize();
   emit rebuilt();
 }
 
@@ -213,6 +217,7 @@ void CleanupDetail::placeAges() {
 void CleanupDetail::resizeEvent(QResizeEvent* event) {
   Card::resizeEvent(event);
   placeAges();
+  placeSize();
 }
 
 void CleanupDetail::fill(const CategoryResult& result) {
@@ -231,14 +236,35 @@ void CleanupDetail::addHeader(const CategoryResult& result) {
   QHBoxLayout* pill = hbox(kPillSpacing);
   pill->addWidget(new Pill(result.def.safety));
   pill->addStretch();
-  QVBoxLayout* title = vbox(kTitleSpacing);
-  title->addWidget(new ElidedLabel(result.def.title, "h2"));
-  title->addLayout(pill);
-  QHBoxLayout* header = hbox(kHeaderSpacing);
-  header->addWidget(new IconTile(result.def.icon, result.def.colour, kHeaderTile), 0, Qt::AlignTop);
-  header->addLayout(title, 1);
-  header->addLayout(sizeColumn(result));
-  m_detailLayout->addLayout(header);
+  m_titleLines = vbox(kTitleSpacing);
+  m_title = label(result.def.title, "h2");
+  m_title->setWordWrap(true); // the list beside the panel shortens it
+  m_titleLines->addWidget(m_title);
+  m_titleLines->addLayout(pill);
+  m_size = sizeColumn(result);
+  m_header = hbox(kHeaderSpacing);
+  m_header->addWidget(new IconTile(result.def.icon, result.def.colour, kHeaderTile), 0, Qt::AlignTop);
+  m_header->addLayout(m_titleLines, 1);
+  m_header->addWidget(m_size);
+  m_detailLayout->addLayout(m_header);
+}
+
+// Where a word of the title is too long for its room beside the size, the size comes below.
+void CleanupDetail::placeSize() {
+  if (!m_title) return;
+  m_title->ensurePolished(); // its font comes from the style sheet
+  int longest = 0;
+  for (const QString& word : m_title->text().split(u' '))
+    longest = std::max(longest, m_title->fontMetrics().horizontalAdvance(word));
+  const int bar = m_detailScroll->verticalScrollBar()->sizeHint().width();
+  const int room = width() - kMargins.left() - kMargins.right() - kFrame.left() - kFrame.right() - bar - kHeaderTile -
+                   2 * kHeaderSpacing - m_size->sizeHint().width();
+  const bool isBelow = longest > room;
+  if (isBelow == (m_titleLines->indexOf(m_size) >= 0)) return;
+  (isBelow ? static_cast<QBoxLayout*>(m_header) : m_titleLines)->removeWidget(m_size);
+  (isBelow ? static_cast<QBoxLayout*>(m_titleLines) : m_header)->addWidget(m_size);
+  const Qt::Alignment side = isBelow ? Qt::AlignLeft : Qt::AlignRight;
+  for (QLabel* line : m_size->findChildren<QLabel*>()) line->setAlignment(side | Qt::AlignVCenter);
 }
 
 // What can't be undone is said as a warning.
@@ -267,8 +293,9 @@ void CleanupDetail::addNotes(const CategoryResult& result) {
 
 void CleanupDetail::addItemsHeading(const CategoryResult& result) {
   QHBoxLayout* heading = hbox(0, kItemsHeadingMargins);
-  heading->addWidget(eyebrow(CleanupWords::tr("Largest items")));
-  heading->addStretch();
+  QLabel* title = eyebrow(CleanupWords::tr("Largest items"));
+  title->setWordWrap(true); // the button beside it may take most of the room
+  heading->addWidget(title, 1);
   const QString largest = result.items.first().path;
   if (!largest.isEmpty()) {
     //: Button; %1: the file manager, Finder or Files

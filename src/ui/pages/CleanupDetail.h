@@ -14,6 +14,7 @@
 
 class AppState;
 class QCheckBox;
+class QHBoxLayout;
 class QLabel;
 class QScrollArea;
 class QVBoxLayout;
@@ -53,6 +54,7 @@ class CleanupDetail : public Card {
  private:
   void rebuild();
   void placeAges();
+  void placeSize();
   void fill(const CategoryResult& result);
   void addHeader(const CategoryResult& result);
   void addBlurb(const CategoryDef& def);
@@ -73,6 +75,10 @@ class CleanupDetail : public Card {
   QHash<QString, qsizetype> m_shownItemLimits;                 ///< by category; without an entry the first few
   QList<std::pair<QPointer<QCheckBox>, QString>> m_itemChecks; ///< with the item's path
   QList<QLabel*> m_ages;
+  QLabel* m_title = nullptr;             ///< null where no category is on show, and nor are the next three
+  QHBoxLayout* m_header = nullptr;       ///< its row
+  QVBoxLayout* m_titleLines = nullptr;   ///< what stands below it
+  QWidget* m_size = nullptr;             ///< in its row, or below it
   QPointer<QCheckBox> m_detailSelectAll; ///< null where there is none
   QList<QWidget*> m_focusStops;
   QPointer<KeyboardFocus> m_moreFocus; ///< of the button that shows more items

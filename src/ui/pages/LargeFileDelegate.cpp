@@ -97,7 +97,8 @@ void paintAge(QPainter* painter, const QRect& room, const QDateTime& lastUsed, i
   const Theme& theme = Theme::get();
   const bool unused = fmt::monthsSince(lastUsed) >= unusedMonths;
   painter->setFont(theme.font(kTextPx, unused ? kMedium : kRegular));
-  paintText(painter, room, kRightMiddle, unused ? theme.warn : theme.text2, fmt::age(lastUsed));
+  paintText(painter, room, kRightMiddle, unused ? theme.warn : theme.text2,
+            painter->fontMetrics().elidedText(fmt::age(lastUsed), Qt::ElideRight, room.width()));
 }
 
 /// Every piece at the other side of the cell, with its shape as it is.

@@ -126,6 +126,7 @@ Card* LargeFilesResultsView::buildList() {
 
 FooterBar* LargeFilesResultsView::buildFooter() {
   m_sum->setObjectName("sum"_L1);
+  m_sum->setWordWrap(true); // the buttons beside it have long texts in some languages
   m_move->setObjectName("moveButton"_L1);
   m_reveal->setObjectName("revealButton"_L1);
   auto* footer = new FooterBar;

@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace ui {
@@ -58,7 +60,7 @@ LegendItem::LegendItem(const QString& label, const QString& amount, const QBrush
   lines->addWidget(figure);
   setLayout(lines);
   const int whole = sizeHint().width();
-  setMinimumWidth(whole <= kShort ? whole : kLeastOfLong);
+  setMinimumWidth(whole <= kShort ? whole : std::max(kLeastOfLong, figure->sizeHint().width()));
 }
 
 } // namespace ui

@@ -15,6 +15,7 @@
 #include "ui/controls/factory.h"
 #include "ui/pages/CategoryTile.h"
 #include "ui/pages/Chip.h"
+#include "ui/pages/ChipRow.h"
 #include "ui/pages/LegendItem.h"
 #include "ui/pages/StatCard.h"
 #include "ui/visuals/DiskOrb.h"
@@ -47,7 +48,6 @@ constexpr int kEyebrowGap = 8;
 constexpr int kHeadlineGap = 10;
 constexpr int kLegendGap = 22; // above and below the legend
 constexpr int kLegendSpacing = 26;
-constexpr int kChipSpacing = 8;
 constexpr int kStatSpacing = 14;
 constexpr int kHistoryIconSize = 26;
 constexpr int kCalendarIconSize = 30;
@@ -151,20 +151,17 @@ QVBoxLayout* OverviewPage::buildHeroText() {
   column->addSpacing(kLegendGap);
   column->addLayout(m_legend);
   column->addSpacing(kLegendGap);
-  column->addLayout(buildChips());
+  column->addWidget(buildChips());
   column->addStretch(1);
   return column;
 }
 
-QHBoxLayout* OverviewPage::buildChips() {
+ChipRow* OverviewPage::buildChips() {
   m_scanChipText = new ElidedLabel({}, "mono");
   m_scanChipText->setStyleSheet(u"font-size: 12px;"_s);
-  QHBoxLayout* chips = hbox(kChipSpacing);
   //: Mark with a green dot: they are never touched
-  chips->addWidget(new Chip(new ElidedLabel(Words::tr("System files protected"), "caption"), Chip::Dot::Good), 1);
-  chips->addWidget(new Chip(m_scanChipText), 1);
-  chips->addStretch();
-  return chips;
+  auto* safe = new Chip(new ElidedLabel(Words::tr("System files protected"), "caption"), Chip::Dot::Good);
+  return new ChipRow({safe, new Chip(m_scanChipText)});
 }
 
 QWidget* OverviewPage::buildStats() {

@@ -15,6 +15,7 @@ namespace ui {
 
 class Button;
 class CategoryTile;
+class ChipRow;
 class DiskOrb;
 class ElidedLabel;
 class Headline;
@@ -49,7 +50,7 @@ class OverviewPage : public QWidget {
   QWidget* buildHeader();
   QWidget* buildHero();
   QVBoxLayout* buildHeroText();
-  QHBoxLayout* buildChips();
+  ChipRow* buildChips();
   QWidget* buildStats();
   QHBoxLayout* buildTilesHead();
 

@@ -56,6 +56,7 @@ QWidget* settingsRow(const SettingsRowWords& words, QWidget* control, QWidget* s
   line->addWidget(rowTile(words.icon));
   QLabel* title = label(words.title);
   title->setStyleSheet(u"font-weight: 500;"_s);
+  title->setWordWrap(true); // the controls beside it don't give way
   line->addWidget(title, 1);
   if (second) line->addWidget(second);
   line->addWidget(control);

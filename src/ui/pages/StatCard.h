@@ -1,4 +1,5 @@
-/// A card with one figure, what it says, and a small picture at its right.
+/// A card with one figure, what it says, and a small picture at its right. A word that stands in for a figure, as
+/// "Weekly" does, is made smaller where there is little room.
 #pragma once
 
 #include "ui/accessible.h"
@@ -21,9 +22,15 @@ class StatCard : public Card, public AccessibleText {
   /// "Scheduled scan, Weekly"; the caption alone where the value is a dash.
   [[nodiscard]] QString shownText() const override;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
+  void fitValue();
+
   QLabel* m_value;
   QLabel* m_caption;
+  int m_valuePx = 0; ///< the size of the value's font
 };
 
 } // namespace ui

@@ -39,7 +39,7 @@ constexpr int kMostColumn = 240;
 // Of what stands in that column.
 constexpr int kFontPx = 13;
 constexpr int kSizeWeight = 600;
-constexpr int kLabelWeight = 500;
+constexpr int kLabelWeight = 600; // as buttons have it
 
 /// Tells on its tool tip what the item is.
 class Title : public Label {
@@ -47,6 +47,7 @@ class Title : public Label {
   explicit Title(const SystemDataItem& item) : Label(item.title) {
     setProperty("role", u"strong"_s); // as it is dressed later, once
     setToolTip(item.blurb);
+    setWordWrap(true);
   }
 
  protected:

@@ -117,6 +117,7 @@ StatPair statPair(const QString& caption, const StatSizes& sizes) {
   StatPair pair{.layout = vbox(kStatSpacing), .value = centredLabel({}, "num")};
   pair.value->setStyleSheet(fontSize(sizes.value));
   QLabel* below = centredLabel(caption, "micro");
+  below->setWordWrap(true); // several stand side by side
   if (sizes.caption > 0) below->setStyleSheet(fontSize(sizes.caption));
   below->setBuddy(pair.value); // tells screen readers what the value is of
   pair.layout->addWidget(pair.value);

@@ -17,7 +17,7 @@ namespace ui {
 namespace {
 
 // Lengths in pixels.
-constexpr int kWidth = 340;
+constexpr int kLeastWidth = 340; // long texts on its buttons make it wider
 constexpr int kGap = 4;
 constexpr QMargins kMargins(28, 28, 28, 22);
 constexpr int kLogo = 72;
@@ -36,7 +36,7 @@ QLabel* centred(const QString& text, const char* role) {
 
 AboutDialog::AboutDialog(QWidget* parent) : Overlay(parent) {
   setAccessibleName(identity::kName);
-  panel->setFixedWidth(kWidth);
+  panel->setMinimumWidth(kLeastWidth);
   QVBoxLayout* column = vbox(kGap, kMargins);
   addIdentity(column);
   addButtons(column);

@@ -10,12 +10,15 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include <algorithm>
+
 namespace ui {
 namespace {
 
 using commands::Menu;
 // Lengths in pixels.
-constexpr int kWidth = 640;
+constexpr int kLeastWidth = 640;
+constexpr int kBesidePanel = 40; // to the edges of the area that it covers, at least
 constexpr QMargins kMargins(28, 24, 28, 22);
 constexpr int kBelowTitle = 18;
 constexpr int kBetweenColumns = 36;
@@ -35,7 +38,6 @@ QString plainText(const QAction* action) {
 ShortcutsOverlay::ShortcutsOverlay(const CommandSet& commands, QWidget* parent) : Overlay(parent) {
   const QString title = OverlayWords::tr("Keyboard shortcuts");
   setAccessibleName(title);
-  panel->setFixedWidth(kWidth);
   QVBoxLayout* body = vbox(0, kMargins);
   body->addWidget(label(title, "h2"));
   body->addSpacing(kBelowTitle);
@@ -46,6 +48,17 @@ ShortcutsOverlay::ShortcutsOverlay(const CommandSet& commands, QWidget* parent) 
   body->addSpacing(kAboveFooter);
   addFooter(body);
   panel->setLayout(body);
+  fitWidth();
+}
+
+// As wide as its columns want it. Where the window is too narrow for that, long names wrap.
+void ShortcutsOverlay::fitWidth() {
+  for (QLabel* text : panel->findChildren<QLabel*>()) text->ensurePolished(); // its font comes from the style sheet
+  const int room = parentWidget()->width() - 2 * kBesidePanel;
+  const int wanted = panel->layout()->sizeHint().width();
+  if (wanted > std::max(room, kLeastWidth))
+    for (QLabel* text : panel->findChildren<QLabel*>()) text->setWordWrap(true);
+  panel->setFixedWidth(std::clamp(wanted, kLeastWidth, std::max(room, kLeastWidth)));
 }
 
 QVBoxLayout* ShortcutsOverlay::column(const CommandSet& commands, std::initializer_list<Menu> menus) const {

@@ -22,6 +22,7 @@ class ShortcutsOverlay : public Overlay {
   [[nodiscard]] QVBoxLayout* column(const CommandSet& commands, std::initializer_list<commands::Menu> menus) const;
   [[nodiscard]] QGridLayout* group(const CommandSet& commands, commands::Menu menu) const;
   void addFooter(QVBoxLayout* body);
+  void fitWidth();
 };
 
 } // namespace ui

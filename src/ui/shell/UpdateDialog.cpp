@@ -162,6 +162,7 @@ UpdateDialog::UpdateDialog(Updater* updater, QWidget* parent, Wish wish)
 void UpdateDialog::addHead(QVBoxLayout* body) {
   QLabel* logo = label({});
   logo->setPixmap(icons::appIcon().pixmap(QSize(kLogo, kLogo), panel->devicePixelRatioF()));
+  m_title->setWordWrap(true);
   QVBoxLayout* words = vbox(kTitleGap);
   words->addWidget(m_title);
   words->addWidget(m_subtitle);

@@ -189,13 +189,13 @@ void TestPseudoWords::growsAndKeepsWhatIsNoText_data() {
 
 void TestPseudoWords::growsAndKeepsWhatIsNoText() {
   QFETCH(QString, source);
-  QTEST(pseudo::text(source, 0.4), "text");
-  QCOMPARE(pseudo::text(source, 0.4, pseudo::Brackets::Left), pseudo::text(source, 0.4).chopped(1).mid(1));
+  QTEST(pseudo::text(source), "text");
+  QCOMPARE(pseudo::text(source, {}, pseudo::Brackets::Left), pseudo::text(source).chopped(1).mid(1));
 }
 
 void TestPseudoWords::translatesWhatStandsInTheCatalogue() {
   const PseudoLanguage& language = *m_language;
-  QCOMPARE(language.translate("Platform", "Trash", nullptr, -1), pseudo::text(u"Trash"_s, 0.4));
+  QCOMPARE(language.translate("Platform", "Trash", nullptr, -1), pseudo::text(u"Trash"_s));
   QCOMPARE(language.translate("Sidebar", "Trash", nullptr, -1), QString()); // not in that context
   QCOMPARE(language.translate("Platform", "Rubbish", nullptr, -1), QString());
   // A count is filled in by whoever asked.

@@ -189,7 +189,7 @@ class SystemDataTest : public QObject {
   /// The label of this role that says the size of a row, or null.
   [[nodiscard]] static QLabel* sizeOf(const ui::SystemDataRow* row) {
     for (QLabel* one : row->findChildren<QLabel*>())
-      if (one->wordWrap()) return one;
+      if (one->wordWrap() && one->alignment() & Qt::AlignRight) return one;
     return nullptr;
   }
 

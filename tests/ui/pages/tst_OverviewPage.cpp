@@ -106,7 +106,8 @@ void TestOverviewPage::heroHolds() {
 
 void TestOverviewPage::chipRow() {
   const Shown shown;
-  const auto* row = qobject_cast<QHBoxLayout*>(shown.heroText()->itemAt(9)->layout());
+  const auto* chips = qobject_cast<ui::ChipRow*>(shown.heroText()->itemAt(9)->widget());
+  const auto* row = qobject_cast<QHBoxLayout*>(chips->layout());
   QCOMPARE(row->spacing(), 8);
   QCOMPARE(row->contentsMargins(), QMargins());
   QCOMPARE(row->count(), 3);
