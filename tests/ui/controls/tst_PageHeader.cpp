@@ -90,6 +90,7 @@ class TestPageHeader : public QObject {
   void linesHaveTheirRoles();
   void emptyLinesLeaveNoGap();
   void actionsStandAtTheBottomRight();
+  void longTitleWrapsBesideTheActions();
   void toolbarPutsTheEyebrowBehindTheTitle();
   void toolbarWithoutEyebrow();
   void toolbarShowsSpecialCharacters_data();
@@ -217,6 +218,19 @@ void TestPageHeader::actionsStandAtTheBottomRight() {
   shown.settle();
   QCOMPARE(second->y(), 6);
   QCOMPARE(Lines(*shown.header).title->x(), 100);
+}
+
+void TestPageHeader::longTitleWrapsBesideTheActions() {
+  PageHeader header(u"A title as long as some languages have it"_s);
+  auto* action = new QPushButton(u"Select recommended"_s);
+  header.addAction(action);
+  header.resize(900, header.heightForWidth(900));
+  header.show();
+  const int line = header.height();
+  header.resize(420, header.heightForWidth(420));
+  QCoreApplication::processEvents();
+  QVERIFY(header.height() > line);
+  QVERIFY(action->width() >= action->sizeHint().width());
 }
 
 void TestPageHeader::toolbarPutsTheEyebrowBehindTheTitle() {

@@ -20,6 +20,7 @@
 #include "ui/controls/PageHeader.h"
 #include "ui/pages/CategoryTile.h"
 #include "ui/pages/Chip.h"
+#include "ui/pages/ChipRow.h"
 #include "ui/pages/LegendItem.h"
 #include "ui/pages/StatCard.h"
 #include "ui/visuals/DiskOrb.h"
@@ -105,7 +106,7 @@ struct Shown {
   [[nodiscard]] QLayout* heroText() const { return orb()->parentWidget()->layout()->itemAt(1)->layout(); }
   [[nodiscard]] QString diskLine() const { return qobject_cast<QLabel*>(heroText()->itemAt(5)->widget())->text(); }
   [[nodiscard]] QString scanChip() const {
-    return qobject_cast<ui::Chip*>(heroText()->itemAt(9)->layout()->itemAt(1)->widget())->shownText();
+    return qobject_cast<ui::Chip*>(heroText()->itemAt(9)->widget()->layout()->itemAt(1)->widget())->shownText();
   }
   [[nodiscard]] QStringList legend() const {
     QStringList all;

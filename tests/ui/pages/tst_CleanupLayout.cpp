@@ -65,6 +65,7 @@ class TestCleanupLayout : public CleanupTest {
   void listRow();
   void blockedListRow();
   void detailHead();
+  void sizeGoesBelowAnEndlessWord();
   void detailItems();
   void detailEnds();
   void cleaningView();
@@ -283,6 +284,27 @@ void TestCleanupLayout::detailHead() {
   QCOMPARE(heading->contentsMargins(), QMargins(0, 22, 0, 8));
   QCOMPARE(button(detail(), u"Show in Files"_s)->property("kind").toString(), u"link"_s);
   QVERIFY(qobject_cast<ui::Divider*>(detailColumn()->itemAt(4)->widget()));
+}
+
+void TestCleanupLayout::sizeGoesBelowAnEndlessWord() {
+  CategoryResult temp = category(u"temp"_s, sizes(2));
+  temp.def.title = u"Zwischenspeicherbereinigungen und mehr"_s;
+  review({temp});
+  const auto isBelow = [this] {
+    const auto* header = boxOf(detailColumn()->itemAt(0));
+    return find("detailValue")->mapTo(detail(), QPoint()).x() < header->geometry().center().x();
+  };
+  m_page->resize(1400, 780);
+  settle();
+  QVERIFY(!isBelow());
+  QVERIFY(find<QLabel>("detailValue")->alignment() & Qt::AlignRight);
+  m_page->resize(724, 600);
+  settle();
+  QVERIFY(isBelow());
+  QVERIFY(find<QLabel>("detailValue")->alignment() & Qt::AlignLeft);
+  m_page->resize(1400, 780);
+  settle();
+  QVERIFY(!isBelow());
 }
 
 void TestCleanupLayout::detailItems() {

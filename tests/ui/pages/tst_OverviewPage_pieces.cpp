@@ -8,6 +8,7 @@
 #include "ui/controls/factory.h"
 #include "ui/pages/CategoryTile.h"
 #include "ui/pages/Chip.h"
+#include "ui/pages/ChipRow.h"
 #include "ui/pages/LegendItem.h"
 #include "ui/pages/StatCard.h"
 
@@ -84,6 +85,9 @@ class TestOverviewPagePieces : public QObject {
 
   void statCardHolds();
   void statCardIsReadOut();
+  void statCardMakesAWordSmaller();
+
+  void chipsStandBesideEachOtherWhereTheyFit();
 
   void tileHolds();
   void tileWithoutAmount();
@@ -277,6 +281,42 @@ void TestOverviewPagePieces::statCardIsReadOut() {
   QCOMPARE(accessible(card)->role(), QAccessible::StaticText);
   card.set(u"—"_s, u"Never scanned"_s);
   QCOMPARE(nameOf(card), u"Never scanned"_s);
+}
+
+void TestOverviewPagePieces::statCardMakesAWordSmaller() {
+  auto* visual = new QWidget;
+  visual->setFixedSize(30, 30);
+  StatCard card(visual);
+  card.set(u"Hebdomadaire"_s, u"Analyse"_s);
+  auto* value = qobject_cast<QLabel*>(card.layout()->itemAt(0)->layout()->itemAt(0)->widget());
+  const auto pxAt = [&](int width) {
+    card.resize(width, 80);
+    card.show();
+    QCoreApplication::processEvents();
+    return value->font().pixelSize();
+  };
+  QCOMPARE(pxAt(400), 20);
+  const int least = pxAt(card.minimumSizeHint().width());
+  QCOMPARE(least, 15);
+  QVERIFY(QFontMetrics(value->font()).horizontalAdvance(value->text()) <= value->width());
+  const int between = pxAt((card.minimumSizeHint().width() + 232) / 2);
+  QVERIFY2(between > 15 && between < 20, qPrintable(QString::number(between)));
+  QCOMPARE(pxAt(400), 20);
+}
+
+void TestOverviewPagePieces::chipsStandBesideEachOtherWhereTheyFit() {
+  auto* second = new Chip(new ui::ElidedLabel(u"Scanned today"_s));
+  ui::ChipRow row({new Chip(new ui::ElidedLabel(u"System files protected"_s)), second});
+  row.show();
+  row.resize(600, 60);
+  QVERIFY(!row.isStacked());
+  QCOMPARE(row.layout()->spacing(), 8);
+  row.resize(200, 60);
+  QVERIFY(row.isStacked());
+  row.resize(600, 60);
+  QVERIFY(!row.isStacked());
+  second->text()->setText(u"Scanned "_s.repeated(30)); // a text of its own makes it longer
+  QTRY_VERIFY(row.isStacked());
 }
 
 void TestOverviewPagePieces::tileHolds() {
