@@ -1,10 +1,8 @@
-/// Chips side by side; one below the other where that shortens one of them.
+/// Chips side by side; one below the other where that would shorten one of them.
 #pragma once
 
 #include <QList>
 #include <QWidget>
-
-class QBoxLayout;
 
 namespace ui {
 
@@ -17,17 +15,19 @@ class ChipRow : public QWidget {
   /// @param chips  from the layout's start; the row becomes their parent
   explicit ChipRow(const QList<Chip*>& chips, QWidget* parent = nullptr);
 
-  [[nodiscard]] bool isStacked() const;
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+  [[nodiscard]] int heightForWidth(int width) const override;
 
  protected:
-  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void arrange();
+  [[nodiscard]] bool isStacked(int width) const;
+  void place();
 
   QList<Chip*> m_chips;
-  QBoxLayout* m_box;
 };
 
 } // namespace ui

@@ -39,7 +39,9 @@ constexpr int kMostColumn = 240;
 // Of what stands in that column.
 constexpr int kFontPx = 13;
 constexpr int kSizeWeight = 600;
-constexpr int kLabelWeight = 600; // as buttons have it
+constexpr int kLabelWeight = 500;
+constexpr int kPaintedWeight = 600; // that of buttons, which is wider in some fonts
+constexpr int kAroundLabel = 34;    // padding and border of a button
 
 /// Tells on its tool tip what the item is.
 class Title : public Label {
@@ -70,14 +72,17 @@ int systemDataColumn(int widestSize, int widestLabel) {
 int systemDataColumn(const QList<SystemDataItem>& items) {
   const QFontMetrics sizes(Theme::get().mono(kFontPx, kSizeWeight));
   const QFontMetrics labels(Theme::get().font(kFontPx, kLabelWeight));
+  const QFontMetrics painted(Theme::get().font(kFontPx, kPaintedWeight));
   int widestSize = 0;
   int widestLabel = 0;
+  int widestButton = 0;
   for (const SystemDataItem& item : items) {
     if (!hasRow(item)) continue;
     widestSize = std::max(widestSize, sizes.horizontalAdvance(SystemDataWords::sizeOf(item)));
     widestLabel = std::max(widestLabel, labels.horizontalAdvance(item.actionLabel()));
+    widestButton = std::max(widestButton, painted.horizontalAdvance(item.actionLabel()) + kAroundLabel);
   }
-  return systemDataColumn(widestSize, widestLabel);
+  return std::max(systemDataColumn(widestSize, widestLabel), std::min(widestButton, kMostColumn));
 }
 
 SystemDataRow::SystemDataRow(const SystemDataItem& item, int column, bool busy, QWidget* parent)

@@ -106,7 +106,7 @@ struct Shown {
   [[nodiscard]] QLayout* heroText() const { return orb()->parentWidget()->layout()->itemAt(1)->layout(); }
   [[nodiscard]] QString diskLine() const { return qobject_cast<QLabel*>(heroText()->itemAt(5)->widget())->text(); }
   [[nodiscard]] QString scanChip() const {
-    return qobject_cast<ui::Chip*>(heroText()->itemAt(9)->widget()->layout()->itemAt(1)->widget())->shownText();
+    return heroText()->itemAt(9)->widget()->findChildren<ui::Chip*>().at(1)->shownText();
   }
   [[nodiscard]] QStringList legend() const {
     QStringList all;

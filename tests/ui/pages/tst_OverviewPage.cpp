@@ -106,16 +106,12 @@ void TestOverviewPage::heroHolds() {
 
 void TestOverviewPage::chipRow() {
   const Shown shown;
-  const auto* chips = qobject_cast<ui::ChipRow*>(shown.heroText()->itemAt(9)->widget());
-  const auto* row = qobject_cast<QHBoxLayout*>(chips->layout());
-  QCOMPARE(row->spacing(), 8);
-  QCOMPARE(row->contentsMargins(), QMargins());
-  QCOMPARE(row->count(), 3);
-  const auto* guarded = qobject_cast<ui::Chip*>(row->itemAt(0)->widget());
-  const auto* scan = qobject_cast<ui::Chip*>(row->itemAt(1)->widget());
-  QCOMPARE(row->stretch(0), 1);
-  QCOMPARE(row->stretch(1), 1);
-  QVERIFY(row->itemAt(2)->spacerItem());
+  const auto* row = qobject_cast<ui::ChipRow*>(shown.heroText()->itemAt(9)->widget());
+  QVERIFY(row);
+  const auto chips = row->findChildren<ui::Chip*>();
+  QCOMPARE(chips.size(), 2);
+  const ui::Chip* guarded = chips[0];
+  const ui::Chip* scan = chips[1];
   QCOMPARE(guarded->layout()->contentsMargins().left(), 24); // dotted
   QCOMPARE(guarded->shownText(), u"System files protected"_s);
   QCOMPARE(roleOf(guarded->text()), u"caption"_s);

@@ -305,18 +305,26 @@ void TestOverviewPagePieces::statCardMakesAWordSmaller() {
 }
 
 void TestOverviewPagePieces::chipsStandBesideEachOtherWhereTheyFit() {
+  auto* first = new Chip(new ui::ElidedLabel(u"System files protected"_s));
   auto* second = new Chip(new ui::ElidedLabel(u"Scanned today"_s));
-  ui::ChipRow row({new Chip(new ui::ElidedLabel(u"System files protected"_s)), second});
+  ui::ChipRow row({first, second});
   row.show();
-  row.resize(600, 60);
-  QVERIFY(!row.isStacked());
-  QCOMPARE(row.layout()->spacing(), 8);
-  row.resize(200, 60);
-  QVERIFY(row.isStacked());
-  row.resize(600, 60);
-  QVERIFY(!row.isStacked());
-  second->text()->setText(u"Scanned "_s.repeated(30)); // a text of its own makes it longer
-  QTRY_VERIFY(row.isStacked());
+  const int wanted = row.sizeHint().width();
+  QCOMPARE(wanted, first->sizeHint().width() + 8 + second->sizeHint().width());
+  QCOMPARE(row.heightForWidth(wanted), 28);
+  QCOMPARE(row.heightForWidth(wanted - 1), 28 + 8 + 28);
+  row.resize(wanted, 28);
+  QCOMPARE(first->geometry(), QRect(QPoint(), first->sizeHint()));
+  QCOMPARE(second->geometry(), QRect(QPoint(first->width() + 8, 0), second->sizeHint()));
+  row.resize(wanted - 1, 64);
+  QCOMPARE(second->geometry(), QRect(QPoint(0, 36), second->sizeHint()));
+  row.setLayoutDirection(Qt::RightToLeft);
+  row.resize(wanted + 50, 28);
+  QCOMPARE(first->geometry().right() + 1, row.width());
+  row.setLayoutDirection(Qt::LeftToRight);
+  row.resize(wanted, 28);
+  second->text()->setText(u"Scanned "_s.repeated(30)); // which makes it longer than the row
+  QTRY_COMPARE(second->geometry(), QRect(0, 36, wanted, 28));
 }
 
 void TestOverviewPagePieces::tileHolds() {

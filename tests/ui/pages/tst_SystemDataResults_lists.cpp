@@ -218,7 +218,9 @@ void TestSystemDataResultsLists::columnIsOneForAllRows() {
   };
   put({item(u"a"_s, kGB), managed(u"b"_s, kGB), item(u"c"_s, kGB, SystemDataItem::CleanInCleanup)});
   const QFontMetrics labels(Theme::get().font(13, 500));
-  const int usual = qMax(150, labels.horizontalAdvance(u"Clean in Cleanup"_s) + 40);
+  const QFontMetrics painted(Theme::get().font(13, 600));
+  const int usual = std::max({150, labels.horizontalAdvance(u"Clean in Cleanup"_s) + 40,
+                              painted.horizontalAdvance(u"Clean in Cleanup"_s) + 34});
   QCOMPARE(widths(), QSet<int>({usual}));
 
   Marking marking; // "[SystemData]Clean in Cleanup"
