@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QPainter>
 #include <QPalette>
 #include <QRadialGradient>
@@ -143,6 +144,12 @@ constexpr HanFamilies kHanFamilies[] = {
     {"ko"_L1, {"Noto Sans CJK KR", "Source Han Sans K", "NanumGothic"}},
 };
 
+// A desktop may name no family but a kind, "Sans Serif". No font bears that name, so that a substitute would stand in
+// for all of it; the family that is really shown goes before it.
+void keepFace(const QFont& font) {
+  if (!QFontDatabase::hasFamily(font.family())) QFont::insertSubstitution(font.family(), QFontInfo(font).family());
+}
+
 // As a substitute of the interface font it serves every font that falls back to that one, the style sheet's included.
 void preferHanFamily() {
   const QString language = i18n::effectiveLanguage();
@@ -150,6 +157,8 @@ void preferHanFamily() {
     if (row.language != language) continue;
     for (const char* family : row.families)
       if (const QString name = QString::fromLatin1(family); QFontDatabase::hasFamily(name)) {
+        keepFace(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+        keepFace(QFontDatabase::systemFont(QFontDatabase::GeneralFont));
         QFont::insertSubstitution(generalFamily(), name);
         return;
       }

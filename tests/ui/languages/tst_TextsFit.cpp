@@ -15,8 +15,12 @@
 #include "ui/shell/Sidebar.h"
 #include "ui/shell/Toast.h"
 
+#include <QFontDatabase>
+#include <QGlyphRun>
 #include <QMenu>
 #include <QPropertyAnimation>
+#include <QRawFont>
+#include <QTextLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -90,6 +94,17 @@ QWidget* foreground(gallery::Scene* scene) {
   return &scene->window;
 }
 
+/// The families that a Latin text is really shown in.
+QStringList facesOf(const QFont& font) {
+  QTextLayout layout(u"88 MB Clean"_s, font);
+  layout.beginLayout();
+  layout.createLine();
+  layout.endLayout();
+  QStringList faces;
+  for (const QGlyphRun& run : layout.glyphRuns()) faces << run.rawFont().familyName().toLower();
+  return faces;
+}
+
 /// In the foreground and in the menus that are open.
 QStringList misfitsOf(gallery::Scene* scene, const QString& where) {
   constexpr int kRounds = 6; // in which layouts within layouts have heard of the window's size
@@ -109,18 +124,30 @@ class TestTextsFit : public QObject {
 
  private slots:
   void initTestCase();
+  void latinKeepsItsFace();
   void everyView_data();
   void everyView();
 
  private:
   std::unique_ptr<PseudoLanguage> m_longer;
+  QStringList m_general; ///< the faces of the desktop's fonts, before the program has its say
+  QStringList m_fixed;
 };
 
 void TestTextsFit::initTestCase() {
+  const auto system = [](QFontDatabase::SystemFont kind) { return facesOf(QFontDatabase::systemFont(kind)); };
+  m_general = system(QFontDatabase::GeneralFont);
+  m_fixed = system(QFontDatabase::FixedFont);
   Theme::get().install(qApp);
   if (qEnvironmentVariableIsSet("TARNWICK_LANG")) return;
   m_longer = std::make_unique<PseudoLanguage>(QStringLiteral(TARNWICK_CATALOGUE), kGrowth, pseudo::Brackets::Left);
   qApp->installTranslator(m_longer.get());
+}
+
+// A family for Han characters has letters too, which aren't those of the interface.
+void TestTextsFit::latinKeepsItsFace() {
+  QCOMPARE(facesOf(Theme::get().font(13, 400)), m_general);
+  QCOMPARE(facesOf(Theme::get().mono(13, 400)), m_fixed);
 }
 
 void TestTextsFit::everyView_data() {
