@@ -125,6 +125,7 @@ class TestTextsFit : public QObject {
  private slots:
   void initTestCase();
   void latinKeepsItsFace();
+  void sidebarStaysInItsBounds();
   void everyView_data();
   void everyView();
 
@@ -148,6 +149,14 @@ void TestTextsFit::initTestCase() {
 void TestTextsFit::latinKeepsItsFace() {
   QCOMPARE(facesOf(Theme::get().font(13, 400)), m_general);
   QCOMPARE(facesOf(Theme::get().mono(13, 400)), m_fixed);
+}
+
+void TestTextsFit::sidebarStaysInItsBounds() {
+  gallery::Scene scene;
+  scene.window.setSidebarCollapsed(false);
+  scene.window.show();
+  const int width = scene.window.findChild<ui::Sidebar*>()->width();
+  QVERIFY2(width >= ui::sidebarWidth(0) && width < ui::sidebarWidth(10'000), qPrintable(QString::number(width)));
 }
 
 void TestTextsFit::everyView_data() {
