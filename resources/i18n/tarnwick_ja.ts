@@ -385,7 +385,7 @@
     <message>
         <source>%1 can be cleaned</source>
         <extracomment>Heading; %1: a size</extracomment>
-        <translation>%1をクリーンアップできます</translation>
+        <translation>%1をクリーンアップ可能</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:%1&apos;&gt;%2&lt;/b&gt; selected%3</source>
